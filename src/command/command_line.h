@@ -1,0 +1,47 @@
+#pragma once
+
+#include "support/string_builder.h"
+
+#include <QString>
+#include <QStringList>
+
+/// The command line of one child: its text, every blank as the system words it, and the list of arguments that the
+/// child receives. Both grow together, option by option, so that a value stays exactly one argument whatever it
+/// contains: a hostile title or file name can't smuggle an option in.
+///
+/// The argument of a value is its text without one outer pair of quotes, with every backslash-quote pair and every
+/// three quotes in a row made one quote.
+class Command_Line
+{
+  public:
+    /// Text that is one argument of its own: Add(u" --ui-language", u"--ui-language").
+    void Add(const QString& text, const QString& argument);
+    /// Options without a value: " --no-audio", or several in one text, " --chapter-language eng --chapters"; blanks
+    /// separate the arguments. Only for literals of our own.
+    void Add_Options(const QString& text);
+    /// An option and its value: text is `option` followed by `value`; `option` ends in the blanks that separate them.
+    /// One argument for the option's word, one for the value.
+    void Add_Option(const QString& option, const QString& value);
+    /// " ( " + quoted path + " )": the source or a companion. The argument is the path itself.
+    void Add_Input(const QString& path);
+    /// " " + quoted path, whose argument is the path itself.
+    void Add_Path(const QString& option, const QString& path);
+
+    QString Text() const { return text_.ToString(); }
+
+    const QStringList& Arguments() const { return arguments_; }
+
+    /// The argument that a value's text becomes.
+    static QString Argument_Of(const QString& value);
+    /// True for a value whose argument mkvmerge would take for a file of options: it begins with "@". Such a value is
+    /// left out together with its option, and the caller writes the line of Refused_Value to Log_Faults.
+    static bool Is_Refused(const QString& value);
+    static QString Refused_Value(const QString& option, const QString& value);
+
+  private:
+    clsStringBuilder text_;
+    QStringList arguments_;
+};
+
+/// The arguments in POSIX shell quoting, joined by blanks: what --dry-run prints.
+QString Shell_Quoted(const QStringList& arguments);

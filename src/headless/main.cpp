@@ -1,0 +1,7 @@
+#include <QCoreApplication>
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    return 0;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// The accepted-video patterns, with their duplicates as they stand. Serves as a list of wild-card patterns and as a
+/// text that an extension is looked for in.
+inline const QString Video_Extensions = QStringLiteral(
+    "*.flv;*.h264;*.m2ts;*.ts;*.mts;*.mpg;*.mkv;*.avi;*.mp4;*.m4v;*.ogv;*.mov;*.m2v;*.webm;*.vob;*.264;*.avc;*.x264;"
+    "*.265;*.hevc;*.h265;*.x265;*.ivf;*.mpeg;*.mpv;*.evo;*.evob;*.vob;*.m1v;*.m2v;*.mpv;*.mpls;*.mkv;*.mk3d;*.webm;"
+    "*.webmv;*.ogv;*.rm;*.rmvb;*.rv;*.vc1;*.webmv");
+
+/// True if the extension stands anywhere in Video_Extensions, in the case it has. `out` becomes the base name then;
+/// else the extension, or empty if there is none. Deliberate: a mere fragment of the list ("m") counts as a video, and
+/// an extension in capitals doesn't unless the caller has lowered the name.
+bool Is_Video_File(const QString& path, QString& out);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "command/companions.h"
+#include "inspect/media_state.h"
+#include "inspect/tool_paths.h"
+#include "logs/log_buffers.h"
+#include "options/language_table.h"
+#include "run/run_listener.h"
+#include "run/run_state.h"
+#include "settings/job_options.h"
+#include "settings/main_form.h"
+#include "settings/settings_state.h"
+#include "support/operator.h"
+
+#include <QDateTime>
+#include <functional>
+
+/// The whole state of the program, one record for each room. There is no other: no globals, no singletons. A driver or
+/// a test makes its own.
+struct Program
+{
+    explicit Program(Operator& person) : Person(person) {}
+
+    Operator& Person;
+    JobOptions Options;
+    Main_Form Form;
+    Settings_State Settings;
+    Tool_Paths Tools;
+    Media_State Media;
+    ::Companions Companions;
+    Run_State Run;
+    Log_Buffers Logs;
+    LanguageTable Language_Table;
+    Run_Listener* Listener = nullptr; ///< may be null
+    std::function<QDateTime()> Now = [] { return QDateTime::currentDateTime(); };
+};

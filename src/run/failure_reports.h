@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+struct Program;
+
+/// The numbered failure reports: a message box, lines in Log_Faults, and a digest. Codes without an entry do nothing.
+/// `text_1` is the tool's name or path, `text_2` the file, where the report has one. Returns 0.
+int Report_Run_Failure(Program& program, int code, const QString& text_1 = {}, const QString& text_2 = {});

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "support/controls.h"
+
+#include <QString>
+
+/// What the bar and its label look like.
+enum class Progress_Look
+{
+    Idle,
+    Running,
+    Finished,
+    Interrupted
+};
+
+/// Startform as a record: what it shows beside the options themselves. Rules change it, the window renders it.
+struct Main_Form
+{
+    QString Caption;
+    Form_Place Place;
+    bool Options_Ready = false; ///< set by the first activation; until then the option rules do nothing
+    bool Closing = false;
+    bool Topmost_On = false;
+    bool Delay_Toggle = false; ///< the state behind chk_AudioDelayAdjust
+    QString Focus;             ///< name of the control that the logic gave the focus to; "btn_NOP" parks it
+
+    // Buttons and pictures
+    Button btn_RunVantorra{.Caption = QStringLiteral("Run Vantorra")};
+    Button btn_Halt{.Caption = QStringLiteral("HALT"), .Visible = false};
+    Button btn_ViewVidInfo{.Caption = QStringLiteral("View Video File Info")};
+    Panel pic_QuitButton;
+    Panel pic_ProcessFailed{.Caption = {}, .Visible = false};
+    bool img_ProcessFailed_Out = false; ///< the picture's inner image is out of its place: it flashes
+
+    // Progress
+    Label lbl_ProgressFinished{.Caption = {}, .Visible = false};
+    Progress_Look Progress = Progress_Look::Idle;
+    double Progress_Fraction = 0; ///< of the whole batch, 0 to 1
+    Label ulbl_Title1;            ///< name of the file in work
+
+    // Folder panels: the box with its headline, the path, the fault, the mark "Empty"
+    Panel pic_VideosPath{.Caption = QStringLiteral("Video Files Path (drag 'n drop)")};
+    Panel pic_AudioPath{.Caption = QStringLiteral("Audio Files Path (drag 'n drop)"), .Visible = false};
+    Panel pic_SubsPath{.Caption = QStringLiteral("Subtitle Files Path (drag 'n drop)"), .Visible = false};
+    Panel pic_ChaptersPath{.Caption = QStringLiteral("Chapter Files Path (drag 'n drop)"), .Visible = false};
+    Panel pic_TargetPath{.Caption = QStringLiteral("Target Path (drag 'n drop)")};
+    Label ulbl_VideosPath;
+    Label ulbl_AudioPath;
+    Label ulbl_SubsPath;
+    Label ulbl_ChaptersPath;
+    Label ulbl_TargetPath;
+    Label lbl_VideoPathFault{.Caption = QStringLiteral("Video Path Not Set")};
+    Label lbl_AudioPathFault{.Caption = QStringLiteral("Audio Path Not Set")};
+    Label lbl_SubsPathFault{.Caption = QStringLiteral("Subtitle Path Not Set")};
+    Label lbl_ChapsPathFault{.Caption = QStringLiteral("Chapters Path Not Set")};
+    Label lbl_TargetPathFault{.Caption = QStringLiteral("Target Path Not Set")};
+    Label lbl_AudipPathEmpty{.Caption = QStringLiteral("Empty"), .Visible = false};
+    Label lbl_SubsPathEmpty{.Caption = QStringLiteral("Empty"), .Visible = false};
+    Label lbl_ChapsPathEmpty{.Caption = QStringLiteral("Empty"), .Visible = false};
+
+    // Number boxes, and the two lines of each group's diagram (black when on, grey when off)
+    Panel pic_AudioDelayValue;
+    Text_Box txt_AudioDelayValue;
+    Panel pic_SplitVideosValue;
+    Text_Box txt_SplitVideosValue;
+    bool Audio_Diagram_On = false;
+    bool Subs_Diagram_On = false;
+
+    // Menus. The ticks of options are the options' own fields; these carry what only the form knows.
+    Menu_Item mnu_File{.Caption = QStringLiteral("&File")};
+    Menu_Item mnu_Process_Log{.Caption = QStringLiteral("&Process_Log v0")};
+    Menu_Item mnu_Settings{.Caption = QStringLiteral("&Settings")};
+    Menu_Item mnu_HiThere1{.Caption = QStringLiteral("&Help")};
+    Menu_Item mnu_VerbosityStatus{.Caption = QStringLiteral("Log Verbosity 0 - Log Process Overview Only")};
+    Menu_Item mnu_OSVersion;
+    Panel fram_WholeForm; ///< disabled while a run goes on
+};

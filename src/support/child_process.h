@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <cstddef>
+#include <optional>
+
+/// One child with both output streams in one pipe, no console and no standard input, in a process group of its own.
+/// Hands out what one read delivered and never assembles lines. Used by the tool runners only.
+///
+/// The destructor kills and reaps a child that still runs: a run-time error that unwinds through a run leaves none.
+class Child_Process
+{
+  public:
+    enum class Started
+    {
+        Yes,
+        No_Pipe,
+        No_Process
+    };
+    enum class Read
+    {
+        Data,
+        Nothing_Yet,
+        Ended
+    };
+
+    Child_Process();
+    Child_Process(const Child_Process&) = delete;
+    Child_Process& operator=(const Child_Process&) = delete;
+    ~Child_Process();
+
+    /// Starts `executable` (an absolute path; PATH is not searched) with `arguments`. A program that can't be executed
+    /// is No_Process with the system's error number in System_Error, never a child that ends with 127.
+    Started Start(const QString& executable, const QStringList& arguments);
+
+    /// What one read delivers, up to `most` bytes, into `chunk`. Returns after at most 50 ms with Nothing_Yet while the
+    /// child is silent. Ended: every writer has closed the pipe.
+    Read Read_Chunk(QByteArray& chunk, std::size_t most);
+
+    /// Kills the child's process group and reaps the child.
+    void Kill();
+
+    /// Waits until the child has ended, and reaps it. `between` is called at least every 50 ms and may end the wait by
+    /// returning false.
+    template <typename Between>
+    bool Wait(Between between)
+    {
+        while (!Reap(50))
+            if (!between())
+                return false;
+        return true;
+    }
+
+    /// The system's error number of the last failed start.
+    int System_Error() const { return system_error_; }
+
+    /// The exit status of a reaped child: 0 to 255, or minus the signal's number.
+    std::optional<int> Exit_Status() const { return exit_status_; }
+
+    /// The child's process number, 0 if there is none.
+    long Process_Number() const { return process_; }
+
+  private:
+    bool Reap(int milliseconds);
+    void Close_Pipe();
+
+    long process_ = 0;
+    int pipe_ = -1;
+    int system_error_ = 0;
+    std::optional<int> exit_status_;
+};

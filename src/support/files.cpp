@@ -1,0 +1,118 @@
+#include "support/files.h"
+
+#include "support/paths.h"
+#include "support/run_time_error.h"
+#include "support/string_builder.h"
+#include "support/text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringDecoder>
+#include <cerrno>
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+
+static fs::path Native_Path(const QString& path)
+{
+    return fs::path(QFile::encodeName(path).toStdString());
+}
+
+QStringList List_Files(const QString& folder)
+{
+    QStringList names;
+    std::error_code error;
+    for (fs::directory_iterator entry(Native_Path(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code status_error;
+        if (entry->is_regular_file(status_error))
+            names += QString::fromStdString(entry->path().filename().string());
+    }
+    return names;
+}
+
+Folder_Counts Count_Folder(const QString& folder)
+{
+    Folder_Counts counts;
+    std::error_code error;
+    for (fs::directory_iterator entry(Native_Path(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code status_error;
+        ++(entry->is_directory(status_error) ? counts.Folders : counts.Files);
+    }
+    return counts;
+}
+
+/// errno's number for a failed QFile operation; Qt keeps it only until the next system call.
+static int Failure_Number()
+{
+    return errno;
+}
+
+QByteArray Read_File(const QString& path)
+{
+    QFile file(path);
+    errno = 0;
+    if (!file.open(QIODevice::ReadOnly))
+        Raise_File_Error(u"Opening a file to read it"_s, path, Failure_Number());
+    QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        Raise_File_Error(u"Reading a file"_s, path, Failure_Number());
+    return content;
+}
+
+QStringList Read_Lines(const QString& path)
+{
+    const QByteArray bytes = Read_File(path);
+    const auto encoding = QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8);
+    QStringDecoder decoder(encoding);
+    QString text = decoder(bytes);
+    text.replace(Line_Break, u"\n"_s).replace(u'\r', u'\n');
+    QStringList lines = text.split(u'\n');
+    if (lines.constLast().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+void Write_Whole_File(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly))
+        Raise_File_Error(u"Opening a file to write it"_s, path, Failure_Number());
+    if (file.write(content) != content.size() || !file.commit())
+        Raise_File_Error(u"Writing a file"_s, path, Failure_Number());
+}
+
+bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
+{
+    // A dangling link exists as a thing to move though it names no file.
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink())
+        return true;
+    QString plain = path;
+    while (plain.size() > 1 && plain.endsWith(Path_Separator))
+        plain.chop(1);
+    if (QFile::moveToTrash(plain))
+        return true;
+    faults.AppendLine(u"-- Could not be moved to the trash - \""_s + plain + u'"');
+    return false;
+}
+
+void Recycle_If_Exists(const QString& path, clsStringBuilder& faults)
+{
+    if (File_Exists(path))
+        Delete_To_Recycle(path, faults);
+}
+
+bool Recycle_By_Prefix(const QString& folder, const QString& prefix, clsStringBuilder& faults)
+{
+    bool all_gone = true;
+    for (const QString& name : List_Files(folder))
+        if (name.startsWith(prefix))
+            all_gone = Delete_To_Recycle(With_Separator(folder) + name, faults) && all_gone;
+    return all_gone;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class clsStringBuilder;
+
+/// Files and folders on disk: listing, reading whole, writing whole, and the trash.
+
+/// The names of the regular files in a folder (and links to them), in the order in which the file system lists them,
+/// hidden ones and names that aren't valid UTF-8 included; no folder, pipe, socket or device. A folder that can't be
+/// opened gives an empty list.
+QStringList List_Files(const QString& folder);
+
+/// How many subfolders and files (of any kind) a folder holds.
+struct Folder_Counts
+{
+    int Folders = 0;
+    int Files = 0;
+};
+
+Folder_Counts Count_Folder(const QString& folder);
+
+/// The whole file as bytes; the run-time error of the file operation, naming the file, if it can't be read.
+QByteArray Read_File(const QString& path);
+/// A text file's lines, ended by CR LF, LF or CR alike, the ends cut off; UTF-8 or, with its mark, UTF-16; invalid
+/// bytes become U+FFFD. The last line counts only if it isn't empty. Errors as for Read_File.
+QStringList Read_Lines(const QString& path);
+/// Replaces a file whole or leaves it as it was; the run-time error of the file operation if it can't be written.
+void Write_Whole_File(const QString& path, const QByteArray& content);
+
+/// Moves a file or a folder to the trash. False only if something existed there and stays: then `faults` gets the line
+/// "-- Could not be moved to the trash - " and the quoted path. Nothing is ever removed for good.
+bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults);
+/// Delete_To_Recycle if the path names an existing file.
+void Recycle_If_Exists(const QString& path, clsStringBuilder& faults);
+/// Moves every file of `folder` whose name begins with `prefix`, taken literally, to the trash. False if one stays.
+bool Recycle_By_Prefix(const QString& folder, const QString& prefix, clsStringBuilder& faults);

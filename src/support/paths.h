@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+/// Names and paths: taken apart, put together, tested. A path is one literal path: "*" and "?" are letters of a name.
+
+/// The separator that a folder's path ends in.
+inline constexpr char16_t Path_Separator = u'/';
+
+/// True for an existing file. A path that doesn't begin with "/" never exists.
+bool File_Exists(const QString& path);
+/// True for an existing folder. A path that doesn't begin with "/" never exists.
+bool Folder_Exists(const QString& path);
+/// True for an existing folder; the empty text never exists. Unlike Folder_Exists it takes a relative path too.
+bool Path_Exists(const QString& path);
+
+/// `folder` with a separator at its end; the empty text stays empty.
+QString With_Separator(const QString& folder);
+
+/// Text between the last separator and the last "." behind it; without a "." there, all that follows the separator.
+QString Get_Base_Name(const QString& path);
+/// Text after the last "." of the name, its case kept; empty if there is none.
+QString Get_Extension(const QString& path);
+/// Text after the last separator.
+QString File_Name_Of(const QString& path);
+
+/// Wraps a text in double quotes if it holds a blank and doesn't already begin and end with one. Empty stays empty.
+QString Quote_Path(const QString& text);
+
+/// Matches a whole name against a list of patterns with "*" and "?", separated by ";", without regard to case; false
+/// if either text is empty.
+bool Match_File_Masks(const QString& name, const QString& masks);
+
+/// `path` if it is a folder; for a file everything up to and including the last separator; else the empty text.
+QString Folder_Of(const QString& path);
+
+/// True if both name the same folder on disk: equal as text with separators added, or equal as canonical paths.
+bool Same_Folder(const QString& one, const QString& other);
+/// True if both exist and are one file on disk (same device and inode).
+bool Same_File(const QString& one, const QString& other);

@@ -1,0 +1,57 @@
+#include "support/paths.h"
+
+#include "common/test_program.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(Paths, BaseNameAndExtensionAreCutAtTheLastDotOfTheName)
+{
+    struct Claim
+    {
+        QString Path, Base, Extension;
+    };
+
+    const Claim claims[] = {
+        {u"/in/Movie.mkv"_s, u"Movie"_s, u"mkv"_s},
+        {u"/in.d/Movie"_s, u"Movie"_s, u""_s},
+        {u"film.part1.MKV"_s, u"film.part1"_s, u"MKV"_s},
+        {u"/in/.mkv"_s, u""_s, u"mkv"_s},
+        {u"/in/Movie."_s, u"Movie"_s, u""_s},
+    };
+    for (const Claim& claim : claims) {
+        EXPECT_EQ(Get_Base_Name(claim.Path), claim.Base) << claim.Path.toStdString();
+        EXPECT_EQ(Get_Extension(claim.Path), claim.Extension) << claim.Path.toStdString();
+    }
+}
+
+TEST(Paths, QuotesAreAddedOnlyAroundBlanksAndOnlyOnce)
+{
+    EXPECT_EQ(Quote_Path(u""_s), u""_s);
+    EXPECT_EQ(Quote_Path(u"/a/b"_s), u"/a/b"_s);
+    EXPECT_EQ(Quote_Path(u"/a b"_s), u"\"/a b\""_s);
+    EXPECT_EQ(Quote_Path(u"\"/a b\""_s), u"\"/a b\""_s);
+}
+
+TEST(Paths, MasksMatchTheWholeNameWithoutCase)
+{
+    const QString masks = u"*.mp3;*.m?a"_s;
+    EXPECT_TRUE(Match_File_Masks(u"The MOVIE.Mp3"_s, masks));
+    EXPECT_TRUE(Match_File_Masks(u"x.m4a"_s, masks));
+    EXPECT_FALSE(Match_File_Masks(u"x.mp3.opt"_s, masks));
+    EXPECT_FALSE(Match_File_Masks(u""_s, masks));
+    EXPECT_FALSE(Match_File_Masks(u"x.mp3"_s, u""_s));
+}
+
+TEST(Paths, ARelativePathNeverExists)
+{
+    const Test_Program test;
+    test.Write(u"videos/a.mkv"_s);
+    EXPECT_TRUE(File_Exists(test.Path(u"videos/a.mkv"_s)));
+    EXPECT_FALSE(File_Exists(test.Path(u"videos"_s)));
+    EXPECT_TRUE(Folder_Exists(test.Path(u"videos"_s)));
+    EXPECT_FALSE(Folder_Exists(u"."_s));
+    EXPECT_TRUE(Path_Exists(u"."_s));
+    EXPECT_FALSE(Path_Exists(u""_s));
+}
