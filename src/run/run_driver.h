@@ -1,0 +1,37 @@
+#pragma once
+
+#include "support/input.h"
+
+struct Program;
+
+/// The head of a run: what the run button and the halt button do. State only; a view renders it.
+
+/// What became of a press of the run button.
+enum class Press_Result
+{
+    Ignored,    ///< not a plain left click on the button
+    Refused,    ///< a tool, a folder or the videos are missing
+    Finished,   ///< the run came to its end, whatever became of its files
+    Interrupted ///< the run was halted
+};
+
+/// A mouse button was let go over btn_RunVantorra: checks tools and folders, locks the form, runs the batch or, with
+/// chk_SplitVideos ticked, the split run, shows how it ended, writes the log entry and unlocks the form. Returns when
+/// all that is done; Run_Time_Error passes through.
+Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release);
+
+/// A mouse button was let go over btn_Halt, or what stands for it (a signal): asks the run to stop. Only a flag is set
+/// and the button's look changes; the loops see the flag and do the rest.
+void btn_Halt_MouseUp(Program& program);
+
+/// Esc without a modifier on the main form: asks the run to stop if one goes on that wasn't asked yet.
+void Halt_Key(Program& program);
+
+/// Empties the progress bar and hides its label.
+void Reset_Progress(Program& program);
+
+/// The label reads "FINISHED", green. It isn't shown if the run never showed it.
+void Show_Finished(Program& program);
+
+/// The label reads "INTERRUPTED", magenta. It isn't shown if the run never showed it.
+void Show_Interrupted(Program& program);
