@@ -3,6 +3,7 @@
 #include "support/paths.h"
 #include "support/text.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -21,47 +22,62 @@ void Command_Line::Add_Options(const QString& text)
 
 void Command_Line::Add_Option(const QString& option, const QString& value)
 {
-    text_.Append(option);
-    text_.Append(value);
-    arguments_ += Trim_Blanks(option);
-    arguments_ += Argument_Of(value);
+    if (Is_Refused(value)) {
+        refusals_ += Refused_Value(option, value);
+        return;
+    }
+    Add_Options(option);
+    Add(value, Argument_Of(value));
 }
 
 void Command_Line::Add_Path(const QString& option, const QString& path)
 {
-    text_.Append(option);
-    text_.Append(Quote_Path(path));
-    arguments_ += Trim_Blanks(option);
-    arguments_ += path;
+    Add_Options(option);
+    Add(Quote_Path(path), path);
 }
 
 void Command_Line::Add_Input(const QString& path)
 {
-    text_.Append(u" ( ");
-    text_.Append(Quote_Path(path));
-    text_.Append(u" )");
-    arguments_ += {u"("_s, path, u")"_s};
+    Add(u" ("_s, u"("_s);
+    Add_Path(u" "_s, path);
+    Add(u" )"_s, u")"_s);
 }
 
 QString Command_Line::Argument_Of(const QString& value)
 {
-    QString argument = value;
-    if (argument.size() >= 2 && argument.startsWith(u'"') && argument.endsWith(u'"'))
-        argument = argument.mid(1, argument.size() - 2);
-    argument.replace(u"\\\""_s, u"\""_s);
-    argument.replace(u"\"\"\""_s, u"\""_s);
+    QStringView rest = value;
+    if (rest.size() >= 2 && rest.startsWith(u'"') && rest.endsWith(u'"'))
+        rest = rest.mid(1, rest.size() - 2);
+    QString argument;
+    argument.reserve(rest.size());
+    // One pass from the left: the quote of a backslash-quote pair is never counted into three in a row.
+    while (!rest.isEmpty()) {
+        const qsizetype taken = rest.startsWith(u"\\\"") ? 2 : rest.startsWith(u"\"\"\"") ? 3 : 1;
+        argument += taken == 1 ? rest.front() : QChar(u'"');
+        rest = rest.mid(taken);
+    }
     return argument;
+}
+
+/// True for what mkvmerge's first pass over its arguments may take for an option of its own.
+static bool Reads_Like_An_Option(const QString& argument)
+{
+    static const QRegularExpression option(u"\\A(-.|--[a-z]+(-[a-z]+)*)\\z"_s);
+    return argument.startsWith(u'-') && option.match(argument).hasMatch();
 }
 
 bool Command_Line::Is_Refused(const QString& value)
 {
-    return Argument_Of(value).startsWith(u'@');
+    const QString argument = Argument_Of(value);
+    return argument.startsWith(u'@') || Reads_Like_An_Option(argument);
 }
 
 QString Command_Line::Refused_Value(const QString& option, const QString& value)
 {
-    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + Argument_Of(value) +
-           u"\" begins with \"@\", which mkvmerge takes for a file of options."_s;
+    const QString argument = Argument_Of(value);
+    const QString reason = argument.startsWith(u'@') ? u"\" begins with \"@\", which mkvmerge takes for a file of options."_s
+                                                     : u"\" reads like an option of mkvmerge."_s;
+    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + argument + reason;
 }
 
 static bool Is_Plain(QChar character)

@@ -10,7 +10,11 @@
 /// contains: a hostile title or file name can't smuggle an option in.
 ///
 /// The argument of a value is its text without one outer pair of quotes, with every backslash-quote pair and every
-/// three quotes in a row made one quote.
+/// three quotes in a row made one quote. The argument of a path is the path itself.
+///
+/// mkvmerge takes some arguments for its own wherever they stand: one that begins with "@" is a file of options, and
+/// "-r" or "--gui-mode" are obeyed even where a value belongs. A value that would be such an argument is left out
+/// together with its option, and Refusals tells why.
 class Command_Line
 {
   public:
@@ -19,28 +23,32 @@ class Command_Line
     /// Options without a value: " --no-audio", or several in one text, " --chapter-language eng --chapters"; blanks
     /// separate the arguments. Only for literals of our own.
     void Add_Options(const QString& text);
-    /// An option and its value: text is `option` followed by `value`; `option` ends in the blanks that separate them.
-    /// One argument for the option's word, one for the value.
+    /// An option and its value: text is `option` followed by `value`; `option` ends in the blanks that separate them
+    /// and may hold several words, one argument each. The value is one argument.
     void Add_Option(const QString& option, const QString& value);
+    /// `option` followed by the quoted path, whose argument is the path itself. `option` as for Add_Option.
+    void Add_Path(const QString& option, const QString& path);
     /// " ( " + quoted path + " )": the source or a companion. The argument is the path itself.
     void Add_Input(const QString& path);
-    /// " " + quoted path, whose argument is the path itself.
-    void Add_Path(const QString& option, const QString& path);
 
     QString Text() const { return text_.ToString(); }
 
     const QStringList& Arguments() const { return arguments_; }
 
+    /// A line for Log_Faults for each option that was left out, in order. Whoever assembles a command writes them.
+    const QStringList& Refusals() const { return refusals_; }
+
     /// The argument that a value's text becomes.
     static QString Argument_Of(const QString& value);
-    /// True for a value whose argument mkvmerge would take for a file of options: it begins with "@". Such a value is
-    /// left out together with its option, and the caller writes the line of Refused_Value to Log_Faults.
+    /// True for a value whose argument mkvmerge would not take for a value: it begins with "@", or it is a dash and
+    /// one character, or two dashes and lower-case words joined by dashes.
     static bool Is_Refused(const QString& value);
     static QString Refused_Value(const QString& option, const QString& value);
 
   private:
     clsStringBuilder text_;
     QStringList arguments_;
+    QStringList refusals_;
 };
 
 /// The arguments in POSIX shell quoting, joined by blanks: what --dry-run prints.

@@ -1,0 +1,101 @@
+#include "command/command_frame.h"
+
+#include "command/source_names.h"
+#include "command/source_tracks.h"
+#include "command/track_names.h"
+#include "command/track_order.h"
+#include "command/video_block.h"
+#include "inspect/stream_parser.h"
+#include "program.h"
+
+using namespace Qt::StringLiterals;
+
+/// What one assembly carries from phase to phase.
+struct Assembly
+{
+    Source_Names Names;
+    QString Video_Base_Name;
+    QString Output_Path;
+    Tracks_Argument Audio_Tracks;
+    Tracks_Argument Subtitle_Tracks;
+    Track_Order Order;
+    bool Audio_Default_Claimed = false; ///< an external audio file says that it is the default
+};
+
+/// The searched folder: the alternate one if its box is ticked and it is set.
+static const QString& Companion_Folder(const QString& videos_path, const Check_Box& use_alternate,
+                                       const QString& alternate)
+{
+    return use_alternate.Value == 1 && !alternate.isEmpty() ? alternate : videos_path;
+}
+
+/// Resets what was found beside the preceding video and looks for what stands beside this one.
+static void Find_Companions(Program& program, Assembly& work, const QString& videos_path)
+{
+    Companions& companions = program.Companions;
+    companions.External_Audio.assign(1, {});
+    companions.External_Subtitles.assign(1, {});
+    companions.External_Subtitles_Unpaired.assign(1, {});
+    companions.Chapter_File.clear();
+}
+
+/// The head: interface language, output, the source's tracks to take, and the switches.
+static void Append_Head(Command_Line& command, const Program& program, const Assembly& work)
+{
+    command.Add_Option(u" --ui-language "_s, u"en_US"_s);
+    command.Add_Path(u" --output "_s, work.Output_Path);
+    work.Audio_Tracks.Append_To(command);
+    work.Subtitle_Tracks.Append_To(command);
+    Append_Switches(command, program.Options, !program.Companions.Chapter_File.isEmpty());
+}
+
+/// The source's options, track by track, and the source.
+static void Append_Source(Command_Line& command, Program& program, const Assembly& work)
+{
+    FileInfoList& streams = program.Media.FileInfoList;
+    const JobOptions& options = program.Options;
+    Append_Source_Video(command, streams, options, work.Names.Base);
+    Append_Source_Audio(command, streams, options, program.Run.Strip_Audio_Titles, work.Audio_Default_Claimed);
+    Append_Source_Subtitles(command, streams, options, program.Run.Strip_Subtitle_Titles);
+    command.Add_Input(work.Names.Path);
+}
+
+static void Append_Track_Order(Command_Line& command, const Track_Order& order)
+{
+    const QString text = order.Text();
+    // A text of one short entry tells nothing.
+    if (text.size() > 5)
+        command.Add_Option(u" --track-order "_s, text);
+}
+
+int Parse_VideoData_A(Program& program, const QString& target_path, const QString& videos_path,
+                      const QString& video_path)
+{
+    if (!Parse_FFProbe_Output(program.Media, video_path))
+        return 0;
+    FileInfoList& streams = program.Media.FileInfoList;
+    const JobOptions& options = program.Options;
+
+    Assembly work;
+    work.Audio_Tracks = Select_Source_Audio(streams, options, program.Language_Table);
+    work.Subtitle_Tracks = Select_Source_Subtitles(streams, options, program.Language_Table);
+    work.Names = Name_Source(video_path, streams);
+    work.Order.Video = Source_Entries(streams, u"video"_s);
+    work.Order.Source_Audio = Source_Entries(streams, u"audio"_s);
+    work.Order.Source_Subtitles = Source_Entries(streams, u"subtitle"_s);
+    work.Video_Base_Name = Video_Base_Name_Of(video_path);
+    work.Output_Path = Output_Path_Of(target_path, work.Video_Base_Name);
+    Find_Companions(program, work, videos_path);
+
+    Command_Line command;
+    Append_Head(command, program, work);
+    Append_Source(command, program, work);
+    Append_File_Title(command, options, work.Video_Base_Name, work.Names.Title, streams.front().Title);
+    Append_Track_Order(command, work.Order);
+    for (const QString& line : command.Refusals())
+        program.Logs.Log_Faults.AppendLine(line);
+
+    program.Run.Mkvmerge_Arguments = std::move(command);
+    program.Run.Output_Path = work.Output_Path;
+    return 1;
+}

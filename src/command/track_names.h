@@ -1,0 +1,25 @@
+#pragma once
+
+#include "command/command_line.h"
+#include "command/source_names.h"
+#include "inspect/media_state.h"
+#include "settings/job_options.h"
+
+#include <QString>
+
+/// The names of the source's tracks, and the title of the file.
+
+/// A title with its escapes undone, between two backslash-quote pairs: a title that itself begins and ends with a
+/// quote.
+QString Wrap_Title(const QString& name);
+
+/// " --track-name " of a kept track, or nothing: then mkvmerge keeps the name.
+void Append_Video_Name(Command_Line& command, const FileInfo& stream, const JobOptions& options,
+                       const QString& source_base);
+void Append_Audio_Name(Command_Line& command, const FileInfo& stream, bool strip_titles);
+void Append_Subtitle_Name(Command_Line& command, const FileInfo& stream, bool strip_titles);
+
+/// " --title " of the output, or nothing: then mkvmerge takes over the source's title. `source_title` is the
+/// container's title, `first_title` that of the first record.
+void Append_File_Title(Command_Line& command, const JobOptions& options, const QString& video_base_name,
+                       const QString& source_title, const QString& first_title);

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "command/command_line.h"
+#include "inspect/media_state.h"
+#include "settings/job_options.h"
+
+#include <QString>
+
+/// The switches that drop the source's tags, attachments and chapters. Chapters that are replaced are always dropped.
+void Append_Switches(Command_Line& command, const JobOptions& options, bool chapters_replaced);
+
+/// The options of each kept video track, in list order: language, default flag, size or aspect ratio, name, frame rate.
+/// `source_base` is the name that "Set Video Title" gives.
+void Append_Source_Video(Command_Line& command, FileInfoList& streams, const JobOptions& options,
+                         const QString& source_base);
