@@ -22,17 +22,9 @@ struct Assembly
     bool Audio_Default_Claimed = false; ///< an external audio file says that it is the default
 };
 
-/// The searched folder: the alternate one if its box is ticked and it is set.
-static const QString& Companion_Folder(const QString& videos_path, const Check_Box& use_alternate,
-                                       const QString& alternate)
+/// Forgets what was found beside the preceding video.
+static void Reset_Companions(Companions& companions)
 {
-    return use_alternate.Value == 1 && !alternate.isEmpty() ? alternate : videos_path;
-}
-
-/// Resets what was found beside the preceding video and looks for what stands beside this one.
-static void Find_Companions(Program& program, Assembly& work, const QString& videos_path)
-{
-    Companions& companions = program.Companions;
     companions.External_Audio.assign(1, {});
     companions.External_Subtitles.assign(1, {});
     companions.External_Subtitles_Unpaired.assign(1, {});
@@ -68,7 +60,7 @@ static void Append_Track_Order(Command_Line& command, const Track_Order& order)
         command.Add_Option(u" --track-order "_s, text);
 }
 
-int Parse_VideoData_A(Program& program, const QString& target_path, const QString& videos_path,
+int Parse_VideoData_A(Program& program, const QString& target_path, const QString& /*videos_path*/,
                       const QString& video_path)
 {
     if (!Parse_FFProbe_Output(program.Media, video_path))
@@ -85,7 +77,7 @@ int Parse_VideoData_A(Program& program, const QString& target_path, const QStrin
     work.Order.Source_Subtitles = Source_Entries(streams, u"subtitle"_s);
     work.Video_Base_Name = Video_Base_Name_Of(video_path);
     work.Output_Path = Output_Path_Of(target_path, work.Video_Base_Name);
-    Find_Companions(program, work, videos_path);
+    Reset_Companions(program.Companions);
 
     Command_Line command;
     Append_Head(command, program, work);

@@ -75,8 +75,9 @@ bool Command_Line::Is_Refused(const QString& value)
 QString Command_Line::Refused_Value(const QString& option, const QString& value)
 {
     const QString argument = Argument_Of(value);
-    const QString reason = argument.startsWith(u'@') ? u"\" begins with \"@\", which mkvmerge takes for a file of options."_s
-                                                     : u"\" reads like an option of mkvmerge."_s;
+    const QString reason = argument.startsWith(u'@')
+                               ? u"\" begins with \"@\", which mkvmerge takes for a file of options."_s
+                               : u"\" reads like an option of mkvmerge."_s;
     return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + argument + reason;
 }
 

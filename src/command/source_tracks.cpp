@@ -132,8 +132,7 @@ static void Append_Subtitle_Flag(Command_Line& command, const QString& option, c
         command.Add_Option(option, index + u":no"_s);
 }
 
-void Append_Source_Subtitles(Command_Line& command, FileInfoList& streams, const JobOptions& options,
-                             bool strip_titles)
+void Append_Source_Subtitles(Command_Line& command, FileInfoList& streams, const JobOptions& options, bool strip_titles)
 {
     for (FileInfo& stream : streams) {
         if (stream.StreamType != "subtitle"_L1)
