@@ -13,6 +13,18 @@ QStringList Split_Text(const QString& text, const QString& separator)
     return text.isEmpty() ? QStringList() : text.split(separator);
 }
 
+QString Piece_Of(const QString& text, QChar separator, int index)
+{
+    qsizetype start = 0;
+    for (; index > 0; --index) {
+        start = text.indexOf(separator, start) + 1;
+        if (start == 0)
+            return {};
+    }
+    const qsizetype end = text.indexOf(separator, start);
+    return end < 0 ? text.mid(start) : text.mid(start, end - start);
+}
+
 QString Trim_Blanks(const QString& text)
 {
     qsizetype first = 0;

@@ -12,6 +12,10 @@ inline const QString Line_Break = QStringLiteral("\r\n");
 /// Splits at every `separator`, case-sensitively. The empty text has no pieces (QString::split would give one).
 QStringList Split_Text(const QString& text, const QString& separator);
 
+/// Piece `index` (from 0) of the text split at every `separator`; empty if there are fewer pieces. For lines that may
+/// be long and of which one piece is wanted.
+QString Piece_Of(const QString& text, QChar separator, int index);
+
 /// The text without the blanks (U+0020 only) at both ends.
 QString Trim_Blanks(const QString& text);
 

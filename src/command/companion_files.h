@@ -1,0 +1,34 @@
+#pragma once
+
+#include "command/companions.h"
+#include "options/option_file.h"
+#include "settings/settings_state.h"
+
+#include <QString>
+#include <QStringList>
+
+/// What external audio and external subtitles have in common: which files belong to a video, and how a record takes its
+/// settings from an option file or from the sticky values.
+
+/// Names of the files in `folder` that match `masks` and hold `base_name` anywhere, both without regard to case, in the
+/// order of the listing. Deliberate: the name isn't anchored, so "The Movie 2.mp3" belongs to "Movie.mkv" too.
+QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks);
+
+/// The record to fill next: the last one of the list, or a new one behind it if that is in use. It comes in use.
+ExternalTrack& Add_Track(ExternalTrackList& list);
+
+/// Overwrites all five settings with those of an option file, the empty ones too.
+void Take_Option_Values(ExternalTrack& track, const Option_Values& values);
+/// Overwrites each setting whose sticky flag is 1 and whose sticky text isn't empty.
+void Apply_Sticky_Values(ExternalTrack& track, const StickyValues& sticky, const LanguageTable& table);
+
+/// " ;English (eng)" for a log line; " ;Undetermined (und)" for anything that isn't a three-letter code of the table.
+QString Language_Part(const LanguageTable& table, const QString& language);
+
+/// The language as a three-letter code. The error of a text without a word names `subject`, the file that it is from.
+QString Language_Code_Of_File(const LanguageTable& table, const QString& language, const QString& subject);
+
+/// "0:eng": a track's language argument; "und" for an empty one and for "???".
+QString Track_Language(const ExternalTrack& track);
+/// A track order entry, "," input ":" track. Error 6 where the sum leaves 16 bits.
+QString Order_Entry(const ExternalTrack& track, std::int16_t next_file_index);
