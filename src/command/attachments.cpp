@@ -71,7 +71,7 @@ void Append_Attachment_Arguments(Command_Line& command, const AttachmentList& li
     }
     for (const Attachment& attachment : list) {
         // A name is its own argument, like a path, whatever quotes it holds.
-        if (attachment.Name.startsWith(u'@'))
+        if (Command_Line::Is_Refused(attachment.Name))
             faults.AppendLine(Command_Line::Refused_Value(u" --attachment-name "_s, attachment.Name));
         else
             command.Add_Path(u" --attachment-name "_s, attachment.Name);

@@ -143,6 +143,5 @@ void Append_Chapter_Arguments(Command_Line& command, const QString& chapter_file
 {
     if (chapter_file.isEmpty() || options.chk_ReplaceChapters.Value != 1)
         return;
-    command.Add_Options(u" --chapter-language eng"_s);
-    command.Add_Path(u" --chapters "_s, chapter_file);
+    command.Add_Path(u" --chapter-language eng --chapters "_s, chapter_file);
 }

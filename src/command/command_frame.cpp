@@ -1,5 +1,9 @@
 #include "command/command_frame.h"
 
+#include "command/attachments.h"
+#include "command/chapters.h"
+#include "command/external_audio.h"
+#include "command/external_subtitles.h"
 #include "command/source_names.h"
 #include "command/source_tracks.h"
 #include "command/track_names.h"
@@ -31,6 +35,26 @@ static void Reset_Companions(Companions& companions)
     companions.Chapter_File.clear();
 }
 
+/// Looks for what goes with the video beside it, and tells Log_Faults.
+static void Find_Files_Beside(Program& program, const QString& videos_path, Assembly& work)
+{
+    const JobOptions& options = program.Options;
+    Companions& found = program.Companions;
+    Reset_Companions(found);
+    if (options.chk_AddAudio.Value == 1) {
+        Find_External_Audio(program, External_Audio_Folder(options, videos_path), work.Video_Base_Name,
+                            found.External_Audio, work.Audio_Default_Claimed);
+        Log_External_Audio(found.External_Audio, options, program.Language_Table, program.Logs.Log_Faults);
+    }
+    if (options.chk_AddSubs.Value == 1) {
+        Find_External_Subtitles(program, External_Subtitle_Folder(options, videos_path), work.Video_Base_Name,
+                                found.External_Subtitles, found.External_Subtitles_Unpaired);
+        Log_External_Subtitles(found.External_Subtitles, found.External_Subtitles_Unpaired, options,
+                               program.Language_Table, program.Logs.Log_Faults);
+    }
+    found.Chapter_File = Find_Chapter_File(program, videos_path, work.Video_Base_Name);
+}
+
 /// The head: interface language, output, the source's tracks to take, and the switches.
 static void Append_Head(Command_Line& command, const Program& program, const Assembly& work)
 {
@@ -52,6 +76,20 @@ static void Append_Source(Command_Line& command, Program& program, const Assembl
     command.Add_Input(work.Names.Path);
 }
 
+/// The external files, each with its options ahead of it, and the attachments.
+static void Append_Files_Beside(Command_Line& command, Program& program, Assembly& work)
+{
+    const JobOptions& options = program.Options;
+    const Companions& found = program.Companions;
+    Track_Order& order = work.Order;
+    Append_External_Audio_Arguments(command, found.External_Audio, options, !work.Audio_Default_Claimed,
+                                    order.Default_Audio, order.Extra_Audio, order.Next_File_Index);
+    Append_External_Subtitle_Arguments(command, found.External_Subtitles, options, order.Next_File_Index,
+                                       order.Extra_Subtitles);
+    if (program.Run.Add_Attachments_On)
+        Append_Attachment_Arguments(command, found.Attachment_List, program.Logs.Log_Faults);
+}
+
 static void Append_Track_Order(Command_Line& command, const Track_Order& order)
 {
     const QString text = order.Text();
@@ -60,7 +98,7 @@ static void Append_Track_Order(Command_Line& command, const Track_Order& order)
         command.Add_Option(u" --track-order "_s, text);
 }
 
-int Parse_VideoData_A(Program& program, const QString& target_path, const QString& /*videos_path*/,
+int Parse_VideoData_A(Program& program, const QString& target_path, const QString& videos_path,
                       const QString& video_path)
 {
     if (!Parse_FFProbe_Output(program.Media, video_path))
@@ -77,12 +115,14 @@ int Parse_VideoData_A(Program& program, const QString& target_path, const QStrin
     work.Order.Source_Subtitles = Source_Entries(streams, u"subtitle"_s);
     work.Video_Base_Name = Video_Base_Name_Of(video_path);
     work.Output_Path = Output_Path_Of(target_path, work.Video_Base_Name);
-    Reset_Companions(program.Companions);
+    Find_Files_Beside(program, videos_path, work);
 
     Command_Line command;
     Append_Head(command, program, work);
     Append_Source(command, program, work);
+    Append_Files_Beside(command, program, work);
     Append_File_Title(command, options, work.Video_Base_Name, work.Names.Title, streams.front().Title);
+    Append_Chapter_Arguments(command, program.Companions.Chapter_File, options);
     Append_Track_Order(command, work.Order);
     for (const QString& line : command.Refusals())
         program.Logs.Log_Faults.AppendLine(line);
