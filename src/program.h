@@ -4,11 +4,13 @@
 #include "inspect/media_state.h"
 #include "inspect/tool_paths.h"
 #include "logs/log_buffers.h"
+#include "options/attachments_dialog.h"
 #include "options/language_table.h"
 #include "run/run_listener.h"
 #include "run/run_state.h"
 #include "settings/job_options.h"
 #include "settings/main_form.h"
+#include "settings/recent_folders.h"
 #include "settings/settings_state.h"
 #include "support/operator.h"
 
@@ -25,6 +27,9 @@ struct Program
     JobOptions Options;
     Main_Form Form;
     Settings_State Settings;
+    Recent_List_Form Source_MRU_Form;
+    Recent_List_Form Target_MRU_Form;
+    Attachments_Form Attachments_Dialog;
     Tool_Paths Tools;
     Media_State Media;
     ::Companions Companions;

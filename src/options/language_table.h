@@ -16,6 +16,9 @@ struct LanguageRow
 
 using LanguageTable = std::vector<LanguageRow>;
 
+/// The line that the lists show for a row: "Name (code)".
+QString Language_Line(const LanguageRow& row);
+
 /// Reads the table that is compiled in (data/languages.txt) into program.Language_Table. True if the first row has a
 /// name. `word` is ignored; start-up passes "scrap".
 bool Load_Language_Table(Program& program, const QString& word);

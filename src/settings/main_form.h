@@ -61,8 +61,10 @@ struct Main_Form
     // Number boxes, and the two lines of each group's diagram (black when on, grey when off)
     Panel pic_AudioDelayValue;
     Text_Box txt_AudioDelayValue;
+    QString Audio_Delay_Last_Good; ///< text of the box to return to; null: nothing was typed yet
     Panel pic_SplitVideosValue;
     Text_Box txt_SplitVideosValue;
+    QString Split_Minutes_Last_Good;
     bool Audio_Diagram_On = false;
     bool Subs_Diagram_On = false;
 

@@ -1,0 +1,98 @@
+#include "options/language_table.h"
+
+#include "common/test_program.h"
+#include "support/run_time_error.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+static const LanguageTable& Table()
+{
+    static const LanguageTable table = [] {
+        Test_Program test;
+        EXPECT_TRUE(Load_Language_Table(test.Prog, u"scrap"_s));
+        return test.Prog.Language_Table;
+    }();
+    return table;
+}
+
+TEST(LanguageTable, Has401RowsOf180WithATwoLetterCodeInTheirOrder)
+{
+    ASSERT_EQ(Table().size(), 401U);
+    EXPECT_EQ(std::ranges::count_if(Table(), [](const LanguageRow& row) { return !row.Iso639_1.isEmpty(); }), 180);
+    EXPECT_TRUE(std::ranges::all_of(Table(), [](const LanguageRow& row) { return row.Iso639_2.size() == 3; }));
+    EXPECT_EQ(Table().front().Name, u"Abkhazian"_s);
+    EXPECT_EQ(Table().back().Name, u"Zuni"_s);
+    EXPECT_EQ(std::ranges::count(Table(), u"Norwegian"_s, &LanguageRow::Name), 2);
+    EXPECT_EQ(std::ranges::count(Table(), u"Bini; Edo"_s, &LanguageRow::Name), 1);
+}
+
+TEST(LanguageTable, ReaderTakesBothLineEndsAndDropsOnlyEmptyPieces)
+{
+    const LanguageTable table = Parse_Language_Table("A\\aaa\\aa\r\nB\\bbb\\\n\r\nC\\ccc\\cc");
+    ASSERT_EQ(table.size(), 3U);
+    EXPECT_EQ(table[1].Name, u"B"_s);
+    EXPECT_EQ(table[1].Iso639_1, u""_s);
+    EXPECT_EQ(table[2].Iso639_1, u"cc"_s);
+    EXPECT_TRUE(Parse_Language_Table("").empty());
+    EXPECT_THROW(Parse_Language_Table("A\\aaa\n"), Run_Time_Error);
+}
+
+TEST(LanguageTable, CodeOfATextFollowsItsFirstWordOnly)
+{
+    struct Claim
+    {
+        QString Text, Code;
+    };
+
+    const Claim claims[] = {
+        {u"de"_s, u"ger"_s},
+        {u"en"_s, u"eng"_s},
+        {u"ger"_s, u"ger"_s},
+        {u"GER"_s, u""_s}, // a capital makes it a name
+        {u"EN"_s, u""_s},
+        {u"German"_s, u"ger"_s},
+        {u"German (ger)"_s, u"ger"_s},
+        {u"Ga (gaa)"_s, u"gaa"_s},
+        {u"Fon"_s, u"fon"_s},
+        {u"Norwegian (nor)"_s, u"nob"_s},
+        {u"Norwegian Nynorsk (nno)"_s, u"nob"_s},
+        {u"Artificial languages (art)"_s, u""_s},
+        {u"qqq"_s, u"qqq"_s}, // unknown, comes back
+        {u"qq"_s, u""_s},
+        {u"x"_s, u""_s},
+        {u"(eng)"_s, u""_s}, // begins with a blank once cleaned
+        {u" eng"_s, u""_s},
+        {u"german"_s, u""_s},
+        {u"123"_s, u""_s},
+    };
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Language_Code_Of(Table(), claim.Text), claim.Code) << claim.Text.toStdString();
+    EXPECT_THROW(Language_Code_Of(Table(), u""_s), Run_Time_Error);
+    EXPECT_THROW(Language_Code_Of(Table(), u")"_s), Run_Time_Error);
+}
+
+TEST(LanguageTable, AFoundRowFillsAllThreeAndAMissLeavesWhatTheTextSet)
+{
+    QString iso1, iso2, name;
+    EXPECT_TRUE(Parse_Language_Text(Table(), u"French"_s, iso1, iso2, name));
+    EXPECT_EQ(iso1 + iso2 + name, u"frfreFrench"_s);
+    EXPECT_FALSE(Parse_Language_Text(Table(), u"Elvish (elv)"_s, iso1, iso2, name));
+    EXPECT_EQ(iso1, u""_s);
+    EXPECT_EQ(iso2, u""_s);
+    EXPECT_EQ(name, u"Elvish"_s);
+}
+
+TEST(LanguageTable, DisplayComparesWithTheThreeLetterCodeAndTheLastRowWins)
+{
+    QString display = u"untouched"_s;
+    EXPECT_FALSE(Language_Display_Of(Table(), u"en"_s, display));
+    EXPECT_EQ(display, u"untouched"_s);
+    EXPECT_TRUE(Language_Display_Of(Table(), u"und"_s, display));
+    EXPECT_EQ(display, u"Undetermined (und)"_s);
+    const LanguageTable twice = Parse_Language_Table("First\\xxx\\\nLast\\xxx\\\n");
+    EXPECT_TRUE(Language_Display_Of(twice, u"xxx"_s, display));
+    EXPECT_EQ(display, u"Last (xxx)"_s);
+}
