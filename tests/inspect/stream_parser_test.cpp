@@ -1,0 +1,290 @@
+#include "inspect/stream_parser.h"
+
+#include "common/test_program.h"
+#include "support/run_time_error.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+static FileInfoList Parsed(const QString& ffprobe_output)
+{
+    Media_State media;
+    media.FFProbe_Output = ffprobe_output;
+    Parse_FFProbe_Output(media, u"/in/Movie.mkv"_s);
+    return media.FileInfoList;
+}
+
+/// The format line, then a line for each stream.
+static QString Output_Of(const QStringList& streams, const QString& format = u"filename=/in/Movie.mkv"_s)
+{
+    QString output = u"format|"_s + format + u"\r\n"_s;
+    for (const QString& stream : streams)
+        output += u"stream|"_s + stream + u"\r\n"_s;
+    return output;
+}
+
+static QStringList Types_Of(const FileInfoList& list)
+{
+    QStringList types;
+    for (const FileInfo& record : list)
+        types += record.StreamType;
+    return types;
+}
+
+/// The number of the run-time error that `act` raises, its message in `message`; 0 if it raises none.
+static int Error_Of(const std::function<void()>& act, QString* message = nullptr)
+{
+    try {
+        act();
+    } catch (const Run_Time_Error& error) {
+        if (message != nullptr)
+            *message = error.Message();
+        return static_cast<int>(error.Number());
+    }
+    return 0;
+}
+
+static const QString Video = u"index=0|codec_type=video|disposition:attached_pic=0"_s;
+static const QString Audio = u"index=1|codec_type=audio"_s;
+static const QString Data = u"index=2|codec_type=data|disposition:attached_pic=0"_s;
+static const QString Subtitle = u"index=3|codec_type=subtitle"_s;
+
+TEST(StreamParser, EachKindOfStreamFillsItsOwnFields)
+{
+    const FileInfoList list = Parsed(Output_Of(
+        {u"index=0|codec_name=h264|codec_type=video|width=1920|height=1080|coded_width=1|r_frame_rate=25/1"
+         "|disposition:default=1|disposition:forced=0|disposition:attached_pic=0|tag:language=eng|tag:title=Main"_s,
+         u"index=1|codec_name=aac|codec_type=audio|width=7|r_frame_rate=0/0|disposition:default=0"
+         "|disposition:forced=1|disposition:attached_pic=0|tag:x=y"_s,
+         u"index=2|codec_name=ass|codec_type=subtitle|width=10|height=20|r_frame_rate=0/0|tag:language=ger|tag:x=y"_s,
+         u"index=3|codec_name=png|codec_type=video|width=30|height=40|r_frame_rate=9/1|disposition:attached_pic=1"_s},
+        u"filename=/in/Movie.mkv|format_name=matroska,webm|duration=1.5|size=10|bit_rate=20|tag:title= T "
+        "|TAG:ENCODER=Lavf"_s));
+    ASSERT_EQ(list.size(), 5U);
+    const FileInfo& file = list[0];
+    EXPECT_EQ(file.StreamType, u"File_Info"_s);
+    EXPECT_EQ(file.FileName, u"/in/Movie.mkv"_s);
+    EXPECT_EQ(file.FormatName, u"matroska,webm"_s);
+    EXPECT_EQ(file.Duration, u"1.5"_s);
+    EXPECT_EQ(file.Size, u"10"_s);
+    EXPECT_EQ(file.BitRate, u"20"_s);
+    EXPECT_EQ(file.Title, u"T"_s);
+    EXPECT_EQ(file.Encoder, u"Lavf"_s);
+    EXPECT_EQ(file.Language, u"und"_s);
+
+    struct Claim
+    {
+        QString Type, Index, Codec, Width, Height, Rate, Default, Forced, Picture, Language, Title;
+    };
+
+    const Claim claims[] = {
+        {u"video"_s, u"0"_s, u"h264"_s, u"1920"_s, u"1080"_s, u"25/1"_s, u"1"_s, u"0"_s, u"0"_s, u"eng"_s, u"Main"_s},
+        {u"audio"_s, u"1"_s, u"aac"_s, {}, {}, {}, u"0"_s, u"1"_s, u"0"_s, u"und"_s, {}},
+        {u"subtitle"_s, u"2"_s, u"ass"_s, u"10"_s, u"20"_s, u"0/0"_s, {}, {}, {}, u"ger"_s, {}},
+        {u"attachment"_s, u"3"_s, u"png"_s, u"30"_s, u"40"_s, {}, {}, {}, u"1"_s, u"und"_s, {}},
+    };
+    for (std::size_t i = 0; i < std::size(claims); ++i) {
+        const Claim& claim = claims[i];
+        const FileInfo& record = list[i + 1];
+        EXPECT_EQ(record.StreamType, claim.Type);
+        EXPECT_EQ(record.Index, claim.Index);
+        EXPECT_EQ(record.CodecName, claim.Codec);
+        EXPECT_EQ(record.Width, claim.Width) << claim.Type.toStdString();
+        EXPECT_EQ(record.Height, claim.Height) << claim.Type.toStdString();
+        EXPECT_EQ(record.FrameRate, claim.Rate) << claim.Type.toStdString();
+        EXPECT_EQ(record.DefaultFlag, claim.Default) << claim.Type.toStdString();
+        EXPECT_EQ(record.ForcedFlag, claim.Forced) << claim.Type.toStdString();
+        EXPECT_EQ(record.AttachedPic, claim.Picture) << claim.Type.toStdString();
+        EXPECT_EQ(record.Language, claim.Language) << claim.Type.toStdString();
+        EXPECT_EQ(record.Title, claim.Title) << claim.Type.toStdString();
+    }
+}
+
+TEST(StreamParser, OnlyStreamsOfKnownKindsMakeRecordsAndOnlyALastOneLeavesAnEmptySlot)
+{
+    struct Claim
+    {
+        QStringList Streams, Types;
+    };
+
+    const QString picture = u"|disposition:attached_pic=1"_s;
+    const Claim claims[] = {
+        {{}, {u"File_Info"_s}},
+        {{Video, Data, Audio}, {u"File_Info"_s, u"video"_s, u"audio"_s}},
+        {{Video, Data, Data, Subtitle}, {u"File_Info"_s, u"video"_s, u"subtitle"_s}},
+        {{Video, Audio, Data}, {u"File_Info"_s, u"video"_s, u"audio"_s, u""_s}},
+        {{Audio + picture, Subtitle + picture}, {u"File_Info"_s, u"audio"_s, u"subtitle"_s}},
+        {{Data + picture, u"index=4|codec_type=ATTACHMENT"_s}, {u"File_Info"_s, u"attachment"_s, u"attachment"_s}},
+        {{Video + u"|tag:note=an attachment id"_s, Audio}, {u"File_Info"_s, u"audio"_s}},
+        {{Video, Audio + u"|Attachment ID"_s}, {u"File_Info"_s, u"video"_s}},
+        {{Video + u"|tag:title=file format"_s + u"|x=1"_s}, {u"File_Info"_s, u"File_Info"_s}},
+    };
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Types_Of(Parsed(Output_Of(claim.Streams))), claim.Types) << claim.Streams.join(u'/').toStdString();
+}
+
+TEST(StreamParser, SideDataStaysWithItsStreamAndEndsItsLastValueAtTheNextPipe)
+{
+    const FileInfoList list = Parsed(u"format|filename=x\r\nstream|index=0|codec_type=audio|tag:language=eng\r\n"
+                                     "side_data|side_data_type=Replay|gain=1\r\nstream|index=1|codec_type=audio\r\n"_s);
+    ASSERT_EQ(list.size(), 3U);
+    EXPECT_EQ(list[1].Language, u"eng side_data_type=Replay"_s);
+    EXPECT_EQ(list[2].Index, u"1"_s);
+}
+
+TEST(StreamParser, AnEmptyTextGivesOneEmptyRecordAndNoAssembly)
+{
+    Media_State media;
+    media.FileInfoList.resize(4);
+    EXPECT_FALSE(Parse_FFProbe_Output(media, {}));
+    ASSERT_EQ(media.FileInfoList.size(), 1U);
+    EXPECT_TRUE(media.FileInfoList[0].StreamType.isEmpty());
+}
+
+TEST(StreamParser, APipeInATitleSurvivesOnlyInAStreamAndOnlyBetweenBlanks)
+{
+    struct Claim
+    {
+        QString Printed, In_Stream, In_File;
+    };
+
+    const Claim claims[] = {
+        {u"A \\| B"_s, u"A | B"_s, u"A \\"_s},
+        {u"A \\| B \\| C"_s, u"A | B | C"_s, u"A \\"_s},
+        {u"A\\|B"_s, u"A\\"_s, u"A\\"_s},
+        {u"A \\|B"_s, u"A \\"_s, u"A \\"_s},
+        {u" plain "_s, u"plain"_s, u"plain"_s},
+        {u"She said \"hi\" --attach-file /etc/passwd"_s, u"She said \"hi\" --attach-file /etc/passwd"_s,
+         u"She said \"hi\" --attach-file /etc/passwd"_s},
+        {u"ends in a stream"_s, u"ends in a "_s, u"ends in a "_s},
+    };
+    for (const Claim& claim : claims) {
+        const QString title = u"|tag:title="_s + claim.Printed + u"|tag:x=y"_s;
+        const FileInfoList list = Parsed(Output_Of({Audio + title}, u"filename=x"_s + title));
+        EXPECT_EQ(list[0].Title, claim.In_File) << claim.Printed.toStdString();
+        EXPECT_EQ(list[1].Title, claim.In_Stream) << claim.Printed.toStdString();
+    }
+    const FileInfoList last = Parsed(Output_Of({Audio + u"|tag:title= A \\| B "_s}));
+    EXPECT_EQ(last[1].Title, u" A | B "_s) << "the last item isn't trimmed";
+}
+
+TEST(StreamParser, TheFirstOccurrenceOfAKeyWinsWhereverItStands)
+{
+    struct Claim
+    {
+        QString Text, Key, Value;
+    };
+
+    const Claim claims[] = {
+        {u"a=1|b=2"_s, u"a="_s, u"1"_s},
+        {u"A=1|a=2"_s, u"a="_s, u"1"_s},
+        {u"coded_width=1|width=2"_s, u"width="_s, u"1"_s},
+        {u"filename=/in/duration=9.mkv|duration=1"_s, u"duration="_s, u"9.mkv"_s},
+        {u"tag:comment=tag:title=Fake|tag:title=True"_s, u"tag:title="_s, u"Fake"_s},
+        {u"x= Case KEPT |y"_s, u"x="_s, u"Case KEPT"_s},
+        {u"x= last "_s, u"x="_s, u" last "_s},
+        {u"x="_s, u"x="_s, u""_s},
+        {u"x=1"_s, u"y="_s, u"as it was"_s},
+        {u"x= @@@ |y"_s, u"x="_s, u"|"_s},
+    };
+    for (const Claim& claim : claims) {
+        QString value = u"as it was"_s;
+        EXPECT_EQ(Get_Key_Value(claim.Text, claim.Key, value), 0);
+        EXPECT_EQ(value, claim.Value) << claim.Text.toStdString();
+    }
+}
+
+TEST(StreamParser, ALanguageInBracketsEndsTheProgramUnlessItIsTheLastItem)
+{
+    QString message;
+    EXPECT_EQ(Error_Of([] { Parsed(Output_Of({Audio + u"|tag:language=[en]|tag:x=y"_s})); }, &message), 13);
+    EXPECT_TRUE(message.contains(u"/in/Movie.mkv"_s)) << message.toStdString();
+    EXPECT_TRUE(message.contains(u"[en]"_s)) << message.toStdString();
+    EXPECT_EQ(Parsed(Output_Of({Audio + u"|tag:language=[en]"_s}))[1].Language, u"[en]"_s);
+}
+
+TEST(StreamParser, DurationsAreWrittenInSinglePrecisionWithTwoDigitsOfHours)
+{
+    struct Claim
+    {
+        QString Printed, Text;
+    };
+
+    const Claim claims[] = {
+        {u"5400.1235"_s, u"01:30:00.1235352"_s},
+        {u"3600.5"_s, u"01:00:00.5"_s},
+        {u"59"_s, u"00:00:59"_s},
+        {u"360000"_s, u"00:00:00"_s},
+        {u"366601"_s, u"01:50:01"_s},
+        {u"0.00001"_s, u"00:00:00E-05"_s},
+        {u"16777217"_s, u"60:20:16"_s},
+    };
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Format_Duration(u"format|filename=x|duration="_s + claim.Printed + u"|size=1"_s), claim.Text)
+            << claim.Printed.toStdString();
+}
+
+TEST(StreamParser, ADurationThatIsNoNumberIsAnErrorThatNamesTheFile)
+{
+    struct Claim
+    {
+        QString Text;
+        int Error;
+    };
+
+    const Claim claims[] = {
+        {u"format|filename=/in/raw.h264|duration=N/A|size=1"_s, 13},
+        {u"format|filename=/in/raw.h264|size=1"_s, 13},
+        {u"format|filename=/in/raw.h264|duration=12s|size=1"_s, 13},
+        {u"format|filename=/in/raw.h264|duration=1e20|size=1"_s, 6},
+    };
+    for (const Claim& claim : claims) {
+        QString message;
+        EXPECT_EQ(Error_Of([&] { Format_Duration(claim.Text); }, &message), claim.Error) << claim.Text.toStdString();
+        EXPECT_TRUE(message.contains(u"/in/raw.h264"_s)) << message.toStdString();
+    }
+}
+
+TEST(StreamParser, TitlesLoseTheirEscapesInOneOrder)
+{
+    EXPECT_EQ(Unescape_Title(u""_s), u""_s);
+    EXPECT_EQ(Unescape_Title(u"a\\sb\\cc\\2d\\S"_s), u"a b:c\"\"\"d\\S"_s);
+    EXPECT_EQ(Unescape_Title(u"\\\\s"_s), u"\\ "_s);
+}
+
+TEST(StreamParser, AnExternalFileAnswersWithItsFirstStream)
+{
+    const ExtStreamInfo info = Parse_External_Streams(
+        u"stream|index=0|disposition:default=1|disposition:forced=2|tag:language=fre|tag:handler_name=Sound|tag:x=y\r\n"
+        "stream|index=1|disposition:default=0|disposition:forced=0|tag:language=ger\r\n"_s,
+        u"/in/a.mp3"_s);
+    EXPECT_EQ(info.Default, u"Yes"_s);
+    EXPECT_EQ(info.Forced, u""_s);
+    EXPECT_EQ(info.Language, u"fre"_s);
+    EXPECT_EQ(info.HandlerName, u"Sound"_s);
+    EXPECT_TRUE(info.SourceText.contains(u"tag:x=ystream|index=1"_s));
+}
+
+TEST(StreamParser, FlagsOfAnExternalFileMustBeZeroToTwo)
+{
+    struct Claim
+    {
+        QString Text;
+        int Error;
+    };
+
+    const Claim claims[] = {
+        {u"disposition:default=0|disposition:forced=2|"_s, 0},
+        {u"disposition:default=0|"_s, 13},
+        {u"disposition:forced=0|"_s, 13},
+        {u"disposition:default=no|disposition:forced=0|"_s, 13},
+        {u"disposition:default=0|disposition:forced=3|"_s, 9},
+        {u"disposition:default=-1|disposition:forced=0|"_s, 9},
+        {u"disposition:default=0|disposition:forced=99999|"_s, 6},
+    };
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Error_Of([&] { Parse_External_Streams(claim.Text, u"/in/a.mp3"_s); }), claim.Error)
+            << claim.Text.toStdString();
+}
