@@ -62,7 +62,7 @@ QString Command_Line::Argument_Of(const QString& value)
 /// True for what mkvmerge's first pass over its arguments may take for an option of its own.
 static bool Reads_Like_An_Option(const QString& argument)
 {
-    static const QRegularExpression option(u"\\A(-.|--[a-z]+(-[a-z]+)*)\\z"_s);
+    static const QRegularExpression option(u"\\A(-[A-Za-z?]|--[a-z]+(-[a-z]+)*)\\z"_s);
     return argument.startsWith(u'-') && option.match(argument).hasMatch();
 }
 

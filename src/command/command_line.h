@@ -41,7 +41,7 @@ class Command_Line
     /// The argument that a value's text becomes.
     static QString Argument_Of(const QString& value);
     /// True for a value whose argument mkvmerge would not take for a value: it begins with "@", or it is a dash and
-    /// one character, or two dashes and lower-case words joined by dashes.
+    /// a letter, or two dashes and lower-case words joined by dashes.
     static bool Is_Refused(const QString& value);
     static QString Refused_Value(const QString& option, const QString& value);
 
