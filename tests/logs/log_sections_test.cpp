@@ -1,0 +1,238 @@
+#include "logs/log_sections.h"
+
+#include "common/test_program.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Setting = std::function<void(Program&)>;
+
+/// Everything that has a line is on, as far as lines don't exclude each other.
+void Turn_All_On(Program& program)
+{
+    JobOptions& o = program.Options;
+    o.Log_Verbosity = 5;
+    for (Check_Box* box : {&o.chk_StripOrigAudioTitle,
+                           &o.chk_CustomAudioFilter,
+                           &o.chk_EngAudioOnly,
+                           &o.chk_AudioDelayAdjust,
+                           &o.chk_AddAudio,
+                           &o.chk_UseAudioOpts,
+                           &o.chk_ApplyDefaultAudioOpts,
+                           &o.chk_AudioPath,
+                           &o.chk_StripOrigSubsTitle,
+                           &o.chk_CustomSubsFilter,
+                           &o.chk_EngSubsOnly,
+                           &o.chk_SubDefaults,
+                           &o.chk_SubForces,
+                           &o.chk_AddSubs,
+                           &o.chk_UseSubOpts,
+                           &o.chk_ApplyDefaultSubOpts,
+                           &o.chk_SubsPath,
+                           &o.chk_StripChaps,
+                           &o.chk_ReplaceChapters,
+                           &o.chk_ConvertTXT,
+                           &o.chk_ChaptersPath,
+                           &o.chk_VideoFrameRate,
+                           &o.chk_VideoFormatOptions,
+                           &o.chk_SetFileTitle,
+                           &o.chk_SetVideoTitle,
+                           &o.chk_RemoveAllTags,
+                           &o.chk_RemoveAllAttachments,
+                           &o.chk_SplitVideos})
+        box->Value = 1;
+    o.Delete_Video_After = true;
+    o.Add_Attachments_On = true;
+    o.AudioFilter.Languages = u"English (eng):French (fre)"_s;
+    o.SubsFilter.Languages = u"German (ger)"_s;
+    o.SubsFilter.KeepOrCut = 1;
+    o.chk_SubForces.Tag = u"yes"_s;
+    o.Frame_Rate_Value = u"25p"_s;
+    o.Video_Format_Kind = 1;
+    o.Video_Format_Value = u"16/9"_s;
+    o.opt_SetFileTitle.Selected = 1;
+    o.opt_SetVideoTitle.Selected = 2;
+    o.Path_Videos = u"/v/"_s;
+    o.Path_Target = u"/t/"_s;
+    o.Path_Subtitles = u"/s/"_s;
+    program.Form.txt_AudioDelayValue.Text = u"-250"_s;
+    program.Form.ulbl_AudioPath.Caption = u"/label/a/"_s;
+    program.Form.ulbl_SubsPath.Caption = u"/label/s/"_s;
+    program.Form.ulbl_ChaptersPath.Caption = u"/label/c/"_s;
+}
+
+TEST(Log_Sections, EveryBoxHasItsLineInTheLogsOrder)
+{
+    Test_Program test;
+    Turn_All_On(test.Prog);
+    const char16_t* const lines[] = {
+        u"            ~~ Strip Existing Audio Title",
+        u"            ~~ Apply custom Audio Filter (cut)",
+        u"               ~~ Original Audio Languages to Cut - English (eng):French (fre)",
+        u"            ~~ Filter out NON-English Audio",
+        u"            ~~ Audio Delay Adjust -250ms",
+        u"            ~~ Add Audio Files",
+        u"              ~~ Use Audio '.opt' (options) files",
+        u"                ~~ Apply Default Audio options",
+        u"            ~~ Alternate Audio File Path - Path= /label/a/",
+        u"            ~~ Strip Existing Subtitles Title",
+        u"            ~~ Apply custom Subtitle Filter (cut)",
+        u"               ~~ Original Subtitle Languages to Keep - German (ger)",
+        u"            ~~ Filter out NON-English Subtitles",
+        u"            ~~ Set All Subtitles defaults to 'no'",
+        u"            ~~ Set All Subtitles forces to 'yes'",
+        u"            ~~ Add Subtitles",
+        u"              ~~ Use Subtitle '.opt' (options) files",
+        u"                ~~ Apply Default Subtitle options",
+        u"            ~~ Alternate Subtitle File Path - Path= /label/s/",
+        u"            ++ Strip Existing Chapters",
+        u"            ++ Install/Replace Chapters With New XML File",
+        u"            ++ Convert TXT to XML Chapters HH:MM:SS.ff",
+        u"            ++ Alternate Chapters File Path - Path= /label/c/",
+        u"            -- Delete Source Video File After Its Processed",
+        u"            -- Set Video Frame Rate  - \"25p\"",
+        u"            -- Use Video Format Options  - \"16/9 Aspect Ratio\"",
+        u"            -- Set File Title (If Empty)",
+        u"            -- Set Video Title (Always)",
+        u"            -- Remove All Original Tags",
+        u"            -- Remove All Original Attachments",
+        u"            -- Add Attachments in Videos Path.",
+        u"            -- Split multiple video files is On",
+        u"            ~~ Video Files Path= /v/",
+        u"            ~~ Target Path= /t/",
+        u"            ~~ Alternate Audio File Path - Path= (Audio path not set)",
+        u"            ~~ Alternate Subtitle File Path - Path= /s/",
+        u"            ++ Alternate Chapters File Path - Path= (Chapters path not set)",
+    };
+    QStringList expected;
+    for (const auto* line : lines)
+        expected += QString::fromUtf16(line);
+    EXPECT_EQ(Active_Checkbox_Lines(test.Prog), expected);
+}
+
+/// One change to the state in which everything is on: the lines that go and the lines that come.
+struct Change
+{
+    const char* What;
+    Setting Set;
+    QStringList Gone;
+    QStringList Come;
+};
+
+TEST(Log_Sections, ABoxSilencesTheLinesItRulesOut)
+{
+    const Change changes[] = {
+        {"stripped audio",
+         [](Program& p) { p.Options.chk_StripOrigAudio.Value = 1; },
+         {u"            ~~ Strip Existing Audio Title"_s, u"            ~~ Filter out NON-English Audio"_s},
+         {u"            ~~ Strip Existing Audio"_s}},
+        {"stripped subtitles",
+         [](Program& p) { p.Options.chk_StripOrigSubs.Value = 1; },
+         {u"            ~~ Strip Existing Subtitles Title"_s, u"            ~~ Filter out NON-English Subtitles"_s},
+         {u"            ~~ Strip Existing Subtitles"_s}},
+        {"no option files, so no defaults for them",
+         [](Program& p) { p.Options.chk_UseAudioOpts.Value = 0; },
+         {u"              ~~ Use Audio '.opt' (options) files"_s, u"                ~~ Apply Default Audio options"_s},
+         {}},
+        {"no added subtitles",
+         [](Program& p) { p.Options.chk_AddSubs.Value = 0; },
+         {u"            ~~ Add Subtitles"_s, u"              ~~ Use Subtitle '.opt' (options) files"_s,
+          u"                ~~ Apply Default Subtitle options"_s},
+         {}},
+        {"level 4",
+         [](Program& p) { p.Options.Log_Verbosity = 4; },
+         {u"               ~~ Original Audio Languages to Cut - English (eng):French (fre)"_s,
+          u"               ~~ Original Subtitle Languages to Keep - German (ger)"_s},
+         {}},
+        {"converted chapters that replace nothing",
+         [](Program& p) { p.Options.chk_ReplaceChapters.Value = 0; },
+         {u"            ++ Install/Replace Chapters With New XML File"_s,
+          u"            ++ Convert TXT to XML Chapters HH:MM:SS.ff"_s},
+         {}},
+        {"disabled boxes: only these two are asked",
+         [](Program& p) {
+             p.Options.chk_VideoFrameRate.Enabled = p.Options.chk_VideoFormatOptions.Enabled = false;
+             p.Options.chk_RemoveAllTags.Enabled = p.Options.chk_AddAudio.Enabled = false;
+         },
+         {u"            -- Set Video Frame Rate  - \"25p\""_s,
+          u"            -- Use Video Format Options  - \"16/9 Aspect Ratio\""_s},
+         {}},
+        {"display dimensions",
+         [](Program& p) { p.Options.Video_Format_Kind = 2; },
+         {u"            -- Use Video Format Options  - \"16/9 Aspect Ratio\""_s},
+         {u"            -- Use Video Format Options  - \"16/9 Width/Height\""_s}},
+        {"a custom file title ahead of a set one",
+         [](Program& p) { p.Options.chk_CustomFileTitle.Value = 1; },
+         {u"            -- Set File Title (If Empty)"_s},
+         {u"            -- Set Custom File Title (empty)"_s}},
+        {"a removed file title ahead of both",
+         [](Program& p) { p.Options.chk_RemoveFileTitle.Value = p.Options.chk_CustomFileTitle.Value = 1; },
+         {u"            -- Set File Title (If Empty)"_s},
+         {u"            -- Remove File Title"_s}},
+        {"a custom video title",
+         [](Program& p) { p.Options.chk_CustomVideoTitle.Value = 1; },
+         {u"            -- Set Video Title (Always)"_s},
+         {u"            -- Set Custom Video Title (empty)"_s}},
+        {"a removed video title",
+         [](Program& p) { p.Options.chk_RemoveVideoTitle.Value = p.Options.chk_CustomVideoTitle.Value = 1; },
+         {u"            -- Set Video Title (Always)"_s},
+         {u"            -- Remove Video Title"_s}},
+        {"attachments from subfolders",
+         [](Program& p) { p.Options.Use_Attachment_Subfolders = true; },
+         {u"            -- Add Attachments in Videos Path."_s},
+         {u"            -- Add Attachments using Titled Subfolders Path."_s}},
+        {"a box that is neither on nor off counts as off",
+         [](Program& p) { p.Options.chk_RemoveAllTags.Value = 2; },
+         {u"            -- Remove All Original Tags"_s},
+         {}},
+    };
+    for (const Change& change : changes) {
+        Test_Program test;
+        Turn_All_On(test.Prog);
+        const QStringList before = Active_Checkbox_Lines(test.Prog);
+        change.Set(test.Prog);
+        const QStringList after = Active_Checkbox_Lines(test.Prog);
+        QStringList gone;
+        QStringList come;
+        for (const QString& line : before)
+            if (!after.contains(line))
+                gone += line;
+        for (const QString& line : after)
+            if (!before.contains(line))
+                come += line;
+        EXPECT_EQ(gone, change.Gone) << change.What;
+        EXPECT_EQ(come, change.Come) << change.What;
+    }
+}
+
+TEST(Log_Sections, MenuSelectionsTellTheSwitchesAndTheTools)
+{
+    Test_Program test;
+    Program& program = test.Prog;
+    program.Options.Log_Verbosity = 6;
+    program.Form.Topmost_On = true;
+    program.Settings.Save_On_Exit = false;
+    program.Options.mnu_AppendLogs = true;
+    program.Options.Keep_English_Audio = true;
+    program.Options.Keep_English_Subs = true;
+    program.Tools.FFProbe_Path = u"/f"_s;
+    program.Tools.System_MKVMerge_Path = u"/m"_s;
+    program.Tools.System_MKVMerge_Version = u"MKVMERGE v19.0.0 ('Brave Captain')"_s;
+    EXPECT_EQ(
+        Menu_Selection_Lines(program),
+        (QStringList{u"            -- Keep this program topmost"_s, u"            -- Save Settings on Exit is Off"_s,
+                     u"            -- Append Vantorra Log(s)"_s,
+                     u"            -- Log Verbosity 6 - Include ALL MKVMerge Reports"_s,
+                     u"            -- Keep English Titled Audio"_s, u"            -- Keep English Titled Subtitles"_s,
+                     u"            -- ffprobe.exe location - /f"_s,
+                     u"            -- MKVMerge.exe location - /m   v19.0.0 ('Brave Captain')"_s}));
+    program.Tools.System_MKVMerge_Version = u"a fork v1\r\n"_s;
+    EXPECT_EQ(Menu_Selection_Lines(program).constLast(),
+              u"            -- MKVMerge.exe location - /m   a fork v1\r\n"_s);
+}
+
+} // namespace

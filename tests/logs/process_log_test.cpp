@@ -1,0 +1,250 @@
+#include "logs/process_log.h"
+
+#include "common/test_program.h"
+#include "logs/form_lock.h"
+#include "support/folder_lock.h"
+#include "support/run_time_error.h"
+
+#include <QDir>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Log_Test : testing::Test, Test_Program
+{
+    Log_Test()
+    {
+        Prog.Now = [] { return QDateTime(QDate(2026, 3, 7), QTime(0, 5, 9)); };
+        Prog.Tools.FFProbe_Path = u"/app/ffprobe"_s;
+        Prog.Tools.System_MKVMerge_Path = u"/usr/bin/mkvmerge"_s;
+        Prog.Tools.System_MKVMerge_Version = u"mkvmerge v74.0.0 ('You Oughta Know') 64-bit\r\n"_s;
+    }
+
+    QByteArray Header(int level) const
+    {
+        return "This entry generated on - Mar/07/2026 12:05:09 AM local time by Vantorra ver 2.5.5 :: Log verbosity=" +
+               QByteArray::number(level) + "\r\n";
+    }
+
+    QByteArray Log() const { return Read(u"app/Vantorra_Process.log"_s); }
+
+    QByteArray Generation(const char* letter) const
+    {
+        return Read(u"app/Vantorra_Process"_s + QLatin1StringView(letter) + u".log"_s);
+    }
+
+    QStringList Files() const { return QDir(Path(u"app"_s)).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+};
+
+TEST_F(Log_Test, AnEmptyEntryIsTheHeaderAndTwoEmptyLines)
+{
+    EXPECT_TRUE(Write_Process_Log(Prog));
+    EXPECT_EQ(Log(), Header(0) + "\r\n\r\n");
+    EXPECT_EQ(Files(), QStringList{u"Vantorra_Process.log"_s}) << "no work file, no lock file stays";
+}
+
+TEST_F(Log_Test, OnlyResultsThatSaySomethingReachTheFileAndAllBuffersAreEmptyAfterwards)
+{
+    for (const auto* line : {u"@", u"~~~~", u"", u" @", u"    -- ü \"x\"", u"@"})
+        Prog.Logs.Log_Results.AppendLine(line);
+    Prog.Logs.Log_Faults.AppendLine(u"fault");
+    Prog.Logs.Log_Console.AppendLine(u"console");
+    Write_Process_Log(Prog);
+    EXPECT_EQ(Log(), Header(0) + "~~~~\r\n @\r\n    -- ü \"x\"\r\n\r\n\r\n");
+    EXPECT_TRUE(Prog.Logs.Log_Results.Is_Empty() && Prog.Logs.Log_Faults.Is_Empty() &&
+                Prog.Logs.Log_Console.Is_Empty());
+}
+
+TEST_F(Log_Test, AHaltedRunSaysSoBehindItsResults)
+{
+    Prog.Run.Halt_Requested = true;
+    Prog.Logs.Log_Results.AppendLine(u"~~~~");
+    Write_Process_Log(Prog);
+    EXPECT_EQ(Log(), Header(0) + "~~~~\r\n\r\n        *** Process halted before finishing!\r\n\r\n\r\n");
+}
+
+TEST_F(Log_Test, TheLevelDecidesOnTheSections)
+{
+    const QByteArray paths = "            ~~ Video Files Path= " + Path(u"videos/"_s).toUtf8() +
+                             "\r\n            ~~ Target Path= " + Path(u"target/"_s).toUtf8() + "\r\n";
+    const QByteArray boxes = "        [Active Checkboxes]\r\n" + paths + "\r\n";
+    const auto menu = [](const QByteArray& verbosity) {
+        return "        [Menu Selections]\r\n            -- Save Settings on Exit is On\r\n" + verbosity +
+               "            -- ffprobe.exe location - /app/ffprobe\r\n            -- MKVMerge.exe location - "
+               "/usr/bin/mkvmerge   v74.0.0 ('You Oughta Know') 64-bit\r\n\r\n";
+    };
+    const QByteArray sections[] = {
+        "",
+        "",
+        "",
+        boxes,
+        menu("            -- Log Verbosity 4 - Include All Menu Settings\r\n") + boxes,
+        menu("            -- Log Verbosity 5 - Include MKVMerge Reports\r\n") + boxes,
+        menu("            -- Log Verbosity 6 - Include ALL MKVMerge Reports\r\n") + boxes,
+        menu("") + boxes,
+    };
+    for (int level = 0; level <= 7; ++level) {
+        Prog.Options.Log_Verbosity = static_cast<std::int16_t>(level);
+        EXPECT_EQ(Log_Entry(Prog).toUtf8(), Header(level) + sections[level] + "\r\n\r\n") << level;
+    }
+}
+
+TEST_F(Log_Test, AppendingCarriesTheOldTextBelowTheNewEntryAndSendsTheOldLogToTheTrash)
+{
+    Prog.Options.mnu_AppendLogs = true;
+    Write(u"app/Vantorra_ProcessA.log"_s, "a");
+    Write(u"app/Vantorra_Process.log"_s, "old one\nold two\r\nno line end");
+    const qsizetype trashed = Names_In_Trash().filter(u"Vantorra_Process"_s).size();
+    Write_Process_Log(Prog);
+    EXPECT_EQ(Log(), Header(0) + "\r\n\r\n\r\nold one\nold two\r\nno line end\r\n");
+    EXPECT_EQ(Generation("A"), "a");
+    EXPECT_EQ(Names_In_Trash().filter(u"Vantorra_Process"_s).size(), trashed + 1);
+    EXPECT_EQ(Files(), (QStringList{u"Vantorra_Process.log"_s, u"Vantorra_ProcessA.log"_s}));
+    EXPECT_EQ(QDir(Path(u"app"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
+}
+
+TEST_F(Log_Test, WhatACrashedRunLeftInTheWorkFileStaysAheadOfTheNewEntry)
+{
+    for (const auto* leftover : {"left\r\n", "left"}) {
+        Write(u"app/Vantorra_ProcessNEW.log"_s, leftover);
+        Write_Process_Log(Prog);
+        EXPECT_EQ(Log(), "left\r\n" + Header(0) + "\r\n\r\n") << leftover;
+    }
+}
+
+TEST_F(Log_Test, FiveRunsWithoutAppendingLeaveAToD)
+{
+    for (const auto* text : {u"1", u"2", u"3", u"4", u"5"}) {
+        Prog.Logs.Log_Results.AppendLine(text);
+        Write_Process_Log(Prog);
+    }
+    const auto entry = [&](const char* text) { return Header(0) + text + "\r\n\r\n\r\n"; };
+    EXPECT_EQ(Log(), entry("5"));
+    EXPECT_EQ(Generation("A"), entry("4"));
+    EXPECT_EQ(Generation("B"), entry("3"));
+    EXPECT_EQ(Generation("C"), entry("2"));
+    EXPECT_EQ(Generation("D"), entry("1"));
+    EXPECT_EQ(Files().size(), 5);
+}
+
+TEST_F(Log_Test, RotationMovesEachGenerationByOneLetterAndClosesNoGap)
+{
+    struct Case
+    {
+        const char* Before; ///< letters that exist; "." is the current log
+        const char* After;  ///< what then lies at A to E, a blank for nothing
+        int Trashed;
+    };
+
+    const Case cases[] = {
+        {"", "     ", 0},       {".", ".    ", 0},     {"ABE", "AB  E", 0}, {".ABE", ".AB E", 0},
+        {".ABCDE", ".ABCD", 1}, {".ABCD", ".ABCD", 0}, {".DE", ".   D", 1}, {".CE", ".  CE", 0},
+    };
+    for (const Case& one : cases) {
+        QDir(Path(u"app"_s)).removeRecursively();
+        for (const char* letter = one.Before; *letter != 0; ++letter)
+            Write(*letter == '.' ? u"app/Vantorra_Process.log"_s
+                                 : u"app/Vantorra_Process"_s + QLatin1Char(*letter) + u".log"_s,
+                  QByteArray(1, *letter));
+        Write(u"app/other"_s);
+        const qsizetype trashed = Names_In_Trash().filter(u"Vantorra_ProcessE"_s).size();
+        EXPECT_EQ(Rotate_Process_Logs(Prog), *one.Before == '.') << one.Before;
+        QByteArray after;
+        for (const auto* letter : {"A", "B", "C", "D", "E"})
+            after += Generation(letter).isEmpty() ? " " : Generation(letter);
+        EXPECT_EQ(after, one.After) << one.Before;
+        EXPECT_TRUE(Log().isEmpty()) << one.Before;
+        EXPECT_EQ(Names_In_Trash().filter(u"Vantorra_ProcessE"_s).size(), trashed + one.Trashed) << one.Before;
+    }
+}
+
+TEST_F(Log_Test, ALogThatARunLeftUnderTwoNamesIsRotatedOnce)
+{
+    const QString log = Write(u"app/Vantorra_Process.log"_s, "old");
+    std::filesystem::create_hard_link(log.toStdString(), Path(u"app/Vantorra_ProcessA.log"_s).toStdString());
+    Write(u"app/Vantorra_ProcessB.log"_s, "b");
+    Write(u"app/Vantorra_ProcessNEW.log"_s, "left\r\n");
+    Write_Process_Log(Prog);
+    EXPECT_EQ(Log(), "left\r\n" + Header(0) + "\r\n\r\n");
+    EXPECT_EQ(Generation("A"), "old");
+    EXPECT_EQ(Generation("B"), "b");
+    EXPECT_EQ(Generation("C"), "");
+}
+
+TEST_F(Log_Test, ATrashThatRefusesTheOldestLogStopsTheRotationAndTheOldTextIsCarriedAlong)
+{
+    for (const auto* letter : {"", "A", "B", "C", "D", "E"})
+        Write(u"app/Vantorra_Process"_s + QLatin1StringView(letter) + u".log"_s, letter);
+    const QByteArray data_home = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", Write(u"no_folder"_s).toUtf8());
+    EXPECT_TRUE(Rotate_Process_Logs(Prog));
+    EXPECT_EQ(Faults().size(), 1) << "the line that says what could not be moved";
+    Write_Process_Log(Prog);
+    Prog.Options.mnu_AppendLogs = true;
+    Write_Process_Log(Prog);
+    qputenv("XDG_DATA_HOME", data_home);
+    const QByteArray entry = Header(0) + "\r\n\r\n";
+    EXPECT_EQ(Log(), entry + "\r\n" + entry + "\r\n");
+    for (const auto* letter : {"A", "B", "C", "D", "E"})
+        EXPECT_EQ(Generation(letter), letter);
+}
+
+TEST_F(Log_Test, ADryRunWritesNothing)
+{
+    Prog.Run.Dry_Run = true;
+    Prog.Logs.Log_Results.AppendLine(u"x");
+    EXPECT_TRUE(Write_Process_Log(Prog));
+    EXPECT_EQ(Files(), QStringList());
+    EXPECT_TRUE(Prog.Logs.Log_Results.Is_Empty());
+}
+
+TEST_F(Log_Test, ALogThatIsAFolderIsAnErrorThatNamesItAndTheEntryWaitsInTheWorkFile)
+{
+    QDir().mkpath(Path(u"app/Vantorra_Process.log"_s));
+    try {
+        Write_Process_Log(Prog);
+        FAIL() << "no error";
+    } catch (const Run_Time_Error& error) {
+        EXPECT_TRUE(error.Message().contains(u"Vantorra_Process.log"_s)) << error.what();
+    }
+    EXPECT_TRUE(Prog.Logs.Write_Failed);
+    EXPECT_EQ(Read(u"app/Vantorra_ProcessNEW.log"_s), Header(0) + "\r\n\r\n");
+}
+
+TEST_F(Log_Test, AnotherProgramsEntryIsWaitedFor)
+{
+    // The lock belongs to an opened folder, so one process can stand in for two.
+    auto other = std::make_unique<Folder_Lock>();
+    ASSERT_TRUE(other->Try(Path(u"app"_s)));
+    Person.On_Pump = [&] {
+        EXPECT_EQ(Files(), QStringList());
+        other.reset();
+        Person.On_Pump = nullptr;
+    };
+    Write_Process_Log(Prog);
+    EXPECT_GE(Person.Waited_Milliseconds, 50);
+    EXPECT_EQ(Log(), Header(0) + "\r\n\r\n");
+}
+
+TEST(Form_Lock, ARunTakesMenusAndOptionsAwayAndTheEndGivesThemBackWithoutTheHaltButton)
+{
+    Main_Form form;
+    const auto menus = [&] {
+        return form.mnu_File.Enabled + form.mnu_Process_Log.Enabled + form.mnu_Settings.Enabled +
+               form.mnu_HiThere1.Enabled;
+    };
+    Lock_Main_Form(form);
+    EXPECT_EQ(menus(), 0);
+    EXPECT_FALSE(form.fram_WholeForm.Enabled);
+    EXPECT_TRUE(form.btn_Halt.Enabled);
+    Unlock_Main_Form(form);
+    EXPECT_EQ(menus(), 4);
+    EXPECT_TRUE(form.fram_WholeForm.Enabled);
+    EXPECT_FALSE(form.btn_Halt.Enabled);
+}
+
+} // namespace

@@ -1,0 +1,63 @@
+#include "support/registry.h"
+
+#include "common/test_program.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(Registry, AValueIsFoundByItsNameWithoutRegardToCaseAndCutAtItsFirstZero)
+{
+    const std::vector<Registry_Value> values{
+        {.Name = u"Path"_s, .Type = Reg_Text_Type, .Data = u"C:\\x"_s},
+        {.Name = u"COUNT\0junk"_s, .Type = 4, .Data = u"7"_s},
+        {.Name = {}, .Type = Reg_Text_Type, .Data = u"C:\\gui.exe\0junk"_s},
+        {.Name = u"path"_s, .Type = Reg_Text_Type, .Data = u"second"_s},
+    };
+    QString value = u"former"_s;
+    EXPECT_FALSE(Find_Registry_Value(values, u"absent"_s, value));
+    EXPECT_EQ(value, u"former"_s);
+    EXPECT_TRUE(Find_Registry_Value(values, u"pATH"_s, value));
+    EXPECT_EQ(value, u"C:\\x"_s);
+    EXPECT_TRUE(Find_Registry_Value(values, {}, value));
+    EXPECT_EQ(value, u"C:\\gui.exe"_s);
+    EXPECT_TRUE(Find_Registry_Value(values, u"count"_s, value));
+    EXPECT_EQ(value, QString()) << "a number is no text";
+}
+
+TEST(Registry, BadRootsAndBadKeysLeaveTheSameErrorAndAGoodKeyIsNotFoundHere)
+{
+    struct Case
+    {
+        std::uint32_t Root;
+        QString Key;
+        std::uint32_t Error;
+    };
+
+    const Case cases[] = {
+        {0x7fffffff, u"SOFTWARE"_s, 0x80040001},
+        {0x80000007, u"SOFTWARE"_s, 0x80040001},
+        {Reg_Local_Machine, u"  "_s, 0x80040001},
+        {Reg_Local_Machine, QString(257, u'k'), 0x80040001},
+        {Reg_Local_Machine, QString(256, u'k'), 0},
+        {Reg_First_Root, u" k "_s, 0},
+        {Reg_Last_Root, u"k"_s, 0},
+    };
+    Registry_State state{.Reg_Error = 1, .Reg_Error_Text = u"old"_s, .Reg_Error_Extra = 2};
+    for (const Case& one : cases) {
+        EXPECT_FALSE(Reg_Key_Exists(state, one.Root, one.Key));
+        EXPECT_EQ(state.Reg_Error, one.Error) << one.Root;
+        EXPECT_EQ(state.Reg_Error_Text, one.Error == 0 ? QString() : u"Invalid Base Key Value."_s);
+        EXPECT_EQ(state.Reg_Error_Extra, 0);
+    }
+    QString value;
+    EXPECT_FALSE(Reg_Read_Value(state, u"SOFTWARE"_s, {}, value));
+}
+
+TEST(Registry, ErrorCodesHaveTheirTexts)
+{
+    EXPECT_EQ(Reg_Error_Message(0x80040003), u"Key Not Found."_s);
+    EXPECT_EQ(Reg_Error_Message(0x8004000F), u"Unable To Delete Value."_s);
+    for (const std::uint32_t code : {0u, 0x80040000u, 0x80040010u, 0xffffffffu})
+        EXPECT_EQ(Reg_Error_Message(code), u"Undefined Error."_s);
+}
