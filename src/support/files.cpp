@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QStringDecoder>
 #include <cerrno>
 #include <filesystem>
@@ -87,6 +88,13 @@ void Write_Whole_File(const QString& path, const QByteArray& content)
         Raise_File_Error(u"Writing a file"_s, path, Failure_Number());
 }
 
+/// Qt takes the current folder for the trash where the person's own trash can't be made, so that is tried first.
+static bool Trash_Can_Be_Made()
+{
+    const QDir trash(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Trash"_s);
+    return trash.mkpath(u"files"_s) && trash.mkpath(u"info"_s);
+}
+
 bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
 {
     // A dangling link exists as a thing to move though it names no file.
@@ -96,7 +104,7 @@ bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
     QString plain = path;
     while (plain.size() > 1 && plain.endsWith(Path_Separator))
         plain.chop(1);
-    if (QFile::moveToTrash(plain))
+    if (Trash_Can_Be_Made() && QFile::moveToTrash(plain))
         return true;
     faults.AppendLine(u"-- Could not be moved to the trash - \""_s + plain + u'"');
     return false;

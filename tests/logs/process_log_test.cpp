@@ -190,7 +190,7 @@ TEST_F(Log_Test, ATrashThatRefusesTheOldestLogStopsTheRotationAndTheOldTextIsCar
     const QByteArray entry = Header(0) + "\r\n\r\n";
     EXPECT_EQ(Log(), entry + "\r\n" + entry + "\r\n");
     for (const auto* letter : {"A", "B", "C", "D", "E"})
-        EXPECT_EQ(Generation(letter), letter);
+        EXPECT_EQ(Generation(letter), QByteArray(letter));
 }
 
 TEST_F(Log_Test, ADryRunWritesNothing)
