@@ -77,6 +77,8 @@ Test_Program::Test_Program()
     Prog.Settings.Version_Banner = u"Vantorra ver 2.5.5"_s;
     Prog.Options.Path_Videos = Path(u"videos/"_s);
     Prog.Options.Path_Target = Path(u"target/"_s);
+    // A test ends only what it started, whatever else of that name runs on this machine.
+    Prog.Run.Kill_By_Name = false;
 }
 
 QString Test_Program::Path(const QString& relative) const

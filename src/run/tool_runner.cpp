@@ -1,0 +1,194 @@
+#include "run/tool_runner.h"
+
+#include "command/command_line.h"
+#include "program.h"
+#include "run/failure_reports.h"
+#include "run/kill_mkvmerge.h"
+#include "support/console_text.h"
+#include "support/paths.h"
+#include "support/run_time_error.h"
+#include "support/text.h"
+
+#include <cmath>
+#include <cstdint>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+static constexpr std::size_t Capture_Bytes = 10240;
+static constexpr std::size_t Fresh_Bytes = 30720;
+static constexpr std::size_t Mkvmerge_Bytes = 10240;
+static constexpr int Wait_After_Kill = 1200;
+/// Chunks up to this length are no messages worth keeping.
+static constexpr qsizetype Longest_Dropped_Chunk = 16;
+/// mkvmerge prints "Progress: " ahead of the number.
+static constexpr qsizetype Characters_Before_Percent = 10;
+
+/// What a halt does to a child that still prints or is silent.
+enum class On_Halt
+{
+    Let_It_End,
+    Kill_It
+};
+
+/// Starts the child and notes how that went where the callers look for it.
+static bool Start_Child(Run_State& run, Child_Process& child, const QString& executable, const Command_Line& command)
+{
+    run.Exit_Status.reset();
+    const Child_Process::Started started = child.Start(executable, command.Arguments());
+    run.Pipe_Result = started == Child_Process::Started::No_Pipe ? 0 : 1;
+    // For a pipe too: the report that follows quotes the system's words.
+    run.Process_Result = started == Child_Process::Started::Yes ? -1 : child.System_Error();
+    return started == Child_Process::Started::Yes;
+}
+
+/// The halt of an mkvmerge run. Its own child goes first, so that it's gone even where nothing is killed by name.
+static void Kill_Mkvmerge(Program& program, Child_Process& child, const QString& executable)
+{
+    child.Kill();
+    if (program.Run.Kill_By_Name)
+        Kill_By_Executable_Name(executable);
+    program.Person.Wait_With_Events(Wait_After_Kill);
+}
+
+/// One run of a tool: `take` gets each chunk as text, CR LF at its line ends, just as the reads cut it.
+static void Run_Tool(Program& program, const QString& executable, const Command_Line& command, std::size_t most,
+                     On_Halt on_halt, const std::function<void(const QString&)>& take)
+{
+    // An error that unwinds through here kills and reaps the child.
+    Child_Process child;
+    if (!Start_Child(program.Run, child, executable, command))
+        return;
+
+    Console_Text text;
+    QByteArray bytes;
+    for (;;) {
+        program.Person.Pump_Events();
+        const Child_Process::Read read = child.Read_Chunk(bytes, most);
+        if (read == Child_Process::Read::Ended)
+            break;
+        if (read == Child_Process::Read::Data)
+            take(text.Decode(bytes));
+        if (on_halt == On_Halt::Kill_It && program.Run.Halt_Requested) {
+            Kill_Mkvmerge(program, child, executable);
+            program.Run.Exit_Status = child.Exit_Status();
+            return;
+        }
+    }
+
+    // A child that has closed its output and runs on is waited for until a halt.
+    const bool ended = child.Wait([&program] {
+        program.Person.Pump_Events();
+        return !program.Run.Halt_Requested;
+    });
+    if (!ended && on_halt == On_Halt::Kill_It)
+        Kill_Mkvmerge(program, child, executable);
+    else if (!ended)
+        child.Kill();
+    program.Run.Exit_Status = child.Exit_Status();
+}
+
+void Run_Tool_Capture(Program& program, const QString& executable, const Command_Line& command, QString& output)
+{
+    Run_Tool(program, executable, command, Capture_Bytes, On_Halt::Let_It_End,
+             [&output](const QString& chunk) { output += chunk; });
+}
+
+void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const Command_Line& command, QString& output)
+{
+    output.clear();
+    Run_Tool(program, executable, command, Fresh_Bytes, On_Halt::Let_It_End,
+             [&output](const QString& chunk) { output += chunk; });
+}
+
+/// A value of the percentage's 16-bit arithmetic, rounded half to even. Deliberate: the limit of 327 videos ends the
+/// program, in the middle of a file.
+static int Checked_Percent(const Run_State& run, double value)
+{
+    const double rounded = std::nearbyint(value);
+    if (rounded < INT16_MIN || rounded > INT16_MAX)
+        throw Run_Time_Error(Error_Number::Overflow, u"Working out the percentage while writing"_s, run.Output_Path, {},
+                             u"That file is only half written: delete it. More than 327 videos at a time can't be "
+                             u"counted: move some to another folder."_s);
+    return static_cast<int>(rounded);
+}
+
+/// Keeps a chunk of mkvmerge's output, or drives the percentage with it.
+static void Take_Mkvmerge_Chunk(Program& program, const QString& chunk)
+{
+    const bool is_progress = chunk.contains(u"progress"_s, Qt::CaseInsensitive);
+    // Deliberate: the whole chunk goes, whatever else it holds, if it speaks of progress or names the program's folder;
+    // for a program in "/" that is every chunk. A video called "Work in progress" loses its messages and shows 0 %.
+    if (!is_progress && chunk.size() > Longest_Dropped_Chunk &&
+        !chunk.contains(program.Settings.App_Folder.chopped(program.Settings.App_Folder.isEmpty() ? 0 : 1)))
+        program.Logs.Log_Console.AppendLine(chunk);
+    if (is_progress) {
+        const double percent = Number_Prefix(chunk.mid(Characters_Before_Percent));
+        Show_Progress(program, Checked_Percent(program.Run, percent), 0);
+    }
+}
+
+void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command)
+{
+    Run_Tool(program, executable, command, Mkvmerge_Bytes, On_Halt::Kill_It,
+             [&program](const QString& chunk) { Take_Mkvmerge_Chunk(program, chunk); });
+}
+
+void Show_Progress(Program& program, int percent, int total)
+{
+    if (percent < 0)
+        return;
+    const Run_State& run = program.Run;
+    if (total < 1)
+        total = Checked_Percent(run, static_cast<double>(run.Video_File_List.size()) * 100);
+    const int reached = Checked_Percent(run, Checked_Percent(run, run.File_Index * 100) + percent);
+    const double fraction = static_cast<double>(reached) / total;
+    const int overall = Checked_Percent(run, fraction * 100);
+
+    program.Form.Progress = Progress_Look::Running;
+    program.Form.lbl_ProgressFinished.Visible = true;
+    program.Form.lbl_ProgressFinished.Caption = QString::number(overall) + u'%';
+    program.Person.Pump_Events();
+    program.Person.Pump_Events();
+    program.Form.Progress_Fraction = fraction;
+    if (program.Listener)
+        program.Listener->Progress(percent, overall);
+}
+
+Command_Line FFProbe_Command(const QString& what, const QString& path)
+{
+    Command_Line command;
+    command.Add_Options(u" -v quiet -print_format compact"_s);
+    command.Add_Path(u' ' + what + u' ', path);
+    return command;
+}
+
+/// The three checks behind each ffprobe run on a video; true if it went well.
+static bool Check_FFProbe_Run(Program& program, const QString& video_path)
+{
+    int code = 0;
+    if (program.Run.Pipe_Result == 0)
+        code = 11;
+    else if (program.Run.Process_Result != -1)
+        code = 12;
+    else if (program.Media.FFProbe_Output.isEmpty())
+        code = 13;
+    if (code != 0)
+        Report_Run_Failure(program, code, u"FFProbe"_s, Quote_Path(video_path));
+    return code == 0;
+}
+
+int Run_FFProbe_Video(Program& program, const QString& video_path)
+{
+    QString& output = program.Media.FFProbe_Output;
+    output.clear();
+    Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_format"_s, video_path), output);
+    if (!Check_FFProbe_Run(program, video_path))
+        return 0;
+    // The streams' text lands behind the format's, so a second run that prints nothing is no failure.
+    Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_streams"_s, video_path), output);
+    if (!Check_FFProbe_Run(program, video_path))
+        return 0;
+    program.Person.Pump_Events();
+    return 1;
+}

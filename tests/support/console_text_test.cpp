@@ -1,0 +1,29 @@
+#include "support/console_text.h"
+
+#include "common/test_program.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(ConsoleText, CharactersAndLineEndsSurviveACutAtAnyPlace)
+{
+    const QByteArray bytes = QByteArray("Prog\r 1%\r\rA\nB\r\n\n\r\n") + "é漢😀\n" + "\xff end\n";
+    const QString expected = u"Prog\r 1%\r\rA\r\nB\r\n\r\n\r\né漢😀\r\n\uFFFD end\r\n"_s;
+    for (qsizetype first = 0; first <= bytes.size(); ++first)
+        for (qsizetype second = first; second <= bytes.size(); ++second) {
+            Console_Text text;
+            QString whole = text.Decode(bytes.left(first));
+            whole += text.Decode(bytes.mid(first, second - first));
+            whole += text.Decode(bytes.mid(second));
+            ASSERT_EQ(whole, expected) << first << " " << second;
+        }
+}
+
+TEST(ConsoleText, AnEmptyChunkForgetsNothing)
+{
+    Console_Text text;
+    EXPECT_EQ(text.Decode("a\r"), u"a\r"_s);
+    EXPECT_EQ(text.Decode(""), u""_s);
+    EXPECT_EQ(text.Decode("\nb"), u"\nb"_s);
+}
