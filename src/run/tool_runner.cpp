@@ -1,6 +1,7 @@
 #include "run/tool_runner.h"
 
 #include "command/command_line.h"
+#include "inspect/stream_parser.h"
 #include "program.h"
 #include "run/failure_reports.h"
 #include "run/kill_mkvmerge.h"
@@ -158,8 +159,7 @@ void Show_Progress(Program& program, int percent, int total)
 Command_Line FFProbe_Command(const QString& what, const QString& path)
 {
     Command_Line command;
-    command.Add_Options(u" -v quiet -print_format compact"_s);
-    command.Add_Path(u' ' + what + u' ', path);
+    command.Add_Path(u" -v quiet -print_format compact "_s + what + u' ', path);
     return command;
 }
 
@@ -185,6 +185,7 @@ int Run_FFProbe_Video(Program& program, const QString& video_path)
     Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_format"_s, video_path), output);
     if (!Check_FFProbe_Run(program, video_path))
         return 0;
+    program.Media.Video_Duration = Format_Duration(output, video_path);
     // The streams' text lands behind the format's, so a second run that prints nothing is no failure.
     Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_streams"_s, video_path), output);
     if (!Check_FFProbe_Run(program, video_path))

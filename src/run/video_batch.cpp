@@ -1,0 +1,253 @@
+#include "run/video_batch.h"
+
+#include "command/attachments.h"
+#include "command/command_frame.h"
+#include "inspect/video_names.h"
+#include "program.h"
+#include "run/batch_captions.h"
+#include "run/failure_reports.h"
+#include "run/output_guard.h"
+#include "run/results_digest.h"
+#include "run/tool_runner.h"
+#include "support/files.h"
+#include "support/paths.h"
+#include "support/text.h"
+
+#include <QElapsedTimer>
+
+using namespace Qt::StringLiterals;
+
+/// What one walk over the folder carries from file to file.
+struct Batch
+{
+    int Files_Done = 0;
+    QString Name; ///< of the last video that was taken in work, with its extension
+    /// Base name of the last video whose attachments were searched, or the last pattern of deleted companions.
+    /// Deliberate: never cleared during a walk, and it decides between the reports 70 and 71.
+    QString Stale_Base;
+};
+
+/// How the walk goes on after an entry.
+enum class After_Entry
+{
+    Next,
+    Halted, ///< leave the walk, then close it
+    Stopped ///< leave the run at once: mkvmerge can't be started
+};
+
+static QString Quoted(const QString& path)
+{
+    return u'"' + path + u'"';
+}
+
+bool Find_Video_Files(Program& program, const QString& folder, const QString& patterns, QStringList& list)
+{
+    list = {QString()};
+    for (const QString& name : List_Files(folder)) {
+        if (Match_File_Masks(name.toLower(), patterns)) {
+            if (!list.constLast().isEmpty())
+                list += QString();
+            list.last() = name;
+        }
+        program.Person.Pump_Events();
+    }
+    return !list.constFirst().isEmpty();
+}
+
+/// True for an entry that vanished since the walk began. One whose name isn't valid UTF-8 can't be looked at by its
+/// text: it isn't passed over but goes on to its report.
+static bool Is_Gone(const QString& path)
+{
+    return !File_Exists(path) && !path.contains(QChar::ReplacementCharacter);
+}
+
+/// Moves the video's companions to the trash, and its attachments.
+static void Delete_Companions(Program& program, Batch& batch)
+{
+    Run_State& run = program.Run;
+    clsStringBuilder& faults = program.Logs.Log_Faults;
+    const QString& folder = program.Options.Path_Videos;
+    const QString base = Get_Base_Name(run.Current_Video_Path);
+
+    batch.Stale_Base = folder + base + u"_Track*.*"_s;
+    run.Ancillary_Deleted = Recycle_By_Prefix(folder, base + u"_Track"_s, faults);
+    if (!run.Add_Attachments_On)
+        return;
+    if (program.Options.Use_Attachment_Subfolders) {
+        // Deliberate: the folder beside the video, though the attachments were looked for in the attachments' folder.
+        run.Attachment_Folder_Deleted = Delete_To_Recycle(folder + base + u"_Attachments"_s, faults);
+        return;
+    }
+    // Deliberate: all that was attached goes after the first video, so that the next has none; an empty list sets the
+    // flag all the same.
+    run.Attachment_Files_Deleted = true;
+    for (const Attachment& attachment : program.Companions.Attachment_List)
+        if (!Delete_To_Recycle(attachment.FullPath, faults))
+            run.Attachment_Files_Deleted = false;
+}
+
+/// The deletions behind a run of mkvmerge. Deliberate: whatever its result was; only the extension asks for it.
+static void Delete_After_Run(Program& program, Batch& batch, bool successful)
+{
+    const JobOptions& options = program.Options;
+    Run_State& run = program.Run;
+    if (!options.Delete_Video_After)
+        return;
+    if (program.Settings.Extensions.Delete_Source_Only_After_Success && !successful) {
+        program.Logs.Log_Faults.AppendLine(u"-- Source video file KEPT, as mkvmerge did not succeed - "_s +
+                                           Quoted(run.Current_Video_Path));
+        return;
+    }
+    run.Source_Deleted = Delete_To_Recycle(run.Current_Video_Path, program.Logs.Log_Faults);
+    if (options.Delete_Sundry_Files)
+        Delete_Companions(program, batch);
+}
+
+/// Runs the command that was assembled for the video in work.
+static After_Entry Run_Command(Program& program, Batch& batch, File_Outcome& outcome)
+{
+    Run_State& run = program.Run;
+    program.Logs.Log_Console.Clear();
+    Run_Mkvmerge(program, program.Tools.System_MKVMerge_Path, run.Mkvmerge_Arguments);
+    outcome.Exit = run.Exit_Status.value_or(-1);
+    if (run.Halt_Requested)
+        return After_Entry::Halted;
+    // A mkvmerge that never ran must not count as a run: nothing is deleted for it.
+    if (run.Pipe_Result == 0) {
+        Report_Run_Failure(program, 8, program.Tools.Local_MKVMerge_Path);
+        return After_Entry::Stopped;
+    }
+    if (run.Process_Result != -1) {
+        Report_Run_Failure(program, 9, program.Tools.System_MKVMerge_Path);
+        return After_Entry::Stopped;
+    }
+    // 1 means that it wrote the file and warned.
+    const bool successful = outcome.Exit == 0 || outcome.Exit == 1;
+    outcome.Status = successful ? File_Outcome::Kind::Done : File_Outcome::Kind::Failed;
+    Delete_After_Run(program, batch, successful);
+    program.Person.Pump_Events();
+    return After_Entry::Next;
+}
+
+/// Inspects the video in work and, if ffprobe had something to say, assembles its command and runs it.
+static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& outcome)
+{
+    Run_State& run = program.Run;
+    const JobOptions& options = program.Options;
+    const bool inspected = Run_FFProbe_Video(program, run.Current_Video_Path) == 1;
+    if (run.Halt_Requested) {
+        outcome.Status = File_Outcome::Kind::Skipped;
+        return After_Entry::Halted;
+    }
+    if (!inspected)
+        return After_Entry::Next;
+
+    if (run.Add_Attachments_On) {
+        batch.Stale_Base = Get_Base_Name(batch.Name);
+        Find_Attachments_Of_Video(options, batch.Stale_Base, program.Companions.Attachment_List,
+                                  program.Logs.Log_Faults, program.Person);
+    }
+    program.Logs.Log_Faults.AppendLine(u"-- Processing video file - "_s + Quoted(run.Current_Video_Path));
+    if (Parse_VideoData_A(program, options.Path_Target, options.Path_Videos, run.Current_Video_Path) != 1)
+        return After_Entry::Next;
+
+    outcome.Output = run.Output_Path;
+    const QString input = Input_That_Is_Output(run.Mkvmerge_Arguments, run.Output_Path);
+    if (!input.isEmpty()) {
+        program.Logs.Log_Faults.AppendLine(Refused_Output(input, run.Output_Path));
+        return After_Entry::Next;
+    }
+    if (program.Listener)
+        program.Listener->Command_Ready(run.Current_Video_Path, run.Output_Path, run.Mkvmerge_Arguments);
+    if (program.Run.Dry_Run) {
+        outcome.Status = File_Outcome::Kind::Skipped;
+        return After_Entry::Next;
+    }
+    return Run_Command(program, batch, outcome);
+}
+
+static void Clear_File_Marks(Run_State& run)
+{
+    run.Digest_Separator_Written = 0;
+    run.Source_Deleted = false;
+    run.Ancillary_Deleted = false;
+    run.Attachment_Files_Deleted = false;
+    run.Attachment_Folder_Deleted = false;
+}
+
+/// One entry of the folder, whatever it is.
+static After_Entry Process_Entry(Program& program, Batch& batch, const QString& name)
+{
+    Run_State& run = program.Run;
+    Clear_File_Marks(run);
+    program.Form.ulbl_Title1.Caption = name;
+    const QString lowered = name.toLower();
+    const QString path = program.Options.Path_Videos + name;
+    if (!Video_Extensions.contains(Get_Extension(lowered)) || Is_Gone(path))
+        return After_Entry::Next;
+
+    File_Outcome outcome{.Source = path, .Output = {}, .Status = File_Outcome::Kind::Failed, .Exit = -1};
+    QElapsedTimer clock;
+    clock.start();
+    if (program.Listener)
+        program.Listener->File_Started(batch.Files_Done + 1, path);
+
+    After_Entry after = After_Entry::Next;
+    QString base_or_extension;
+    if (Is_Video_File(lowered, base_or_extension)) {
+        run.Files_Left = Checked_Int16(run.Video_File_List.size() - batch.Files_Done, u"Counting the files left"_s);
+        run.File_Index = Checked_Int16(batch.Files_Done, u"Counting the files done"_s);
+        batch.Name = name;
+        run.Current_Video_Path = path;
+        after = Process_Video(program, batch, outcome);
+        if (after == After_Entry::Next)
+            ++batch.Files_Done;
+    } else {
+        // Only a name without an extension gets here.
+        Report_Run_Failure(program, batch.Stale_Base.isEmpty() ? 70 : 71, base_or_extension, name);
+        outcome.Status = File_Outcome::Kind::Skipped;
+    }
+    outcome.Seconds = static_cast<double>(clock.elapsed()) / 1000;
+    if (program.Listener)
+        program.Listener->File_Finished(outcome);
+    return after;
+}
+
+/// The end of a walk that reached its end or was halted. False if it was halted.
+static bool Close_Walk(Program& program, const Batch& batch)
+{
+    program.Person.Pump_Events();
+    if (!program.Run.Halt_Requested)
+        return true;
+    program.Logs.Log_Faults.AppendLine(u"*** Process halted before finishing.");
+    // Deliberate: the source's name with its own extension, so a half-written output stays unless the source was .mkv.
+    const QString output = program.Options.Path_Target + batch.Name;
+    if (!program.Run.Dry_Run && !Same_File(output, program.Run.Current_Video_Path))
+        Recycle_If_Exists(output, program.Logs.Log_Faults);
+    return false;
+}
+
+bool Process_Video_Files(Program& program)
+{
+    Run_State& run = program.Run;
+    program.Person.Pump_Events();
+    run.Files_Total = Checked_Int16(run.Video_File_List.size(), u"Counting the videos"_s);
+    const QString videos_headline = u' ' + Videos_Box_Headline;
+    const QString target_headline = u' ' + Target_Box_Headline;
+    Show_Files_Found(program.Form, videos_headline, run.Files_Total);
+    Show_Nothing_Done_Yet(program.Form, target_headline);
+    if (program.Listener)
+        program.Listener->Run_Started(run.Files_Total);
+
+    Batch batch;
+    for (const QString& name : List_Files(program.Options.Path_Videos)) {
+        const After_Entry after = Process_Entry(program, batch, name);
+        if (after == After_Entry::Stopped)
+            return false;
+        if (after == After_Entry::Halted)
+            break;
+        Show_Files_Done(program.Form, target_headline, batch.Files_Done);
+        Digest_Results(program);
+    }
+    return Close_Walk(program, batch);
+}
