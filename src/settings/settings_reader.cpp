@@ -31,7 +31,7 @@ struct Track_Group
     Check_Box JobOptions::*Filter_Box;
     Check_Box JobOptions::*English_Box;
     FilterSettings JobOptions::*Filter;
-    const char16_t* Filter_Caption;
+    QStringView Filter_Caption;
     int Strip_Title;
     int Languages;
     int Keep;
@@ -140,7 +140,7 @@ static void Take_Filter(const Settings_Reader& reader, const Track_Group& group)
     reader.Take(group.Languages);
     filter.Count = Checked_Int16(Split_Text(filter.Languages, u":"_s).size(), u"Counting the languages of a filter"_s);
     reader.Take(group.Keep);
-    filter_box.Caption = QString(group.Filter_Caption) + (filter.KeepOrCut == 1 ? u"(keep)"_s : u"(cut)"_s);
+    filter_box.Caption = group.Filter_Caption.toString() + (filter.KeepOrCut == 1 ? u"(keep)"_s : u"(cut)"_s);
     const QString apply = reader.Take(group.Apply);
     reader.Take(group.Apply_Enabled);
     if (filter.Languages.isEmpty())
@@ -266,15 +266,18 @@ static void Take_Attachments(const Settings_Reader& reader)
     for (const int row : {Row::Remove_Tags, Row::Remove_Attachments, Row::Add_Attachments})
         reader.Take(row);
     JobOptions& options = reader.Prog.Options;
+    Attachments_Form& form = reader.Prog.Attachments_Dialog;
     if (options.Path_Attachments.isEmpty()) {
         Untick_And_Disable(options.chk_AddAttachments);
     } else if (!Folder_Exists(options.Path_Attachments)) {
         options.Path_Attachments.clear();
         Untick_And_Disable(options.chk_AddAttachments);
         Untick_And_Disable(options.chk_UseSubfolders);
+        form.lbl_UseSubfolders.Enabled = false;
     } else {
         reader.Take(Row::Subfolders);
         options.chk_UseSubfolders.Enabled = true;
+        form.lbl_AttachmentsPath.Caption = options.Path_Attachments;
         options.chk_AddAttachments.Caption = u"Add Attachments (path set)"_s;
     }
     options.Add_Attachments_On = options.chk_AddAttachments.Value > 0;
