@@ -1,7 +1,13 @@
+#include "headless/batch_program.h"
+#include "headless/stop_signals.h"
+#include "headless/utf8_locale.h"
+
 #include <QCoreApplication>
 
 int main(int argc, char** argv)
 {
+    Watch_For_Stop_Signals();
+    Use_UTF8_Locale();
     const QCoreApplication application(argc, argv);
-    return 0;
+    return Run_Batch_Program(QCoreApplication::arguments(), stdout, stderr, Stop_Signal_Came);
 }

@@ -26,6 +26,9 @@ class Run_Listener
   public:
     virtual ~Run_Listener() = default;
 
+    /// The run is refused before its loop begins, and why.
+    virtual void Refused(const QString& /*reason*/) {}
+
     /// The loop begins; `files` accepted videos were found.
     virtual void Run_Started(int /*files*/) {}
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+/// What vantorra-batch is asked to do.
+enum class Batch_Command
+{
+    Run,
+    Settings,
+    Identify,
+    Log
+};
+
+/// --tick and --untick: a click on a check box.
+struct Box_Click
+{
+    QString Name;
+    bool Tick = true;
+};
+
+/// The command line of vantorra-batch, understood.
+struct Batch_Options
+{
+    Batch_Command Command = Batch_Command::Run;
+    QString Videos = {};                ///< absolute; empty: the remembered folder
+    QString Target = {};                ///< absolute; empty: the remembered folder
+    QString App_Folder = {};            ///< absolute; empty: found as the window finds it
+    QStringList Settings = {};          ///< --set: "Section/Key=Value" each
+    std::vector<Box_Click> Clicks = {}; ///< in the order of the command line
+    bool Dry_Run = false;
+    bool Json = false;
+    bool Quiet = false;
+    bool Full = false;          ///< log: all of it, not its first lines only
+    bool Codec_Private = false; ///< identify: with the codec-private values
+    QStringList Files = {};     ///< identify: absolute paths
+};
+
+/// What became of the command line: options, or a text to print (help, version), or a mistake.
+struct Batch_Line
+{
+    std::optional<Batch_Options> Options;
+    QString Text;    ///< for standard output; the program then ends with 0
+    QString Mistake; ///< for standard error; the program then ends with 64
+};
+
+/// Understands the command line; `arguments` begins with the program's name. Folders and files are made absolute
+/// against the current folder.
+Batch_Line Parse_Batch_Line(const QStringList& arguments);

@@ -1,0 +1,89 @@
+#include "headless/batch_report.h"
+
+#include "headless/batch_options.h"
+#include "headless/json_report.h"
+#include "headless/plain_report.h"
+#include "program.h"
+#include "support/paths.h"
+
+using namespace Qt::StringLiterals;
+
+QString Printable(const QString& text)
+{
+    QString printable = text;
+    for (QChar& letter : printable)
+        if (letter.category() == QChar::Other_Control)
+            letter = u' ';
+    return printable;
+}
+
+std::unique_ptr<Batch_Report> Batch_Report::Make(const Batch_Options& options, std::FILE* out, std::FILE* err)
+{
+    if (options.Json)
+        return std::make_unique<Json_Report>(out, err);
+    return std::make_unique<Plain_Report>(options.Quiet, out, err);
+}
+
+void Batch_Report::Print(const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out_);
+    std::fflush(out_);
+}
+
+void Batch_Report::Complain(const QString& line)
+{
+    const QByteArray bytes = (u"vantorra-batch: "_s + Printable(line).simplified() + u'\n').toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), err_);
+    std::fflush(err_);
+}
+
+void Batch_Report::Show_Message(const Message_Box& box)
+{
+    const QString file = source_.isEmpty() || box.Text.contains(source_) ? QString() : u" ["_s + source_ + u']';
+    const QString number = box.Code == 0 ? QString() : u"#%1 "_s.arg(box.Code);
+    Complain(number + box.Title + u' ' + box.Text + file);
+    Tell(box.Code, box.Title, box.Text);
+}
+
+void Batch_Report::Warn(const QString& title, const QString& text)
+{
+    Complain(u"warning: "_s + text);
+    Tell(0, title, text);
+}
+
+void Batch_Report::Show_Error(const Run_Time_Error& error)
+{
+    const QString text = error.Message();
+    const qsizetype end = text.indexOf(u'\n');
+    Complain(text);
+    Tell(0, text.left(end).trimmed(), text);
+}
+
+void Batch_Report::File_Started(int, const QString& source)
+{
+    source_ = source;
+}
+
+void Batch_Report::Command_Ready(const QString& source, const QString& output, const Command_Line&)
+{
+    if (const auto writer = writers_.constFind(output); writer != writers_.constEnd())
+        Warn(u"Two videos write the same file"_s, u"%1 and %2 write the same file, %3: only the second stays."_s.arg(
+                                                      File_Name_Of(writer.value()), File_Name_Of(source), output));
+    writers_.insert(output, source);
+}
+
+void Batch_Report::File_Finished(const File_Outcome& outcome)
+{
+    if (outcome.Status == File_Outcome::Kind::Done)
+        ++done_;
+    else if (outcome.Status == File_Outcome::Kind::Failed)
+        ++failed_;
+    source_.clear();
+}
+
+void Batch_Report::Refused(const QString& reason)
+{
+    Complain(reason);
+    Tell(0, u"Refused"_s, reason);
+}

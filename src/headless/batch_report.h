@@ -1,0 +1,83 @@
+#pragma once
+
+#include "run/run_listener.h"
+#include "support/operator.h"
+#include "support/run_time_error.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <cstdio>
+#include <memory>
+
+struct Batch_Options;
+struct Program;
+
+/// How a run of vantorra-batch ended.
+enum class Batch_End
+{
+    Finished,
+    Interrupted,
+    Refused,
+    Error
+};
+
+/// What vantorra-batch says while it works: keeps count of the files and leaves the words to its two kinds, one for
+/// people and one for programs.
+class Batch_Report : public Run_Listener
+{
+  public:
+    /// Lines for people and programs go to `out`, faults to `err`.
+    Batch_Report(std::FILE* out, std::FILE* err) : out_(out), err_(err) {}
+
+    /// The kind that the options ask for.
+    static std::unique_ptr<Batch_Report> Make(const Batch_Options& options, std::FILE* out, std::FILE* err);
+
+    /// The program whose run is reported; to be set before it begins.
+    void Watch_Over(const Program& program) { program_ = &program; }
+
+    int Done() const { return done_; }
+
+    int Failed() const { return failed_; }
+
+    /// A message box was raised: one line on standard error, whatever the kind.
+    void Show_Message(const Message_Box& box);
+    /// Something that the operator should know and that stops nothing.
+    void Warn(const QString& title, const QString& text);
+    /// The run-time error that ends the program.
+    void Show_Error(const Run_Time_Error& error);
+    /// The last thing said. `exit` is the program's exit status.
+    virtual void Ended(Batch_End end, int exit) = 0;
+
+    void File_Started(int index, const QString& source) override;
+    void Command_Ready(const QString& source, const QString& output, const Command_Line& command) override;
+    void File_Finished(const File_Outcome& outcome) override;
+    void Refused(const QString& reason) override;
+
+  protected:
+    const Program& Watched() const { return *program_; }
+
+    /// A message, warning or error, for a kind that has more to do with it than the line on standard error.
+    virtual void Tell(int /*code*/, const QString& /*title*/, const QString& /*text*/) {}
+
+    /// Writes to standard output, and what was written is out when this returns.
+    void Print(const QString& text);
+    /// Writes one line to standard error; control characters in it are made harmless.
+    virtual void Complain(const QString& line);
+
+    const QString& Source_In_Work() const { return source_; }
+
+    std::FILE* Errors() const { return err_; }
+
+  private:
+    std::FILE* out_;
+    std::FILE* err_;
+    const Program* program_ = nullptr;
+    QString source_;
+    QMap<QString, QString> writers_; ///< output path to the source that wrote it last
+    int done_ = 0;
+    int failed_ = 0;
+};
+
+/// The text with every control character made a blank: safe to print on a terminal, and one line.
+QString Printable(const QString& text);

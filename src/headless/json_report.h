@@ -1,0 +1,25 @@
+#pragma once
+
+#include "headless/batch_report.h"
+
+#include <nlohmann/json.hpp>
+
+/// One JSON object a line on standard output; the first key of each is "event".
+class Json_Report : public Batch_Report
+{
+  public:
+    using Batch_Report::Batch_Report;
+
+    void Run_Started(int files) override;
+    void File_Started(int index, const QString& source) override;
+    void Command_Ready(const QString& source, const QString& output, const Command_Line& command) override;
+    void Progress(int percent, int overall) override;
+    void File_Finished(const File_Outcome& outcome) override;
+    void Ended(Batch_End end, int exit) override;
+
+  protected:
+    void Tell(int code, const QString& title, const QString& text) override;
+
+  private:
+    void Print_Event(const nlohmann::ordered_json& event);
+};

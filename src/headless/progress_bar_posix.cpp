@@ -1,0 +1,23 @@
+#include "headless/progress_bar.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+Progress_Bar::Progress_Bar(std::FILE* stream, bool wanted) : stream_(stream), on_(wanted && isatty(fileno(stream)) == 1)
+{}
+
+void Progress_Bar::Show(int percent, const QString& name)
+{
+    if (!on_)
+        return;
+    winsize size = {};
+    const bool known = ioctl(fileno(stream_), TIOCGWINSZ, &size) == 0 && size.ws_col > 1;
+    const QString text = Bar_Text(percent, name, known ? size.ws_col - 1 : 79);
+    if (text == shown_)
+        return;
+    const QByteArray bytes = text.toUtf8();
+    std::fputs("\r\033[K", stream_);
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
+    std::fflush(stream_);
+    shown_ = text;
+}

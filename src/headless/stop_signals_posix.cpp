@@ -1,0 +1,39 @@
+#include "headless/stop_signals.h"
+
+#include <csignal>
+
+/// All that a signal's handler may touch.
+static volatile std::sig_atomic_t stop_signal_came = 0;
+
+static void Remember_Stop(int)
+{
+    stop_signal_came = 1;
+}
+
+static void Watch(int signal_number)
+{
+    // A handler, not SIG_IGN: what is ignored stays ignored in the children, what is handled doesn't.
+    struct sigaction action = {};
+    action.sa_handler = Remember_Stop;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    sigaction(signal_number, &action, nullptr);
+}
+
+void Watch_For_Stop_Signals()
+{
+    // A shell starts its background jobs with SIGINT ignored; a batch that is sent one is meant to stop all the same.
+    Watch(SIGINT);
+    Watch(SIGTERM);
+    Watch(SIGPIPE);
+
+    struct sigaction present = {};
+    sigaction(SIGHUP, nullptr, &present);
+    if (present.sa_handler != SIG_IGN)
+        Watch(SIGHUP);
+}
+
+bool Stop_Signal_Came()
+{
+    return stop_signal_came != 0;
+}

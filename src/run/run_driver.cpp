@@ -1,0 +1,177 @@
+#include "run/run_driver.h"
+
+#include "inspect/video_names.h"
+#include "logs/form_lock.h"
+#include "logs/process_log.h"
+#include "program.h"
+#include "run/video_batch.h"
+#include "settings/folders.h"
+#include "settings/option_rules.h"
+#include "support/files.h"
+#include "support/paths.h"
+
+using namespace Qt::StringLiterals;
+
+/// An mkvmerge to work with: the one in use, the one that the system knows, or the local copy. True with no path at
+/// all: the run then fails at its first child.
+static bool Ensure_MKVMerge(Program& program)
+{
+    Tool_Paths& tools = program.Tools;
+    if (tools.System_MKVMerge_Path.isEmpty() || File_Exists(tools.System_MKVMerge_Path))
+        return true;
+    if (tools.Local_MKVMerge_Path.isEmpty())
+        return false;
+    tools.System_MKVMerge_Path = tools.Local_MKVMerge_Path;
+    return true;
+}
+
+static void Refuse(Program& program, const QString& line)
+{
+    if (program.Listener)
+        program.Listener->Refused(line.trimmed());
+    program.Logs.Log_Results.AppendLine(line);
+    Write_Process_Log(program);
+}
+
+/// Both folders are there and the first holds a video; else the refusal is in the log.
+static bool Find_Work(Program& program)
+{
+    Check_Paths(program, u"All"_s);
+    const QString& videos = program.Options.Path_Videos;
+    const QString& target = program.Options.Path_Target;
+    if (videos.isEmpty() || target.isEmpty()) {
+        Refuse(program, videos.isEmpty() && target.isEmpty()
+                            ? u"        -- The Video path and the Target path do not exist!"_s
+                        : videos.isEmpty() ? u"        -- The Video path does not exist!"_s
+                                           : u"        -- The Target path does not exist!"_s);
+        return false;
+    }
+
+    program.Run.Video_File_List = {QString()};
+    Find_Video_Files(program, videos, Video_Extensions, program.Run.Video_File_List);
+    if (program.Run.Video_File_List.constFirst().isEmpty()) {
+        program.Form.lbl_VideoPathFault.Caption = u"NO VIDEO FILES FOUND!"_s;
+        Refuse(program, u"        -- NO VIDEO FILES FOUND!"_s);
+        return false;
+    }
+    return true;
+}
+
+/// Three options hold for the whole run as they are at the press.
+static void Sample_Options(Program& program)
+{
+    const auto on = [](const Check_Box& box) { return box.Enabled && box.Value == 1; };
+    program.Run.Strip_Audio_Titles = on(program.Options.chk_StripOrigAudioTitle);
+    program.Run.Strip_Subtitle_Titles = on(program.Options.chk_StripOrigSubsTitle);
+    program.Run.Add_Attachments_On = on(program.Options.chk_AddAttachments);
+}
+
+static void Show_Running(Program& program)
+{
+    Main_Form& form = program.Form;
+    form.pic_QuitButton.Visible = false;
+    form.btn_RunVantorra.Visible = false;
+    form.pic_ProcessFailed.Visible = false;
+    Reset_Progress(program);
+    Lock_Main_Form(form);
+    form.btn_ViewVidInfo.Enabled = false;
+    form.btn_Halt.Caption = u"HALT"_s;
+    program.Run.Halt_Requested = false;
+    form.btn_Halt.Visible = true;
+    form.btn_Halt.Enabled = true;
+}
+
+static void Show_Idle(Program& program)
+{
+    Main_Form& form = program.Form;
+    form.pic_QuitButton.Visible = true;
+    form.btn_RunVantorra.Visible = true;
+    form.btn_Halt.Visible = false;
+    form.btn_Halt.Caption = u"HALT"_s;
+    program.Run.Halt_Requested = false;
+    form.btn_Halt.Enabled = true;
+    form.btn_ViewVidInfo.Enabled = true;
+}
+
+static void Run_Mode(Program& program)
+{
+    // Nothing writes this file; one that an earlier version left behind goes.
+    const QString interim_log = program.Settings.App_Folder + u"Vantorra_Interim.log"_s;
+    if (!program.Run.Dry_Run)
+        Recycle_If_Exists(interim_log, program.Logs.Log_Faults);
+
+    program.Person.Pump_Events();
+    program.Run.Run_In_Progress = true;
+    // Deliberate: what was noted between the last log entry and here is dropped.
+    program.Logs.Log_Results.Clear();
+    program.Logs.Log_Faults.Clear();
+    program.Logs.Log_Console.Clear();
+
+    // Deliberate: a run that ended through a failure report still counts as finished.
+    Process_Video_Files(program);
+}
+
+Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release)
+{
+    if (release.X < 0 || release.Y < 0 || release.X > release.Width || release.Y > release.Height) {
+        Default_Run(program);
+        return Press_Result::Ignored;
+    }
+    if (release.Button != Mouse_Button::Left || !release.Modifiers.None())
+        return Press_Result::Ignored;
+
+    if (!Ensure_MKVMerge(program) || !Find_Work(program))
+        return Press_Result::Refused;
+
+    Sample_Options(program);
+    Show_Running(program);
+    Run_Mode(program);
+
+    const bool halted = program.Run.Halt_Requested;
+    program.Run.Run_In_Progress = false;
+    if (halted)
+        Show_Interrupted(program);
+    else
+        Show_Finished(program);
+
+    Write_Process_Log(program);
+    Unlock_Main_Form(program.Form);
+    Show_Idle(program);
+    return halted ? Press_Result::Interrupted : Press_Result::Finished;
+}
+
+void btn_Halt_MouseUp(Program& program)
+{
+    program.Run.Halt_Requested = true;
+    program.Form.btn_Halt.Caption = u"HALTING"_s;
+    program.Form.btn_Halt.Enabled = false;
+}
+
+void Halt_Key(Program& program)
+{
+    if (!program.Run.Run_In_Progress || program.Run.Halt_Requested)
+        return;
+    program.Run.Halt_Requested = true;
+    program.Form.btn_Halt.Caption = u"HALTING"_s;
+}
+
+void Reset_Progress(Program& program)
+{
+    program.Form.lbl_ProgressFinished.Visible = false;
+    program.Form.Progress_Fraction = 0;
+    program.Form.Progress = Progress_Look::Idle;
+}
+
+void Show_Finished(Program& program)
+{
+    program.Form.lbl_ProgressFinished.Caption = u"FINISHED"_s;
+    program.Form.Progress_Fraction = 0;
+    program.Form.Progress = Progress_Look::Finished;
+}
+
+void Show_Interrupted(Program& program)
+{
+    program.Form.lbl_ProgressFinished.Caption = u"INTERRUPTED"_s;
+    program.Form.Progress_Fraction = 0;
+    program.Form.Progress = Progress_Look::Interrupted;
+}

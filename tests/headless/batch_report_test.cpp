@@ -1,0 +1,125 @@
+#include "common/test_program.h"
+
+#include "headless/batch_options.h"
+#include "headless/batch_report.h"
+#include "headless/memory_stream.h"
+#include "headless/progress_bar.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// A report of the kind that the options ask for, over a program whose run is played to it.
+struct Played_Run
+{
+    Memory_Stream Out;
+    Memory_Stream Err;
+    Test_Operator Person;
+    Program Prog{Person};
+    std::unique_ptr<Batch_Report> Report;
+
+    explicit Played_Run(const Batch_Options& options) : Report(Batch_Report::Make(options, Out.Stream(), Err.Stream()))
+    {
+        Prog.Run.Dry_Run = options.Dry_Run;
+        Prog.Options.Path_Videos = u"/v/"_s;
+        Prog.Options.Path_Target = u"/t/"_s;
+        Prog.Tools.System_MKVMerge_Path = u"/usr/bin/mkvmerge"_s;
+        Report->Watch_Over(Prog);
+    }
+
+    void File(const QString& name, File_Outcome::Kind status, int exit)
+    {
+        Command_Line command;
+        command.Add_Path(u" --output "_s, u"/t/my film.mkv"_s);
+        Report->File_Started(1, u"/v/"_s + name);
+        Report->Command_Ready(u"/v/"_s + name, u"/t/my film.mkv"_s, command);
+        Report->Progress(24, 3);
+        Report->File_Finished({.Source = u"/v/"_s + name,
+                               .Output = u"/t/my film.mkv"_s,
+                               .Status = status,
+                               .Exit = exit,
+                               .Seconds = 1.2504});
+    }
+};
+
+TEST(Batch_Report, JsonLinesHaveTheirKeysInTheirOrder)
+{
+    Played_Run run({.Json = true});
+    run.Report->Run_Started(1);
+    run.File(u"my \"film\"\n.avi"_s, File_Outcome::Kind::Done, 1);
+    run.Report->Show_Message({.Code = 13, .Title = u"T."_s, .Text = u"one\r\ntwo"_s});
+    run.Report->Ended(Batch_End::Finished, 0);
+    EXPECT_EQ(run.Out.Text(), uR"({"event":"run","videos":"/v/","target":"/t/","files":1,"version":"2.5.5"}
+{"event":"file","index":1,"source":"/v/my \"film\"\n.avi"}
+{"event":"command","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","text":" --output \"/t/my film.mkv\"","arguments":["--output","/t/my film.mkv"]}
+{"event":"progress","source":"/v/my \"film\"\n.avi","percent":24,"overall":3}
+{"event":"result","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","status":"done","exit":1,"seconds":1.25}
+{"event":"message","code":13,"title":"T.","text":"one\r\ntwo"}
+{"event":"finished","status":"finished","done":1,"failed":0,"exit":0}
+)"_s);
+    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: #13 T. one two\n"_s);
+}
+
+TEST(Batch_Report, ATextThatIsNoUnicodeStillGivesALine)
+{
+    Played_Run run({.Json = true});
+    run.Report->File_Started(1, u"/v/"_s + QChar(0xD800) + u".avi"_s);
+    EXPECT_TRUE(run.Out.Text().startsWith(uR"({"event":"file","index":1,"source":"/v/)"_s));
+    EXPECT_TRUE(run.Out.Text().endsWith(u".avi\"}\n"_s));
+}
+
+TEST(Batch_Report, PlainLinesNameEachFileAndCountThem)
+{
+    Played_Run run({});
+    run.Report->Run_Started(3);
+    run.File(u"a\x1b[2J.avi"_s, File_Outcome::Kind::Done, 0);
+    run.File(u"b.avi"_s, File_Outcome::Kind::Failed, 2);
+    run.File(u"c.avi"_s, File_Outcome::Kind::Failed, -1);
+    run.File(u"d"_s, File_Outcome::Kind::Skipped, -1);
+    run.Report->Ended(Batch_End::Finished, 2);
+    EXPECT_EQ(run.Out.Text(), u"done     a [2J.avi -> /t/my film.mkv (1.3 s)\n"
+                              "failed   b.avi (mkvmerge ended with status 2)\n"
+                              "failed   c.avi\n"
+                              "skipped  d\n"
+                              "FINISHED: 1 done, 2 failed\n"_s);
+    EXPECT_FALSE(run.Err.Text().contains(u'\x1b')) << "nothing that isn't a terminal gets a bar";
+}
+
+TEST(Batch_Report, ADryRunPrintsCommandsForAShellAndNothingElse)
+{
+    for (const bool quiet : {false, true}) {
+        Played_Run run({.Dry_Run = true, .Quiet = quiet});
+        run.Report->Run_Started(1);
+        run.File(u"a.avi"_s, File_Outcome::Kind::Done, 0);
+        run.Report->Ended(Batch_End::Finished, 0);
+        EXPECT_EQ(run.Out.Text(), Shell_Quoted({u"/usr/bin/mkvmerge"_s, u"--output"_s, u"/t/my film.mkv"_s}) + u'\n');
+    }
+}
+
+TEST(Batch_Report, TheSecondWriterOfAFileIsWarnedOf)
+{
+    Played_Run run({.Quiet = true});
+    run.File(u"a.avi"_s, File_Outcome::Kind::Done, 0);
+    EXPECT_EQ(run.Err.Text(), QString());
+    run.File(u"a.mp4"_s, File_Outcome::Kind::Done, 0);
+    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: a.avi and a.mp4 write the same file, /t/my film.mkv: only the "
+                              "second stays.\n"_s);
+    EXPECT_EQ(run.Out.Text(), QString()) << "quiet";
+}
+
+TEST(Batch_Report, AMessageNamesTheFileInWork)
+{
+    Played_Run run({});
+    run.Report->File_Started(1, u"/v/a.avi"_s);
+    run.Report->Show_Message({.Code = 12, .Title = u"T."_s, .Text = u"Failed."_s});
+    run.Report->Show_Message({.Title = u"T."_s, .Text = u"About /v/a.avi"_s});
+    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: #12 T. Failed. [/v/a.avi]\nvantorra-batch: T. About /v/a.avi\n"_s);
+}
+
+TEST(Batch_Report, TheBarFitsTheTerminal)
+{
+    EXPECT_EQ(Bar_Text(50, u"film"_s, 80), u"[###############               ]  50% film"_s);
+    EXPECT_EQ(Bar_Text(100, u"film"_s, 20).size(), 20);
+    EXPECT_EQ(Bar_Text(-5, {}, 80).count(u'#'), 0);
+    EXPECT_EQ(Bar_Text(1000, {}, 80).count(u'#'), 30);
+}
