@@ -2,9 +2,9 @@
 
 #include "program.h"
 #include "run/results_digest.h"
+#include "support/system_identification.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -110,12 +110,6 @@ QString Filled(QStringView text, Values values)
     return filled;
 }
 
-/// The system's words for its error number.
-QString System_Words(int error_number)
-{
-    return QString::fromLocal8Bit(std::strerror(error_number));
-}
-
 template <std::size_t Size>
 bool Holds(const int (&codes)[Size], int code)
 {
@@ -133,7 +127,7 @@ int Report_Run_Failure(Program& program, int code, const QString& text_1, const 
 
     Run_State& run = program.Run;
     if (Holds(First_Codes_With_Words, code)) {
-        run.Last_Error_Text = System_Words(run.Process_Result);
+        run.Last_Error_Text = Format_System_Error(run.Process_Result);
         if (run.Last_Error_Text.startsWith(u"%1 "_s))
             run.Last_Error_Text.remove(0, 3);
     }

@@ -1,0 +1,144 @@
+#include "common/media.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+QString Tool_In_Path(const QString& name)
+{
+    const QString path = QStandardPaths::findExecutable(name);
+    if (path.isEmpty())
+        qFatal("%s isn't installed: run scripts/setup", qPrintable(name));
+    return path;
+}
+
+void Use_Real_Tools(Test_Program& test)
+{
+    test.Prog.Tools.FFProbe_Path = Tool_In_Path(u"ffprobe"_s);
+    test.Prog.Tools.System_MKVMerge_Path = Tool_In_Path(u"mkvmerge"_s);
+}
+
+QString Media_File(const QString& name, const QStringList& ffmpeg_arguments)
+{
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    if (QFileInfo::exists(path))
+        return path;
+    QProcess ffmpeg;
+    ffmpeg.setStandardInputFile(QProcess::nullDevice());
+    ffmpeg.start(Tool_In_Path(u"ffmpeg"_s),
+                 QStringList{u"-v"_s, u"error"_s, u"-bitexact"_s} + ffmpeg_arguments + QStringList{path});
+    ffmpeg.waitForFinished(-1);
+    if (ffmpeg.exitStatus() != QProcess::NormalExit || ffmpeg.exitCode() != 0)
+        qFatal("ffmpeg can't make %s: %s", qPrintable(name), ffmpeg.readAllStandardError().constData());
+    return path;
+}
+
+/// Inputs 0 and 1: pictures and sound, half a second of each.
+static QStringList Picture_And_Sound()
+{
+    return {u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=duration=0.5:size=64x48:rate=10"_s,
+            u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=frequency=440:duration=0.5"_s};
+}
+
+QString Short_Video(const QString& extension)
+{
+    QStringList codecs = {u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"aac"_s};
+    if (extension == u"webm"_s)
+        codecs = {u"-c:v"_s, u"libvpx"_s, u"-c:a"_s, u"libvorbis"_s};
+    else if (extension == u"ts"_s)
+        codecs = {u"-c:v"_s, u"mpeg2video"_s, u"-r"_s, u"25"_s, u"-c:a"_s, u"mp2"_s};
+    else if (extension == u"avi"_s)
+        codecs = {u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"mp2"_s};
+    return Media_File(u"short."_s + extension, Picture_And_Sound() + codecs);
+}
+
+QString Rich_Video()
+{
+    const QString subtitles = QDir::temp().filePath(u"vantorra_rich_%1.srt"_s.arg(QCoreApplication::applicationPid()));
+    QFile file(subtitles);
+    if (!file.open(QIODevice::WriteOnly) || file.write("1\n00:00:00,000 --> 00:00:00,400\nBonjour\n") < 0)
+        qFatal("The subtitles of a test can't be written");
+    file.close();
+    const QStringList arguments = Picture_And_Sound() + QStringList{u"-f"_s,
+                                                                    u"lavfi"_s,
+                                                                    u"-i"_s,
+                                                                    u"sine=frequency=880:duration=0.5"_s,
+                                                                    u"-i"_s,
+                                                                    subtitles,
+                                                                    u"-map"_s,
+                                                                    u"0"_s,
+                                                                    u"-map"_s,
+                                                                    u"1"_s,
+                                                                    u"-map"_s,
+                                                                    u"2"_s,
+                                                                    u"-map"_s,
+                                                                    u"3"_s,
+                                                                    u"-c:v"_s,
+                                                                    u"mpeg4"_s,
+                                                                    u"-c:a"_s,
+                                                                    u"aac"_s,
+                                                                    u"-c:s"_s,
+                                                                    u"srt"_s,
+                                                                    u"-metadata"_s,
+                                                                    u"title=A rich film"_s,
+                                                                    u"-metadata:s:v:0"_s,
+                                                                    u"title=The picture"_s,
+                                                                    u"-metadata:s:a:0"_s,
+                                                                    u"language=eng"_s,
+                                                                    u"-metadata:s:a:0"_s,
+                                                                    u"title=English sound"_s,
+                                                                    u"-metadata:s:a:1"_s,
+                                                                    u"language=ger"_s,
+                                                                    u"-metadata:s:a:1"_s,
+                                                                    u"title=Deutscher Ton"_s,
+                                                                    u"-metadata:s:s:0"_s,
+                                                                    u"language=fre"_s,
+                                                                    u"-metadata:s:s:0"_s,
+                                                                    u"title=Sous-titres"_s};
+    const QString path = Media_File(u"rich.mkv"_s, arguments);
+    QFile::remove(subtitles);
+    return path;
+}
+
+QString Place(const Test_Program& test, const QString& media, const QString& relative)
+{
+    const QString path = test.Path(relative);
+    QDir().mkpath(QFileInfo(path).path());
+    if (!QFile::copy(media, path))
+        qFatal("A test's file can't be copied: %s", qPrintable(path));
+    return path;
+}
+
+QJsonObject Identify(const QString& path)
+{
+    QProcess mkvmerge;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    mkvmerge.setProcessEnvironment(environment);
+    mkvmerge.start(Tool_In_Path(u"mkvmerge"_s), {u"-J"_s, path});
+    mkvmerge.waitForFinished(-1);
+    const QJsonObject answer = QJsonDocument::fromJson(mkvmerge.readAllStandardOutput()).object();
+    return answer[u"container"_s][u"recognized"_s].toBool() ? answer : QJsonObject();
+}
+
+QStringList Tracks_Of(const QString& path)
+{
+    QStringList lines;
+    for (const QJsonValue track : Identify(path)[u"tracks"_s].toArray()) {
+        const QJsonValue properties = track[u"properties"_s];
+        QString line = QString::number(track[u"id"_s].toInt()) + u' ' + track[u"type"_s].toString() + u' ' +
+                       properties[u"language"_s].toString();
+        if (properties[u"default_track"_s].toBool())
+            line += u" default"_s;
+        lines += line;
+    }
+    return lines;
+}

@@ -1,0 +1,130 @@
+#include "run/video_batch.h"
+
+#include "common/stand_in_tool.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A folder with one video, its companions, files that only look like them, and attachments; mkvmerge is a stand-in
+/// that ends with `exit_status`.
+struct Deletions : testing::Test
+{
+    Test_Program Test;
+    Program& Prog = Test.Prog;
+
+    Deletions()
+    {
+        Prog.Tools.FFProbe_Path =
+            Write_Stand_In(Test, u"tools/ffprobe"_s, "echo 'stream|index=0|codec_type=video|duration=1.0|x='");
+        Merge_Ends_With(0);
+        Prog.Options.Log_Verbosity = 1;
+        Prog.Options.Delete_Video_After = true;
+        for (const QString& name : {u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"ab_Track1.mp3"_s,
+                                    u"a*.srt"_s, u"a*_Attachments/font.ttf"_s})
+            Test.Write(u"videos/"_s + name, "x");
+        Test.Write(u"attachments/one.ttf"_s, "x");
+        Test.Write(u"attachments/notes.txt"_s, "x");
+        Prog.Options.Path_Attachments = Test.Path(u"attachments/"_s);
+    }
+
+    void Merge_Ends_With(int status)
+    {
+        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(
+            Test, u"tools/mkvmerge"_s, "echo 'A banner of some length'; exit " + QByteArray::number(status));
+    }
+
+    /// What is left of the files, after a run.
+    QStringList Run()
+    {
+        EXPECT_TRUE(Process_Video_Files(Prog));
+        QStringList left;
+        for (const QString& folder : {u"videos"_s, u"videos/a*_Attachments"_s, u"attachments"_s})
+            left += QDir(Test.Path(folder)).entryList(QDir::Files, QDir::Name);
+        return left;
+    }
+
+    int Notes(const QString& what) const
+    {
+        return static_cast<int>(Test.Results().filter(what + u" DELETED after Processing - \""_s).size());
+    }
+};
+
+const QStringList All = {u"a*.mkv"_s,        u"a*.srt"_s,   u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s,
+                         u"ab_Track1.mp3"_s, u"font.ttf"_s, u"notes.txt"_s,     u"one.ttf"_s};
+
+QStringList All_But(const QStringList& gone)
+{
+    QStringList left = All;
+    for (const QString& name : gone)
+        left.removeAll(name);
+    return left;
+}
+
+} // namespace
+
+TEST_F(Deletions, WithoutTheMainSwitchNothingGoes)
+{
+    Prog.Options.Delete_Video_After = false;
+    Prog.Options.Delete_Sundry_Files = true;
+    EXPECT_EQ(Run(), All);
+}
+
+TEST_F(Deletions, TheSourceGoesWhateverMkvmergesResultWas)
+{
+    Merge_Ends_With(2);
+    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s}));
+    EXPECT_EQ(Notes(u"-- Source video file"_s), 1);
+    EXPECT_TRUE(Names_In_Trash().contains(u"a*.mkv"_s));
+}
+
+TEST_F(Deletions, WithTheExtensionASourceGoesOnlyAfterASuccess)
+{
+    Prog.Settings.Extensions.Delete_Source_Only_After_Success = true;
+    Prog.Options.Delete_Sundry_Files = true;
+    Merge_Ends_With(2);
+    EXPECT_EQ(Run(), All);
+    EXPECT_EQ(Test.Results().filter(u"-- Source video file KEPT"_s).size(), 1);
+    Merge_Ends_With(1);
+    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s}));
+}
+
+TEST_F(Deletions, CompanionsGoByTheirLiteralPrefix)
+{
+    Prog.Options.Delete_Sundry_Files = true;
+    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s}));
+    EXPECT_EQ(Notes(u"Ancillary files"_s), 1);
+    EXPECT_EQ(Notes(u"ATTACHMENT files"_s) + Notes(u"ATTACHMENT folder"_s), 0);
+}
+
+TEST_F(Deletions, AttachmentFilesGoWithTheCompanions)
+{
+    Prog.Options.Delete_Sundry_Files = true;
+    Prog.Run.Add_Attachments_On = true;
+    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"one.ttf"_s}));
+    EXPECT_EQ(Notes(u"ATTACHMENT files"_s), 1);
+}
+
+TEST_F(Deletions, WithSubfoldersTheFolderBesideTheVideoGoes)
+{
+    Prog.Options.Delete_Sundry_Files = true;
+    Prog.Run.Add_Attachments_On = true;
+    Prog.Options.Use_Attachment_Subfolders = true;
+    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"font.ttf"_s}));
+    EXPECT_FALSE(QDir(Test.Path(u"videos/a*_Attachments"_s)).exists());
+    EXPECT_EQ(Notes(u"ATTACHMENT folder"_s), 1);
+}
+
+TEST_F(Deletions, WhatCannotBeMovedToTheTrashStaysAndIsNotCalledDeleted)
+{
+    Prog.Options.Delete_Sundry_Files = true;
+    qputenv("XDG_DATA_HOME", "/proc/nowhere");
+    EXPECT_EQ(Run(), All);
+    EXPECT_FALSE(Prog.Run.Source_Deleted);
+    EXPECT_FALSE(Prog.Run.Ancillary_Deleted);
+    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 3);
+    EXPECT_EQ(Test.Results().filter(u"DELETED"_s).size(), 0);
+}

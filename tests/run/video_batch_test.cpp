@@ -1,0 +1,354 @@
+#include "run/video_batch.h"
+
+#include "common/stand_in_tool.h"
+#include "inspect/video_names.h"
+#include "support/files.h"
+#include "support/run_time_error.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What an ffprobe says about a file with one video track, and about nothing that is empty.
+const QByteArray Probe = "for file; do :; done\n"
+                         "[ -s \"$file\" ] || exit 1\n"
+                         "case \"$*\" in\n"
+                         "*-show_format*) printf 'format|filename=x|duration=1.5|size=1\\n' ;;\n"
+                         "*) printf 'stream|index=0|codec_name=h264|codec_type=video|tag:language=eng\\n' ;;\n"
+                         "esac\n";
+/// A mkvmerge that writes its output and says so; the fourth argument is the output.
+const QByteArray Merge = "echo 'mkvmerge v74.0.0'; echo 'The file has been opened for writing.'\n"
+                         "sleep 0.05; printf 'Progress: 100%%\\r'; sleep 0.05\n"
+                         "echo done > \"$4\"; echo 'Multiplexing took 0 seconds.'\n";
+
+/// Keeps what a driver would hear.
+struct Recorder : Run_Listener
+{
+    int Files = -1;
+    QStringList Started;
+    QStringList Commands;
+    std::vector<File_Outcome> Outcomes;
+    std::function<void()> On_Start;
+    std::function<void()> On_Command;
+
+    void Run_Started(int files) override { Files = files; }
+
+    void File_Started(int index, const QString& source) override
+    {
+        Started += QString::number(index) + u' ' + source.section(u'/', -1);
+        if (On_Start)
+            On_Start();
+    }
+
+    void Command_Ready(const QString&, const QString& output, const Command_Line&) override
+    {
+        Commands += output;
+        if (On_Command)
+            On_Command();
+    }
+
+    void File_Finished(const File_Outcome& outcome) override { Outcomes.push_back(outcome); }
+};
+
+struct VideoBatch : testing::Test
+{
+    Test_Program Test;
+    Program& Prog = Test.Prog;
+    Recorder Heard;
+
+    VideoBatch()
+    {
+        Prog.Tools.FFProbe_Path = Write_Stand_In(Test, u"tools/ffprobe"_s, Probe);
+        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(Test, u"tools/mkvmerge"_s, Merge);
+        Prog.Options.Log_Verbosity = 1;
+        Prog.Listener = &Heard;
+    }
+
+    bool Run()
+    {
+        Find_Video_Files(Prog, Prog.Options.Path_Videos, Video_Extensions, Prog.Run.Video_File_List);
+        return Process_Video_Files(Prog);
+    }
+
+    QStringList Names(const QString& folder) const
+    {
+        return QDir(Test.Path(folder)).entryList(QDir::Files, QDir::Name);
+    }
+
+    QList<int> Codes() const
+    {
+        QList<int> codes;
+        for (const Message_Box& box : Test.Person.Messages)
+            codes += box.Code;
+        return codes;
+    }
+};
+
+} // namespace
+
+TEST_F(VideoBatch, NamesAreFoundByTheirLoweredExtensionAndKeptAsTheyAre)
+{
+    for (const QString& name : {u"a.MKV"_s, u"b.mp4"_s, u".hidden.ts"_s, u"notes.txt"_s, u"clip.m"_s, u"plain"_s})
+        Test.Write(u"videos/"_s + name, "x");
+    QDir().mkpath(Test.Path(u"videos/folder.mkv"_s));
+    QStringList list = {u"old"_s};
+    EXPECT_TRUE(Find_Video_Files(Prog, Prog.Options.Path_Videos, Video_Extensions, list));
+    list.sort();
+    EXPECT_EQ(list, (QStringList{u".hidden.ts"_s, u"a.MKV"_s, u"b.mp4"_s}));
+    EXPECT_FALSE(Find_Video_Files(Prog, Test.Path(u"nowhere/"_s), Video_Extensions, list));
+    EXPECT_EQ(list, QStringList{u""_s});
+}
+
+TEST_F(VideoBatch, TheBoxesCountWhatIsFoundAndDone)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    QStringList seen;
+    Test.Person.On_Pump = [&] {
+        const QString now = Prog.Form.pic_TargetPath.Caption;
+        if (!seen.contains(now))
+            seen += now;
+    };
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Prog.Form.pic_VideosPath.Caption, u" Video Files Path (drag 'n drop)   1 File Found "_s);
+    EXPECT_EQ(seen.mid(1), (QStringList{u" Target Path (drag 'n drop)   0 Files Done "_s,
+                                        u" Target Path (drag 'n drop)   1 File Done "_s}));
+    Test.Write(u"videos/b.mkv"_s, "x");
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Prog.Form.pic_VideosPath.Caption, u" Video Files Path (drag 'n drop)   2 Files Found "_s);
+    EXPECT_EQ(Prog.Form.pic_TargetPath.Caption, u" Target Path (drag 'n drop)   2 Files Done "_s);
+    EXPECT_EQ(Prog.Form.lbl_ProgressFinished.Caption, u"100%"_s);
+}
+
+TEST_F(VideoBatch, EveryEntryIsDigestedAndOnlyVideosAreWritten)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Test.Write(u"videos/clip.m"_s, "x"); // a fragment of an extension: a video that isn't counted as found
+    Test.Write(u"videos/notes.txt"_s, "x");
+    Test.Write(u"videos/FILM.AVI"_s, "x");
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Names(u"target"_s), (QStringList{u"AVI.mkv"_s, u"a.mkv"_s, u"clip.mkv"_s}));
+    EXPECT_EQ(Heard.Files, 2);
+    EXPECT_EQ(Heard.Outcomes.size(), 3U);
+    EXPECT_EQ(Test.Results().count(u"@"_s), 4);
+    EXPECT_EQ(Test.Results().count(u"               Multiplexing took 0 seconds."_s), 3);
+    EXPECT_TRUE(
+        Test.Results().contains(u"            -- Processing video file - \""_s + Test.Path(u"videos/a.mkv"_s) + u'"'));
+}
+
+TEST_F(VideoBatch, AFailingFileDoesNotStopTheOthers)
+{
+    struct Claim
+    {
+        QByteArray Merge;
+        int Exit;
+        File_Outcome::Kind Status;
+    };
+
+    Test.Write(u"videos/empty.mkv"_s);
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Codes(), QList<int>{13});
+    EXPECT_EQ(Heard.Outcomes.at(0).Exit, -1);
+    EXPECT_TRUE(Prog.Form.pic_TargetPath.Caption.endsWith(u"1 File Done "_s));
+
+    Test.Write(u"videos/empty.mkv"_s, "x");
+    for (const Claim& claim :
+         {Claim{"exit 2", 2, File_Outcome::Kind::Failed}, Claim{"exit 1", 1, File_Outcome::Kind::Done},
+          Claim{"kill -9 $$", -9, File_Outcome::Kind::Failed}, Claim{"", 0, File_Outcome::Kind::Done}}) {
+        Heard.Outcomes.clear();
+        Write_Stand_In(Test, u"tools/mkvmerge"_s, claim.Merge);
+        EXPECT_TRUE(Run());
+        ASSERT_EQ(Heard.Outcomes.size(), 1U);
+        EXPECT_EQ(Heard.Outcomes[0].Exit, claim.Exit);
+        EXPECT_EQ(Heard.Outcomes[0].Status, claim.Status);
+        EXPECT_EQ(Heard.Outcomes[0].Output, Test.Path(u"target/empty.mkv"_s));
+    }
+}
+
+TEST_F(VideoBatch, AMkvmergeThatCannotRunStopsTheBatchAheadOfAnyDeletion)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Test.Write(u"videos/b.mkv"_s, "x");
+    Prog.Options.Delete_Video_After = true;
+    for (const QString& tool : {Test.Path(u"missing"_s), u"mkvmerge"_s, u""_s, Test.Write(u"plain"_s, "#!/bin/sh\n")}) {
+        Test.Person.Messages.clear();
+        Heard.Started.clear();
+        Prog.Tools.System_MKVMerge_Path = tool;
+        EXPECT_FALSE(Run());
+        EXPECT_EQ(Codes(), QList<int>{9});
+        EXPECT_EQ(Heard.Started.size(), 1);
+        EXPECT_EQ(Heard.Outcomes.back().Status, File_Outcome::Kind::Failed);
+    }
+    EXPECT_EQ(Names(u"videos"_s), (QStringList{u"a.mkv"_s, u"b.mkv"_s}));
+}
+
+TEST_F(VideoBatch, WithoutADescriptorThePipeIsReported)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    rlimit limit = {};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    const auto take_all = [&limit] {
+        const int next = ::dup(0);
+        ::close(next);
+        const rlimit none = {static_cast<rlim_t>(next), limit.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+    };
+    for (const bool for_mkvmerge : {true, false}) {
+        Test.Person.Messages.clear();
+        (for_mkvmerge ? Heard.On_Command : Heard.On_Start) = take_all;
+        // ffprobe's failure is one file's, mkvmerge's ends the batch.
+        EXPECT_EQ(Run(), !for_mkvmerge);
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+        EXPECT_EQ(Codes(), QList<int>{for_mkvmerge ? 8 : 11});
+    }
+}
+
+TEST_F(VideoBatch, ANameWithoutExtensionIsReportedByWhatWentBefore)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    // Enough of them that some stand behind the video, whatever the file system's order is.
+    for (int number = 0; number < 12; ++number)
+        Test.Write(u"videos/plain%1"_s.arg(number), "x");
+    for (const bool searched : {false, true}) {
+        Test.Person.Messages.clear();
+        Prog.Run.Add_Attachments_On = searched;
+        QList<int> expected;
+        bool behind = false;
+        for (const QString& name : List_Files(Prog.Options.Path_Videos)) {
+            if (name == u"a.mkv"_s)
+                behind = searched;
+            else
+                expected += behind ? 71 : 70;
+        }
+        EXPECT_TRUE(Run());
+        EXPECT_EQ(Codes(), expected);
+        EXPECT_TRUE(Prog.Form.pic_TargetPath.Caption.endsWith(u"1 File Done "_s));
+    }
+    EXPECT_EQ(Heard.Outcomes.size(), 26U);
+}
+
+TEST_F(VideoBatch, AFileThatVanishesIsPassedOver)
+{
+    Write_Stand_In(Test, u"tools/mkvmerge"_s, "for file in \"$(dirname \"$0\")\"/../videos/*; do rm \"$file\"; done\n");
+    for (const QString& name : {u"a.mkv"_s, u"b.mkv"_s, u"c.mkv"_s})
+        Test.Write(u"videos/"_s + name, "x");
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Heard.Started.size(), 1);
+    EXPECT_TRUE(Test.Person.Messages.empty());
+    EXPECT_EQ(Test.Results().count(u"@"_s), 3);
+}
+
+TEST_F(VideoBatch, ANameThatIsNotUtf8GetsItsReport)
+{
+    const QByteArray path = QFile::encodeName(Test.Path(u"videos/bad_"_s)) + "\xff.mkv";
+    FILE* file = ::fopen(path.constData(), "w");
+    ASSERT_NE(file, nullptr);
+    ::fputs("x", file);
+    ::fclose(file);
+    Test.Write(u"videos/good.mkv"_s, "x");
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Codes(), QList<int>{13});
+    EXPECT_EQ(Names(u"target"_s), QStringList{u"good.mkv"_s});
+    ::unlink(path.constData()); // Qt can't
+}
+
+TEST_F(VideoBatch, ADryRunAssemblesAndTouchesNothing)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Test.Write(u"videos/a_Track.srt"_s, "x");
+    Prog.Options.Delete_Video_After = Prog.Options.Delete_Sundry_Files = true;
+    Prog.Run.Dry_Run = true;
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Heard.Commands, QStringList{Test.Path(u"target/a.mkv"_s)});
+    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Skipped);
+    EXPECT_EQ(Names(u"videos"_s).size(), 2);
+    EXPECT_EQ(Names(u"target"_s), QStringList());
+}
+
+TEST_F(VideoBatch, AnOutputThatIsItsOwnSourceOrCompanionIsNotWritten)
+{
+    const QString source = Test.Write(u"videos/a.mkv"_s, "precious");
+    for (const bool symbolic : {true, false}) {
+        const QString output = Test.Path(u"target/a.mkv"_s);
+        QFile::remove(output);
+        if (symbolic)
+            ASSERT_TRUE(QFile::link(source, output));
+        else
+            ASSERT_EQ(::link(QFile::encodeName(source).constData(), QFile::encodeName(output).constData()), 0);
+        Prog.Options.Delete_Video_After = true;
+        EXPECT_TRUE(Run());
+        EXPECT_EQ(Test.Read(u"videos/a.mkv"_s), "precious");
+        EXPECT_EQ(Heard.Outcomes.back().Status, File_Outcome::Kind::Failed);
+    }
+    EXPECT_TRUE(Heard.Commands.isEmpty());
+    EXPECT_EQ(Test.Results().filter(u"is the same file on disk as"_s).size(), 2);
+}
+
+TEST_F(VideoBatch, ThreeHundredVideosLeaveNoDescriptorAndNoZombie)
+{
+    Write_Stand_In(Test, u"tools/mkvmerge"_s, "echo 'A line that is long enough'; : > \"$4\"\n");
+    for (int number = 0; number < 300; ++number)
+        Test.Write(u"videos/%1.mkv"_s.arg(number), "x");
+    const int descriptors = Open_Descriptors();
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Open_Descriptors(), descriptors);
+    EXPECT_EQ(Children_Left(), 0);
+    EXPECT_EQ(Names(u"target"_s).size(), 300);
+}
+
+TEST_F(VideoBatch, BeyondTheLimitOfThePercentageTheRunEndsAndSaysWhatItLeaves)
+{
+    for (int number = 0; number < 328; ++number)
+        Test.Write(u"videos/%1.mkv"_s.arg(number), "x");
+    Write_Stand_In(Test, u"tools/mkvmerge"_s, "echo half > \"$4\"; printf 'Progress: 1%%\\r'; exec sleep 1000\n");
+    try {
+        Run();
+        FAIL();
+    } catch (const Run_Time_Error& error) {
+        EXPECT_EQ(error.Number(), Error_Number::Overflow);
+        EXPECT_EQ(Names(u"target"_s).size(), 1);
+        EXPECT_TRUE(error.Message().contains(Test.Path(u"target/"_s) + Names(u"target"_s).value(0)));
+    }
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(VideoBatch, AHaltLeavesTheWalkAndTakesOnlyAnMkvsHalfAway)
+{
+    struct Claim
+    {
+        QString Name;
+        bool Stays;
+    };
+
+    for (const Claim& claim : {Claim{u"a.mkv"_s, false}, Claim{u"a.avi"_s, true}}) {
+        Test_Program test;
+        test.Prog.Tools.FFProbe_Path = Prog.Tools.FFProbe_Path;
+        test.Prog.Tools.System_MKVMerge_Path =
+            Write_Stand_In(test, u"mkvmerge"_s, "echo half > \"$4\"; exec sleep 1000");
+        test.Prog.Options.Delete_Video_After = true;
+        test.Write(u"videos/"_s + claim.Name, "x");
+        const QString output = test.Path(u"target/a.mkv"_s);
+        test.Person.On_Pump = [&] { test.Prog.Run.Halt_Requested = QFile::exists(output); };
+        EXPECT_FALSE(Process_Video_Files(test.Prog));
+        EXPECT_EQ(QFile::exists(output), claim.Stays);
+        EXPECT_TRUE(QFile::exists(test.Path(u"videos/"_s + claim.Name)));
+        EXPECT_EQ(test.Faults().constLast(), u"*** Process halted before finishing."_s);
+        EXPECT_EQ(test.Prog.Form.pic_TargetPath.Caption, u" Target Path (drag 'n drop)   0 Files Done "_s);
+        EXPECT_EQ(Children_Left(), 0);
+    }
+}
+
+TEST_F(VideoBatch, AHaltDuringTheInspectionNeverStartsMkvmerge)
+{
+    Test.Write(u"videos/a.avi"_s, "x");
+    Test.Person.On_Pump = [&] { Prog.Run.Halt_Requested = !Prog.Run.Current_Video_Path.isEmpty(); };
+    EXPECT_FALSE(Run());
+    EXPECT_TRUE(Heard.Commands.isEmpty());
+    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Skipped);
+    EXPECT_TRUE(Test.Results().isEmpty());
+}
