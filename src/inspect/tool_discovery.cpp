@@ -43,7 +43,7 @@ void Link_FFProbe(Program& program)
     const QString found = Find_In_Path(FFProbe_Name);
     if (program.Run.Dry_Run || File_Exists(wanted) || found.isEmpty())
         return;
-    if (QFileInfo(wanted).isSymLink())
+    if (QFileInfo(wanted).isSymLink() && !QFileInfo::exists(wanted))
         QFile::remove(wanted);
     if (!QFile::link(found, wanted))
         program.Person.Show_Message({.Title = u"FFProbe could not be linked."_s,

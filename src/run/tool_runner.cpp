@@ -20,6 +20,8 @@ static constexpr std::size_t Capture_Bytes = 10240;
 static constexpr std::size_t Fresh_Bytes = 30720;
 static constexpr std::size_t Mkvmerge_Bytes = 10240;
 static constexpr int Wait_After_Kill = 1200;
+/// Reads in a row, of 50 ms each, that bring nothing after a halt.
+static constexpr int Silence_After_Halt = 40;
 /// Chunks up to this length are no messages worth keeping.
 static constexpr qsizetype Longest_Dropped_Chunk = 16;
 /// mkvmerge prints "Progress: " ahead of the number.
@@ -63,6 +65,7 @@ static void Run_Tool(Program& program, const QString& executable, const Command_
 
     Console_Text text;
     QByteArray bytes;
+    int silent_reads = 0;
     for (;;) {
         program.Person.Pump_Events();
         const Child_Process::Read read = child.Read_Chunk(bytes, most);
@@ -70,6 +73,12 @@ static void Run_Tool(Program& program, const QString& executable, const Command_
             break;
         if (read == Child_Process::Read::Data)
             take(text.Decode(bytes));
+        // A halt lets a capture end by itself, but a tool that hangs would hold the halt up for ever.
+        silent_reads = read == Child_Process::Read::Nothing_Yet && program.Run.Halt_Requested ? silent_reads + 1 : 0;
+        if (silent_reads > Silence_After_Halt) {
+            child.Kill();
+            break;
+        }
         if (on_halt == On_Halt::Kill_It && program.Run.Halt_Requested) {
             Kill_Mkvmerge(program, child, executable);
             program.Run.Exit_Status = child.Exit_Status();
