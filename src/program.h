@@ -6,6 +6,7 @@
 #include "logs/log_buffers.h"
 #include "options/attachments_dialog.h"
 #include "options/language_table.h"
+#include "options/option_editor.h"
 #include "run/run_listener.h"
 #include "run/run_state.h"
 #include "settings/job_options.h"
@@ -36,6 +37,7 @@ struct Program
     Run_State Run;
     Log_Buffers Logs;
     LanguageTable Language_Table;
+    Option_Editor Option_Files; ///< frm_OptionsFiles
     Run_Listener* Listener = nullptr; ///< may be null
     std::function<QDateTime()> Now = [] { return QDateTime::currentDateTime(); };
 };
