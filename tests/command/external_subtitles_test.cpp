@@ -1,0 +1,275 @@
+#include "command/external_subtitles.h"
+
+#include "command/companion_fixture.h"
+#include "command/joined_names.h"
+#include "support/run_time_error.h"
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+struct External_Subtitles : Companion_Test
+{
+    External_Subtitles() { Prog.Options.chk_AddSubs.Value = 1; }
+
+    ExternalTrackList List{1};
+    ExternalTrackList Unpaired{1};
+    QString Order;
+
+    void Find(const QString& base_name)
+    {
+        List.assign(1, {});
+        Unpaired.assign(1, {});
+        Find_External_Subtitles(Prog, Videos(), base_name, List, Unpaired);
+    }
+
+    /// The command of what was found behind two audio files, with the video folder's path taken out.
+    QString Command()
+    {
+        Command_Line command;
+        Order.clear();
+        Append_External_Subtitle_Arguments(command, List, Prog.Options, 3, Order);
+        return command.Text().remove(Videos());
+    }
+
+    static ExternalTrack Named(const QString& name, int file_index)
+    {
+        ExternalTrack track;
+        track.InUse = true;
+        track.FileName = name;
+        track.FileIndex = static_cast<std::int16_t>(file_index);
+        return track;
+    }
+};
+
+static const QByteArray Index_Text = "# VobSub index file, v7\nsize: 720x576\nforced subs: ON\nid: de, index: 0\n"
+                                     "timestamp: 00:00:01:000, filepos: 000000000\nid: en, index: 1\n";
+
+TEST_F(External_Subtitles, PlainFilesComeFirstAndAnIdxOnlyWithItsSub)
+{
+    Write_All({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"movie.sub"_s, u"movie.mp3"_s, u"X movie.IDX"_s,
+               u"lone movie.idx"_s});
+    Write(u"videos/movie.idx"_s, Index_Text);
+    Find(u"Movie"_s);
+    const QStringList names = Names_Of(List);
+    EXPECT_EQ(Sorted(names),
+              Sorted({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"X movie.IDX"_s, u"movie.idx"_s}));
+    ASSERT_EQ(names.size(), 5);
+    EXPECT_EQ(names.at(3), u"X movie.IDX"_s);
+    EXPECT_EQ(names.at(4), u"movie.idx"_s);
+    EXPECT_EQ(List[3].FileIndex, 3);
+    EXPECT_FALSE(List[3].IsIdxPair);
+    EXPECT_EQ(List[4].FileIndex, 0);
+    EXPECT_TRUE(List[4].IsIdxPair && List[4].HasSubFile);
+    EXPECT_EQ(List[4].Language, u"en"_s);
+    EXPECT_EQ(Names_Of(Unpaired), QStringList{u"lone movie.idx"_s});
+    EXPECT_TRUE(Prog.Run.Process_Failed);
+    EXPECT_TRUE(Command().endsWith(u" --language 0:en ( movie.idx )"_s));
+    EXPECT_EQ(Order, u",3:0,4:0,5:0,6:0,3:0"_s);
+
+    QFile::remove(Path(u"videos/lone movie.idx"_s));
+    Find(u"Movie"_s);
+    EXPECT_FALSE(Prog.Run.Process_Failed);
+}
+
+TEST_F(External_Subtitles, SettingsComeFromTheOptionFileElseTheStickyValuesAndNeverFromTheProbe)
+{
+    struct Claim
+    {
+        const char* Option_File; ///< null: none
+        int Use = 1;
+        int Apply_Defaults = 0;
+        QString Command;
+        bool Option_File_Used = false;
+    };
+
+    const Claim claims[] = {
+        {nullptr, 1, 0, u" --language 0:und ( m.srt )"_s},
+        {"broken", 1, 0, u" --language 0:und ( m.srt )"_s},
+        {"Title=x", 0, 1, u" --language 0:und ( m.srt )"_s},
+        {"Title=A B\nLanguage=French (fre)\nDefault=no\nForced=yes\nDelay=700", 1, 1,
+         u" --language 0:fre --track-name \"0:A B\" --default-track 0:no --forced-track 0:yes ( m.srt )"_s, true},
+        {"Default=yes\nForced=no", 1, 0, u" --language 0:und --default-track 0:yes ( m.srt )"_s, true},
+        {"Default=Yes", 1, 0, u" --language 0:und ( m.srt )"_s, true},
+        {nullptr, 1, 1, u" --language 0:fre --track-name 0:Sticky --forced-track 0:yes ( m.srt )"_s},
+    };
+    // The default has a text and no flag, so nothing is taken from it.
+    Prog.Settings.Subtitle_Sticky = {1, 1, 0, 1, 1, u"Sticky"_s, u"fre"_s, u"yes"_s, u"yes"_s, u"10"_s};
+    Write_All({u"m.srt"_s});
+    for (const Claim& claim : claims) {
+        QFile::remove(Path(u"videos/m.srt.opt"_s));
+        if (claim.Option_File != nullptr)
+            Write(u"videos/m.srt.opt"_s, claim.Option_File);
+        Prog.Options.chk_UseSubOpts.Value = claim.Use;
+        Prog.Options.chk_ApplyDefaultSubOpts.Value = claim.Apply_Defaults;
+        Find(u"m"_s);
+        EXPECT_EQ(Command(), claim.Command);
+        EXPECT_EQ(List.front().OptionFileUsed, claim.Option_File_Used) << claim.Command.toStdString();
+    }
+}
+
+TEST_F(External_Subtitles, TheLastIdLineGivesTheLanguageUnlessTheOptionFileDoes)
+{
+    struct Claim
+    {
+        QByteArray Text;
+        const char* Option_File; ///< null: none
+        QString Language;
+    };
+
+    const Claim claims[] = {
+        {Index_Text, nullptr, u"en"_s},
+        {Index_Text, "Title=x\nLanguage=fr", u"fre"_s},
+        {Index_Text, "Title=x", u"en"_s},
+        {"ID: DE, INDEX: 0\r\n", nullptr, u"de"_s},
+        {"id:  de , index: 0", nullptr, u"de"_s},
+        // Places 10 and 1 have no bit in common; 1 and 11 have one.
+        {"id: deu, index: 0", nullptr, u""_s},
+        {"index: 0, id: de", nullptr, u"0"_s},
+        {"id: de, index: 0 # forced subs: off", nullptr, u""_s},
+        {"\x01\xff\xfe garbage\n\n::::\nid:\nindex:\n", nullptr, u""_s},
+        {"", nullptr, u""_s},
+        // A line that can't be read is no error where its language isn't wanted.
+        {"x, id: index:", "Language=fr", u"fre"_s},
+    };
+    Prog.Options.chk_UseSubOpts.Value = 1;
+    Write_All({u"m.sub"_s});
+    for (const Claim& claim : claims) {
+        Write(u"videos/m.idx"_s, claim.Text);
+        QFile::remove(Path(u"videos/m.idx.opt"_s));
+        if (claim.Option_File != nullptr)
+            Write(u"videos/m.idx.opt"_s, claim.Option_File);
+        Find(u"m"_s);
+        EXPECT_EQ(List.front().Language, claim.Language) << claim.Text.toStdString();
+        EXPECT_TRUE(List.front().Title.isEmpty());
+    }
+}
+
+TEST_F(External_Subtitles, AnIdLineWithoutAColonInItsFirstPieceIsAnErrorThatNamesTheFile)
+{
+    Write_All({u"m.sub"_s});
+    const QString path = Write(u"videos/m.idx"_s, "xyz, id: index:\n");
+    try {
+        Find(u"m"_s);
+        FAIL();
+    } catch (const Run_Time_Error& error) {
+        EXPECT_EQ(error.Number(), Error_Number::Subscript_Out_Of_Range);
+        EXPECT_EQ(error.Subject(), path);
+    }
+    EXPECT_FALSE(Read_Idx_File(Videos(), u"gone.idx"_s, true, Prog.Language_Table, List));
+}
+
+TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
+{
+    struct Claim
+    {
+        QStringList Names;
+        QStringList Added;
+        QString Order;
+    };
+
+    const Claim claims[] = {
+        {{u"Movie.srt"_s, u"The Movie.srt"_s}, {u"Movie.srt"_s, u"The Movie.srt"_s}, u",3:0,4:0"_s},
+        {{u"The Movie.srt"_s, u"MOVIE.srt"_s, u"x.ass"_s}, {u"The Movie.srt"_s, u"x.ass"_s}, u",3:0,5:0"_s},
+        {{u"Movie.en.srt"_s, u"Movie.srt"_s}, {u"Movie.en.srt"_s, u"Movie.srt"_s}, u",3:0,4:0"_s},
+        // "trm.srt" lies across the border of two names.
+        {{u"m.srt"_s, u"m.srt.ass"_s, u"ssm.srt"_s}, {u"m.srt"_s, u"m.srt.ass"_s, u"ssm.srt"_s}, u",3:0,4:0,5:0"_s},
+        {{u"a.str"_s, u"m.srt"_s, u"trm.srt"_s}, {u"a.str"_s, u"m.srt"_s}, u",3:0,4:0"_s},
+    };
+    for (const Claim& claim : claims) {
+        List.clear();
+        for (const QString& name : claim.Names)
+            List.push_back(Named(name, static_cast<int>(List.size())));
+        QString expected;
+        for (const QString& name : claim.Added)
+            expected += u" --language 0:und ( "_s + (name.contains(u' ') ? u'"' + name + u'"' : name) + u" )"_s;
+        EXPECT_EQ(Command(), expected);
+        EXPECT_EQ(Order, claim.Order);
+    }
+    List = {Named(u"m.idx"_s, 0)};
+    List.front().IsIdxPair = true;
+    EXPECT_EQ(Command(), u""_s);
+    EXPECT_EQ(Order, u""_s);
+}
+
+TEST(Joined_Names, AnswerAsASearchOfTheJoinedTextWould)
+{
+    std::mt19937 generator(7);
+    const auto random_text = [&](unsigned longest) {
+        QString text;
+        for (unsigned i = generator() % longest + 1; i > 0; --i)
+            text += QChar(static_cast<char16_t>(u"abA."[generator() % 4]));
+        return text;
+    };
+    for (int round = 0; round < 50; ++round) {
+        Joined_Names names;
+        QString joined;
+        EXPECT_TRUE(names.Contains(u""_s));
+        for (int i = 0; i < 40; ++i) {
+            const QString asked = random_text(8);
+            EXPECT_EQ(names.Contains(asked), joined.contains(asked, Qt::CaseInsensitive)) << joined.toStdString();
+            const QString added = random_text(6);
+            names.Add(added);
+            joined += added;
+        }
+    }
+}
+
+TEST_F(External_Subtitles, LinesGrowWithTheVerbosityAndMissingSubsHaveTwoWordings)
+{
+    struct Claim
+    {
+        int Verbosity, Use, Apply_Defaults;
+        bool Found;
+        QStringList Lines;
+    };
+
+    const QString none = u"-- Adding subtitle track(s), but none were found."_s;
+    const QString brief = u"   *** Cannot add subtitle; \"u.idx\". The '*.sub' file was not found."_s;
+    const QString full = u"   *** Cannot add subtitle; \"u.idx\". The acompanying '*.sub' file was not found."_s;
+    const QString plain = u"-- Adding subtitle track - \"m.srt\" ;English (eng)"_s;
+    const QString idx = u"-- Adding subtitle track - \"m.idx\" ;Undetermined (und)"_s;
+    const QString no_file = u"   *** Subtitle option file NOT found. Subtitle Options selection ignored."_s;
+    const Claim claims[] = {
+        {0, 1, 1, false, {}},
+        {1,
+         1,
+         1,
+         false,
+         {none + u" Subtitle Options selection ignored. Default Subtitle (sticky) settings ignored."_s, brief}},
+        {1, 1, 0, false, {none + u" Subtitle Options selection ignored."_s, brief}},
+        {2, 0, 0, false, {none, full}},
+        {1, 1, 1, true, {brief}},
+        {2, 0, 1, true, {plain, idx, full}},
+        {2, 1, 0, true, {plain, idx, no_file, full}},
+        {7, 1, 1, true, {plain, idx, no_file + u" Applying Default Subtitle Options."_s, full}},
+    };
+    Unpaired = {Named(u"u.idx"_s, 0)};
+    for (const Claim& claim : claims) {
+        List.assign(1, {});
+        if (claim.Found) {
+            List = {Named(u"m.srt"_s, 0), Named(u"m.idx"_s, 0)};
+            List[0].Language = u"eng"_s;
+            List[0].OptionFileUsed = true;
+            List[1].Language = u"en"_s;
+        }
+        Prog.Options.Log_Verbosity = static_cast<std::int16_t>(claim.Verbosity);
+        Prog.Options.chk_UseSubOpts.Value = claim.Use;
+        Prog.Options.chk_ApplyDefaultSubOpts.Value = claim.Apply_Defaults;
+        Prog.Logs.Log_Faults.Clear();
+        Log_External_Subtitles(List, Unpaired, Prog.Options, Prog.Language_Table, Prog.Logs.Log_Faults);
+        EXPECT_EQ(Faults(), claim.Lines) << claim.Verbosity;
+    }
+}
+
+TEST_F(External_Subtitles, FiveThousandFilesAreFoundInAMomentAndOnlyThoseOfTheVideo)
+{
+    for (int i = 0; i < 5000; ++i)
+        Write(u"videos/episode %1.srt"_s.arg(i, 4, 10, QChar(u'0')));
+    Find(u"Episode 123"_s);
+    EXPECT_EQ(Names_Of(List).size(), 10);
+    List.clear();
+    for (int i = 0; i < 5000; ++i)
+        List.push_back(Named(u"episode %1.srt"_s.arg(i, 4, 10, QChar(u'0')), i));
+    EXPECT_EQ(Command().count(u" --language 0:und ( "_s), 5000);
+}
