@@ -4,6 +4,7 @@
 #include "command/joined_names.h"
 #include "support/run_time_error.h"
 
+#include <filesystem>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -47,15 +48,15 @@ static const QByteArray Index_Text = "# VobSub index file, v7\nsize: 720x576\nfo
 
 TEST_F(External_Subtitles, PlainFilesComeFirstAndAnIdxOnlyWithItsSub)
 {
-    Write_All({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"movie.sub"_s, u"movie.mp3"_s, u"X movie.IDX"_s,
+    Write_All({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"movie.sub"_s, u"movie.mp3"_s, u"movie X.IDX"_s,
                u"lone movie.idx"_s});
     Write(u"videos/movie.idx"_s, Index_Text);
     Find(u"Movie"_s);
     const QStringList names = Names_Of(List);
     EXPECT_EQ(Sorted(names),
-              Sorted({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"X movie.IDX"_s, u"movie.idx"_s}));
+              Sorted({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"movie X.IDX"_s, u"movie.idx"_s}));
     ASSERT_EQ(names.size(), 5);
-    EXPECT_EQ(names.at(3), u"X movie.IDX"_s);
+    EXPECT_EQ(names.at(3), u"movie X.IDX"_s);
     EXPECT_EQ(names.at(4), u"movie.idx"_s);
     EXPECT_EQ(List[3].FileIndex, 3);
     EXPECT_FALSE(List[3].IsIdxPair);
@@ -130,7 +131,7 @@ TEST_F(External_Subtitles, TheLastIdLineGivesTheLanguageUnlessTheOptionFileDoes)
         {"\x01\xff\xfe garbage\n\n::::\nid:\nindex:\n", nullptr, u""_s},
         {"", nullptr, u""_s},
         // A line that can't be read is no error where its language isn't wanted.
-        {"x, id: index:", "Language=fr", u"fre"_s},
+        {"xyz, id: index:", "Language=fr", u"fre"_s},
     };
     Prog.Options.chk_UseSubOpts.Value = 1;
     Write_All({u"m.sub"_s});
@@ -195,9 +196,9 @@ TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
 TEST(Joined_Names, AnswerAsASearchOfTheJoinedTextWould)
 {
     std::mt19937 generator(7);
-    const auto random_text = [&](unsigned longest) {
+    const auto random_text = [&](std::size_t longest) {
         QString text;
-        for (unsigned i = generator() % longest + 1; i > 0; --i)
+        for (std::size_t i = generator() % longest + 1; i > 0; --i)
             text += QChar(static_cast<char16_t>(u"abA."[generator() % 4]));
         return text;
     };
@@ -264,8 +265,10 @@ TEST_F(External_Subtitles, LinesGrowWithTheVerbosityAndMissingSubsHaveTwoWording
 
 TEST_F(External_Subtitles, FiveThousandFilesAreFoundInAMomentAndOnlyThoseOfTheVideo)
 {
+    const std::string first = Write(u"videos/episode.srt"_s).toStdString();
     for (int i = 0; i < 5000; ++i)
-        Write(u"videos/episode %1.srt"_s.arg(i, 4, 10, QChar(u'0')));
+        std::filesystem::create_hard_link(first,
+                                          (Videos() + u"episode %1.srt"_s.arg(i, 4, 10, QChar(u'0'))).toStdString());
     Find(u"Episode 123"_s);
     EXPECT_EQ(Names_Of(List).size(), 10);
     List.clear();
