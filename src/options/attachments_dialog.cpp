@@ -30,12 +30,8 @@ static void Show_Folder(Program& program, const QString& folder)
 void Show_Attachments_Dialog(Program& program)
 {
     Open_Attachments_Dialog(program);
-    if (program.Form.Topmost_On)
-        Keep_On_Top(program, false);
-    program.Person.Show_Modal(u"frm_Attachments"_s);
+    Show_Dialog(program, u"frm_Attachments"_s);
     program.Attachments_Dialog.Visible = false;
-    if (program.Form.Topmost_On)
-        Keep_On_Top(program, true);
 }
 
 void Open_Attachments_Dialog(Program& program)

@@ -15,6 +15,15 @@ void Keep_On_Top(Program& program, bool on)
     program.Person.Set_Topmost(on);
 }
 
+void Show_Dialog(Program& program, const QString& form)
+{
+    if (program.Form.Topmost_On)
+        Keep_On_Top(program, false);
+    program.Person.Show_Modal(form);
+    if (program.Form.Topmost_On)
+        Keep_On_Top(program, true);
+}
+
 void chk_ReplaceChapters_Click(Program& program)
 {
     if (!program.Form.Options_Ready)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 struct JobOptions;
 struct Program;
 
@@ -17,6 +19,8 @@ void Set_Subs_Filter_Mode(JobOptions& options);
 void Default_Run(Program& program);
 /// Puts the main form above all other windows, or takes it from there.
 void Keep_On_Top(Program& program, bool on);
+/// Shows a form until it is closed; a main form above all others comes down for that time.
+void Show_Dialog(Program& program, const QString& form);
 
 // Audio
 void chk_StripOrigAudio_Click(Program& program);

@@ -124,14 +124,10 @@ static void Open_List(Program& program, const Recent_List& recent)
 {
     recent.Form.Text = recent.Shown.Caption;
     recent.Form.Visible = true;
-    if (program.Form.Topmost_On)
-        Keep_On_Top(program, false);
-    program.Person.Show_Modal(recent.Form_Name);
+    Show_Dialog(program, recent.Form_Name);
     recent.Form.Visible = false;
     recent.Shown.Caption = recent.Path;
     recent.Form.Arrow_Pressed = false;
-    if (program.Form.Topmost_On)
-        Keep_On_Top(program, true);
     Follow_Folders(program);
 }
 
