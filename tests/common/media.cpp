@@ -87,6 +87,8 @@ QString Rich_Video()
                                                                     u"aac"_s,
                                                                     u"-c:s"_s,
                                                                     u"srt"_s,
+                                                                    u"-disposition:v:0"_s,
+                                                                    u"default"_s,
                                                                     u"-metadata"_s,
                                                                     u"title=A rich film"_s,
                                                                     u"-metadata:s:v:0"_s,
