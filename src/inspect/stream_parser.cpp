@@ -3,7 +3,6 @@
 #include "support/run_time_error.h"
 #include "support/text.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -24,34 +23,29 @@ QStringList Stream_Elements(const QString& ffprobe_output)
     return Split_Text(Joined_Sections(ffprobe_output), u"stream|"_s);
 }
 
-/// Where `key`, given in lower case, begins in `text` in any case of its ASCII letters; -1 if nowhere.
-static qsizetype Find_Key(const QString& text, const QString& key)
+/// Get_Key_Value with the text's lower-case copy at hand, which is made once for many keys. Only ASCII letters are
+/// lowered there, so that both have the same places.
+static void Get_Value(const QString& text, const QString& lowered, const QString& key, QString& output,
+                      const QString& file)
 {
-    const auto same = [](QChar one, QChar wanted) {
-        return one == wanted || (one >= u'A' && one <= u'Z' && one.unicode() + 32 == wanted.unicode());
-    };
-    const auto found = std::search(text.cbegin(), text.cend(), key.cbegin(), key.cend(), same);
-    return found == text.cend() ? -1 : found - text.cbegin();
+    // Deliberate: the key may stand inside a longer key or inside a value; the first occurrence wins.
+    const qsizetype at = lowered.indexOf(key);
+    if (at < 0)
+        return;
+    const qsizetype begin = at + key.size();
+    const qsizetype end = text.indexOf(u'|', begin);
+    QString value = text.mid(begin, end < 0 ? -1 : end - begin);
+    // Deliberate: a language in brackets can't be read and ends the program, but for the last item.
+    if (end >= 0 && key == "tag:language="_L1 && value.contains(u'['))
+        Raise_Type_Mismatch(u"Reading the language of a stream"_s, file, value);
+    value.replace(Pipe_Marker, u" | "_s);
+    // Deliberate: the last item isn't trimmed.
+    output = end < 0 ? value : Trim_Blanks(value);
 }
 
 int Get_Key_Value(const QString& text, const QString& key, QString& output, const QString& file)
 {
-    // Deliberate: the key may stand inside a longer key or inside a value; the first occurrence wins.
-    const qsizetype at = Find_Key(text, key);
-    if (at < 0)
-        return 0;
-    QString value = text.mid(at + key.size());
-    const qsizetype end = value.indexOf(u'|');
-    if (end < 0) {
-        // Deliberate: the last item is not trimmed, and its language may hold "[".
-        output = value.replace(Pipe_Marker, u" | "_s);
-        return 0;
-    }
-    value.truncate(end);
-    // Deliberate: a language in brackets can't be read and ends the program.
-    if (key == "tag:language="_L1 && value.contains(u'['))
-        Raise_Type_Mismatch(u"Reading the language of a stream"_s, file, value);
-    output = Trim_Blanks(value.replace(Pipe_Marker, u" | "_s));
+    Get_Value(text, Ascii_Lower(text), key, output, file);
     return 0;
 }
 
@@ -109,10 +103,10 @@ static const Key_Fields& Keys_Of(const QString& stream_type)
     return stream_type == "attachment"_L1 ? attachment : with_rate;
 }
 
-/// The kind of record an element makes, by what stands anywhere in it; empty: none. The first test that holds wins.
-static QString Classify(const QString& element)
+/// The kind of record an element makes, by what stands anywhere in its lower-case copy; empty: none. The first test
+/// that holds wins.
+static QString Classify(const QString& lowered)
 {
-    const QString lowered = element.toLower();
     if (lowered.contains(u"format|"_s))
         return u"File_Info"_s;
     if (lowered.contains(u"codec_type=video"_s) && lowered.contains(u"disposition:attached_pic=0"_s))
@@ -128,14 +122,16 @@ static QString Classify(const QString& element)
 
 static void Read_Element(QString& element, FileInfo& record, const QString& file)
 {
-    record.StreamType = Classify(element);
+    QString lowered = Ascii_Lower(element);
+    record.StreamType = Classify(lowered);
     if (record.StreamType.isEmpty())
         return;
     // Deliberate: only an escaped pipe with blanks around it survives, and only in a stream. Any other ends the value.
     if (record.StreamType != "File_Info"_L1)
-        element.replace(u" \\| "_s, Pipe_Marker);
+        for (QString* text : {&element, &lowered})
+            text->replace(u" \\| "_s, Pipe_Marker);
     for (const Key_Field& key : Keys_Of(record.StreamType))
-        Get_Key_Value(element, key.Key, record.*key.Field, file);
+        Get_Value(element, lowered, key.Key, record.*key.Field, file);
     if (record.Language.isEmpty())
         record.Language = u"und"_s;
 }
