@@ -5,6 +5,7 @@
 #include "inspect/video_names.h"
 #include "program.h"
 #include "run/batch_captions.h"
+#include "run/batch_steps.h"
 #include "run/failure_reports.h"
 #include "run/output_guard.h"
 #include "run/results_digest.h"
@@ -27,14 +28,6 @@ struct Batch
     QString Stale_Base;
 };
 
-/// How the walk goes on after an entry.
-enum class After_Entry
-{
-    Next,
-    Halted, ///< leave the walk, then close it
-    Stopped ///< leave the run at once: mkvmerge can't be started
-};
-
 static QString Quoted(const QString& path)
 {
     return u'"' + path + u'"';
@@ -52,13 +45,6 @@ bool Find_Video_Files(Program& program, const QString& folder, const QString& pa
         program.Person.Pump_Events();
     }
     return !list.constFirst().isEmpty();
-}
-
-/// True for an entry that vanished since the walk began. One whose name isn't valid UTF-8 can't be looked at by its
-/// text: it isn't passed over but goes on to its report.
-static bool Is_Gone(const QString& path)
-{
-    return !File_Exists(path) && !path.contains(QChar::ReplacementCharacter);
 }
 
 /// Moves the video's companions to the trash, and its attachments.
@@ -103,32 +89,6 @@ static void Delete_After_Run(Program& program, Batch& batch, bool successful)
         Delete_Companions(program, batch);
 }
 
-/// Runs the command that was assembled for the video in work.
-static After_Entry Run_Command(Program& program, Batch& batch, File_Outcome& outcome)
-{
-    Run_State& run = program.Run;
-    program.Logs.Log_Console.Clear();
-    Run_Mkvmerge(program, program.Tools.System_MKVMerge_Path, run.Mkvmerge_Arguments);
-    outcome.Exit = run.Exit_Status.value_or(-1);
-    if (run.Halt_Requested)
-        return After_Entry::Halted;
-    // A mkvmerge that never ran must not count as a run: nothing is deleted for it.
-    if (run.Pipe_Result == 0) {
-        Report_Run_Failure(program, 8, program.Tools.Local_MKVMerge_Path);
-        return After_Entry::Stopped;
-    }
-    if (run.Process_Result != -1) {
-        Report_Run_Failure(program, 9, program.Tools.System_MKVMerge_Path);
-        return After_Entry::Stopped;
-    }
-    // 1 means that it wrote the file and warned.
-    const bool successful = outcome.Exit == 0 || outcome.Exit == 1;
-    outcome.Status = successful ? File_Outcome::Kind::Done : File_Outcome::Kind::Failed;
-    Delete_After_Run(program, batch, successful);
-    program.Person.Pump_Events();
-    return After_Entry::Next;
-}
-
 /// Inspects the video in work and, if ffprobe had something to say, assembles its command and runs it.
 static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& outcome)
 {
@@ -157,13 +117,12 @@ static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& o
         program.Logs.Log_Faults.AppendLine(Refused_Output(input, run.Output_Path));
         return After_Entry::Next;
     }
-    if (program.Listener)
-        program.Listener->Command_Ready(run.Current_Video_Path, run.Output_Path, run.Mkvmerge_Arguments);
-    if (program.Run.Dry_Run) {
-        outcome.Status = File_Outcome::Kind::Skipped;
-        return After_Entry::Next;
+    const After_Entry after = Run_Assembled_Command(program, run.Current_Video_Path, outcome);
+    if (after == After_Entry::Next && !run.Dry_Run) {
+        Delete_After_Run(program, batch, outcome.Status == File_Outcome::Kind::Done);
+        program.Person.Pump_Events();
     }
-    return Run_Command(program, batch, outcome);
+    return after;
 }
 
 static void Clear_File_Marks(Run_State& run)
@@ -181,9 +140,8 @@ static After_Entry Process_Entry(Program& program, Batch& batch, const QString& 
     Run_State& run = program.Run;
     Clear_File_Marks(run);
     program.Form.ulbl_Title1.Caption = name;
-    const QString lowered = name.toLower();
     const QString path = program.Options.Path_Videos + name;
-    if (!Video_Extensions.contains(Get_Extension(lowered)) || Is_Gone(path))
+    if (!Is_Looked_At(path))
         return After_Entry::Next;
 
     File_Outcome outcome{.Source = path, .Output = {}, .Status = File_Outcome::Kind::Failed, .Exit = -1};
@@ -194,9 +152,8 @@ static After_Entry Process_Entry(Program& program, Batch& batch, const QString& 
 
     After_Entry after = After_Entry::Next;
     QString base_or_extension;
-    if (Is_Video_File(lowered, base_or_extension)) {
-        run.Files_Left = Checked_Int16(run.Video_File_List.size() - batch.Files_Done, u"Counting the files left"_s);
-        run.File_Index = Checked_Int16(batch.Files_Done, u"Counting the files done"_s);
+    if (Is_Video_File(name.toLower(), base_or_extension)) {
+        Count_Video(program, batch.Files_Done);
         batch.Name = name;
         run.Current_Video_Path = path;
         after = Process_Video(program, batch, outcome);

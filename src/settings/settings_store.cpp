@@ -1,0 +1,123 @@
+#include "settings/settings_store.h"
+
+#include "program.h"
+#include "support/run_time_error.h"
+#include "support/text.h"
+
+using namespace Qt::StringLiterals;
+
+static QString Override_Name(const QString& section, const QString& key)
+{
+    return section.trimmed().toLower() + u'/' + key.trimmed().toLower();
+}
+
+Override_Result Add_Override(Settings_State& settings, const QString& assignment)
+{
+    const qsizetype equals = assignment.indexOf(u'=');
+    const qsizetype slash = assignment.indexOf(u'/');
+    if (slash <= 0 || equals < slash)
+        return Override_Result::No_Assignment;
+    const QString section = assignment.left(slash);
+    const QString key = assignment.mid(slash + 1, equals - slash - 1);
+    const Settings_Row* const row = Find_Row(section, key);
+    if (row == nullptr)
+        return Override_Result::Unknown_Key;
+    settings.Overrides[Override_Name(section, key)] = assignment.mid(equals + 1);
+    return row->Used == Settings_Row::Use::Read ? Override_Result::Taken : Override_Result::Without_Effect;
+}
+
+QString Read_Ini_Key(const Settings_State& settings, const Ini_Document& document, const QString& section,
+                     const QString& key, const QString& missing)
+{
+    const auto found = settings.Overrides.find(Override_Name(section, key));
+    if (found != settings.Overrides.end())
+        return Ini_Value_As_Read(found->second);
+    return document.Value(section, key).value_or(missing);
+}
+
+void Write_Ini_Key(Ini_Document& document, const QString& section, const QString& key, const QString& value)
+{
+    document.Set_Value(section, key, value);
+}
+
+void Delete_Ini_Section(Ini_Document& document, const QString& section)
+{
+    document.Delete_Section(section);
+}
+
+void Read_Settings(Program& program)
+{
+    Read_Settings_From(program, Load_Ini_File(program.Settings.Ini_File));
+}
+
+Write_Outcome Write_Settings_To(Program& program, bool reset_fonts, Ini_Document& document)
+{
+    for (const Settings_Row& row : Settings_Rows()) {
+        if (row.Number == 0)
+            continue;
+        // Deliberate: only the log viewer's font is reset, ahead of both rows; row 10 stores the viewer's present size.
+        if (reset_fonts && (row.Number == Row::Log_Font || row.Number == Row::Info_Font))
+            program.Settings.ProcessLog_Font_Size = 10;
+        const std::optional<QString> text = row.Written(program);
+        if (!text)
+            return {&row};
+        if (row.Section_Starts_Anew)
+            Delete_Ini_Section(document, row.Section);
+        Write_Ini_Key(document, row.Section, row.Key, *text);
+        if (row.Number == Row::Save_On_Exit && !program.Settings.Save_On_Exit)
+            break;
+    }
+    return {};
+}
+
+static void Tell_Not_Saved(Program& program, const Run_Time_Error& error)
+{
+    program.Person.Show_Message(
+        {.Code = 0,
+         .Title = u"The settings could not be saved"_s,
+         .Text = QString(error.Message()).replace(u"\n"_s, Line_Break) + Line_Break +
+                 u"The file stays as it was. Make it and its folder writable, then save the settings again."_s,
+         .Icon = Message_Icon::Exclamation,
+         .Buttons = Message_Buttons::Ok});
+}
+
+bool Save_Settings_File(Program& program, const Ini_Document& document)
+{
+    try {
+        Save_Ini_File(program.Settings.Ini_File, document);
+        return true;
+    } catch (const Run_Time_Error& error) {
+        Tell_Not_Saved(program, error);
+        return false;
+    }
+}
+
+void Write_Settings(Program& program, bool reset_fonts)
+{
+    Ini_Document document;
+    try {
+        document = Load_Ini_File(program.Settings.Ini_File);
+    } catch (const Run_Time_Error& error) {
+        Tell_Not_Saved(program, error);
+        return;
+    }
+    const Write_Outcome outcome = Write_Settings_To(program, reset_fonts, document);
+    Save_Settings_File(program, document);
+    if (outcome.Failed_Row != nullptr)
+        throw Run_Time_Error(
+            Error_Number::Subscript_Out_Of_Range, u"Writing the settings"_s,
+            u"%1, [%2] \"%3\""_s.arg(program.Settings.Ini_File, outcome.Failed_Row->Section, outcome.Failed_Row->Key),
+            {},
+            u"The box is neither on nor off, because the file had another word there. Put On or Off "
+            "into the file. The settings ahead of this one are saved."_s);
+}
+
+void mnu_SaveNow_Click(Program& program)
+{
+    Write_Settings(program, program.Settings.Save_On_Exit);
+}
+
+void mnu_SaveOnQuit_Click(Program& program)
+{
+    program.Settings.Save_On_Exit = !program.Settings.Save_On_Exit;
+}

@@ -1,0 +1,63 @@
+#include "command/split_command.h"
+
+#include "common/test_program.h"
+#include "support/run_time_error.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+static const QString Video_Line =
+    u"stream|index=0|codec_type=video|disposition:attached_pic=0|tag:language=???|tag:x=y\r\n"_s;
+static const QString Audio_Line = u"stream|index=1|codec_type=audio|tag:language=???|tag:x=y\r\n"_s;
+static const QString Subtitle_Line = u"stream|index=2|codec_type=subtitle|tag:language=eng|tag:x=y\r\n"_s;
+
+TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
+{
+    Test_Program test;
+    JobOptions& options = test.Prog.Options;
+    options.Split_Minutes = u"30"_s;
+    // None of these has any effect here.
+    options.AudioFilterMode = 1;
+    options.chk_RemoveAllTags.Value = options.chk_RemoveFileTitle.Value = options.chk_AddSubs.Value = 1;
+
+    struct Claim
+    {
+        QString Path, Streams, Text;
+    };
+
+    const Claim claims[] = {
+        {u"/in/Movie.avi"_s, Video_Line + Audio_Line + Subtitle_Line,
+         u" --ui-language en_US --output /out/Movie.mkv --language 0:??? --language 1:und ( /in/Movie.avi )"
+         " --split duration:1800s --track-order 0:0,0:1"_s},
+        {u"/in/My Movie.mkv"_s, Video_Line + Subtitle_Line,
+         u" --ui-language en_US --output \"/out/My Movie.mkv\" --language 0:??? ( \"/in/My Movie.mkv\" )"
+         " --split duration:1800s --track-order 0:0"_s},
+        {u"/in/Movie.MKV"_s, Subtitle_Line,
+         u" --ui-language en_US --output /out/MKV.mkv ( /in/Movie.MKV ) --split duration:1800s"_s},
+    };
+    for (const Claim& claim : claims) {
+        test.Prog.Logs.Log_Faults.Clear();
+        test.Prog.Media.FFProbe_Output = u"format|filename=x\r\n"_s + claim.Streams;
+        EXPECT_EQ(Split_Video_Mod(test.Prog, u"/out/"_s, u"/in/"_s, claim.Path), 1);
+        EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), claim.Text);
+        EXPECT_EQ(test.Faults(), QStringList(u"-- Processing video file - \""_s + claim.Path + u'"'));
+    }
+}
+
+TEST(SplitCommand, WithoutFfprobesTextNothingIsWritten)
+{
+    Test_Program test;
+    EXPECT_EQ(Split_Video_Mod(test.Prog, u"/out/"_s, u"/in/"_s, u"/in/Movie.avi"_s), 0);
+    EXPECT_TRUE(test.Faults().isEmpty());
+    EXPECT_TRUE(test.Prog.Run.Mkvmerge_Arguments.Text().isEmpty());
+}
+
+TEST(SplitCommand, MinutesBecomeSecondsInPlainNumberForm)
+{
+    EXPECT_EQ(Split_Duration(u"10"_s), u"duration:600s"_s);
+    EXPECT_EQ(Split_Duration(u"999"_s), u"duration:59940s"_s);
+    EXPECT_EQ(Split_Duration(u" 0.05 "_s), u"duration:3s"_s);
+    EXPECT_THROW(Split_Duration(u"soon"_s), Run_Time_Error);
+    EXPECT_THROW(Split_Duration(u""_s), Run_Time_Error);
+}
