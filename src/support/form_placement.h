@@ -19,3 +19,7 @@ inline constexpr int Key_Enter = 13;
 inline constexpr int Key_Escape = 27;
 inline constexpr int Key_Execute = 41; ///< acts as Enter
 inline constexpr int Key_F12 = 123;
+
+/// Moves a form so that it lies within the screen, unless it is minimised or maximised. One that is larger than the
+/// screen keeps its top left corner on it.
+void Ensure_Visible(Form_Place& form, const Form_Place& screen);

@@ -1,0 +1,143 @@
+#include "inspect/identification_json.h"
+
+#include "support/text.h"
+
+#include <QStringList>
+#include <nlohmann/json.hpp>
+
+using namespace Qt::StringLiterals;
+// Keeps the order of keys, and 64-bit numbers as they are.
+using Json = nlohmann::ordered_json;
+
+/// The member of an object; null where there is none.
+static const Json& Member(const Json& value, const char* key)
+{
+    static const Json null;
+    const auto found = value.is_object() ? value.find(key) : value.end();
+    return found == value.end() ? null : *found;
+}
+
+/// A single value as text: numbers as they stand, true and false as 1 and 0.
+static QString Scalar_Text(const Json& value)
+{
+    if (value.is_string())
+        return QString::fromStdString(value.get_ref<const std::string&>());
+    if (value.is_boolean())
+        return value.get<bool>() ? u"1"_s : u"0"_s;
+    return value.is_number() ? QString::fromStdString(value.dump()) : QString();
+}
+
+/// A text outside the brackets: a line break would tear the line.
+static QString Plain_Text(const Json& value)
+{
+    return Scalar_Text(value).replace(Line_Break, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
+}
+
+static QString Escaped(const QString& text)
+{
+    QString escaped = text;
+    escaped.replace(Line_Break, u"\\s"_s);
+    for (const char16_t blank : {u' ', u'\n', u'\r'})
+        escaped.replace(QChar(blank), u"\\s"_s);
+    return escaped.replace(u':', u"\\c"_s);
+}
+
+static void Add_Item(const QString& key, const Json& value, QStringList& items);
+
+static void Add_Items(const Json& object, QStringList& items)
+{
+    for (const auto& [key, value] : object.items())
+        Add_Item(QString::fromStdString(key), value, items);
+}
+
+/// One property. A list of values repeats its key; a list of objects gives what is in them.
+static void Add_Item(const QString& key, const Json& value, QStringList& items)
+{
+    if (value.is_object())
+        Add_Items(value, items);
+    else if (value.is_array())
+        for (const Json& entry : value)
+            Add_Item(key, entry, items);
+    else if (!value.is_null())
+        items += Escaped(key) + u':' + Escaped(Scalar_Text(value));
+}
+
+/// " [key:value key:value]", or nothing where an element has no properties.
+static QString Bracket(const Json& element)
+{
+    QStringList items;
+    const Json& properties = Member(element, "properties");
+    if (properties.is_object())
+        Add_Items(properties, items);
+    return items.isEmpty() ? QString() : u" ["_s + items.join(u' ') + u']';
+}
+
+static QString Attachment_Line(const Json& attachment)
+{
+    const auto text = [&attachment](const char* key) { return Plain_Text(Member(attachment, key)); };
+    const QString description = text("description");
+    return u"Attachment ID "_s + text("id") + u": type '"_s + text("content_type") + u"', size "_s + text("size") +
+           u" bytes"_s + (description.isEmpty() ? QString() : u", description '"_s + description + u'\'') +
+           u", file name '"_s + text("file_name") + u'\'' + Bracket(attachment);
+}
+
+static QString Entries(const Json& element)
+{
+    const QString count = Scalar_Text(Member(element, "num_entries"));
+    return count + (count == u"1"_s ? u" entry"_s : u" entries"_s);
+}
+
+/// "Warning: TEXT" for each text of a list.
+static void Add_Messages(const Json& messages, const QString& kind, QStringList& lines)
+{
+    for (const Json& message : messages) {
+        QString text = Scalar_Text(message);
+        if (text.endsWith(u'\n'))
+            text.chop(1);
+        lines += kind + Plain_Text(text.toStdString());
+    }
+}
+
+/// The lines behind the messages.
+static void Add_Content(const Json& json, const QString& path, QStringList& lines)
+{
+    const Json& container = Member(json, "container");
+    const QString type = Plain_Text(Member(container, "type"));
+    const auto is_off = [&container](const char* key) { return Member(container, key) == Json(false); };
+    if (container.is_null())
+        return;
+    if (is_off("recognized")) {
+        lines += u"Error: The type of file '"_s + path + u"' is not supported."_s;
+        return;
+    }
+    if (is_off("supported")) {
+        lines += u"File '"_s + path + u"': unsupported container: "_s + type;
+        return;
+    }
+    lines += u"File '"_s + path + u"': container: "_s + type + Bracket(container);
+    for (const Json& track : Member(json, "tracks"))
+        lines += u"Track ID "_s + Plain_Text(Member(track, "id")) + u": "_s + Plain_Text(Member(track, "type")) +
+                 u" ("_s + Plain_Text(Member(track, "codec")) + u')' + Bracket(track);
+    for (const Json& attachment : Member(json, "attachments"))
+        lines += Attachment_Line(attachment);
+    for (const Json& chapters : Member(json, "chapters"))
+        lines += u"Chapters: "_s + Entries(chapters);
+    for (const Json& tags : Member(json, "global_tags"))
+        lines += u"Global tags: "_s + Entries(tags);
+    for (const Json& tags : Member(json, "track_tags"))
+        lines += u"Tags for track ID "_s + Plain_Text(Member(tags, "track_id")) + u": "_s + Entries(tags);
+}
+
+QString Verbose_Text_Of_Json(const QString& json, const QString& path)
+{
+    const QByteArray bytes = json.toUtf8();
+    const Json value = Json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    if (!value.is_object())
+        return json;
+    QStringList lines;
+    Add_Messages(Member(value, "warnings"), u"Warning: "_s, lines);
+    Add_Messages(Member(value, "errors"), u"Error: "_s, lines);
+    QString plain_path = path;
+    Add_Content(value, plain_path.replace(u'\n', u' ').replace(u'\r', u' '), lines);
+    return lines.isEmpty() ? QString() : lines.join(Line_Break) + Line_Break;
+}

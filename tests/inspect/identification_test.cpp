@@ -1,0 +1,193 @@
+#include "inspect/identification.h"
+
+#include "common/stand_in_tool.h"
+#include "common/test_program.h"
+#include "inspect/identification_json.h"
+
+#include <QProcess>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(Identification, CodecPrivateValuesAreMaskedAndEscapesUndoneInThatOrder)
+{
+    struct Case
+    {
+        const char* What;
+        QString Line;
+        QString Shown;
+    };
+
+    const Case cases[] = {
+        {"a further item stays", u"Track [codec_private_data:0a\\s0b language:eng]"_s,
+         u"Track [ codec_private_data:XX language:eng]"_s},
+        {"both marks", u"T [a:1 codec_private_length:4 codec_private_data:00 b:2]"_s,
+         u"T [a:1  codec_private_length:XX  codec_private_data:XX b:2]"_s},
+        {"any case", u"T Codec_Private_Data:00 b"_s, u"T  codec_private_data:XX b"_s},
+        {"one hit a pass", u"codec_private_data:1 codec_private_data:2 x"_s,
+         u" codec_private_data:XX codec_private_data:2 x"_s},
+        {"no blank behind it: the whole line again", u"[codec_private_data:00]"_s,
+         u"[ codec_private_data:XX [codec_private_data:00]"_s},
+        {"escapes", u"title:a\\sb\\cc\\\\s"_s, u"title:a b:c\\ "_s},
+        {"escapes are case-sensitive", u"\\S\\C"_s, u"\\S\\C"_s},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(Identification_Lines(one.Line, false), QStringList{one.Shown}) << one.What;
+        EXPECT_EQ(Identification_Lines(one.Line, true), QStringList{one.Line}) << one.What;
+    }
+}
+
+TEST(Identification, EmptyLinesAtTheEndGoAndThoseInsideStay)
+{
+    EXPECT_EQ(Identification_Lines(u"a\r\n\r\nb\r\n\r\n\r\n"_s, false), (QStringList{u"a"_s, {}, u"b"_s}));
+    EXPECT_EQ(Identification_Lines(u"\r\n\r\n"_s, true), QStringList());
+    EXPECT_EQ(Identification_Lines({}, true), QStringList());
+}
+
+TEST(Identification_Json, IsWrittenOutAsVerboseText)
+{
+    struct Case
+    {
+        const char* What;
+        const char* Json;
+        QStringList Lines;
+    };
+
+    const QString head = u"File '/v/a b.mkv': container: Matroska"_s;
+    const char* const known = R"("container":{"recognized":true,"supported":true,"type":"Matroska"})";
+    const auto with = [known](const char* more) { return std::string("{") + known + "," + more + "}"; };
+    const std::string track = with(R"("tracks":[{"codec":"AVC/H.264","id":0,"type":"video","properties":{
+        "uid":18446744073709551615,"enabled_track":true,"forced_track":false,"none":null,"gamma":0.125,
+        "track_name":"a: b\r\n\\c\nd","multi plexed:x":[1,2],
+        "programs":[{"program_number":1,"service_name":"S 1"},{"program_number":2}]}}])");
+    const std::string attachments = with(R"("attachments":[
+        {"content_type":"font/ttf","description":"","file_name":"a'b.ttf","id":1,"size":6,"properties":{"uid":7}},
+        {"content_type":"image/png","description":"two\nlines","file_name":"c.png","id":2,"size":0,"properties":{}}])");
+    const std::string counts = with(R"("chapters":[{"num_entries":1},{"num_entries":12}],
+        "global_tags":[{"num_entries":3}],"track_tags":[{"num_entries":1,"track_id":4}])");
+    const Case cases[] = {
+        {"messages first, then the content",
+         R"({"warnings":["w 1\n","w\n2"],"errors":["e\n"],"container":{"recognized":true,"supported":true,"type":"X"}})",
+         {u"Warning: w 1"_s, u"Warning: w 2"_s, u"Error: e"_s, u"File '/v/a b.mkv': container: X"_s}},
+        {"a file that can't be opened", R"({"warnings":[],"errors":["no such file\n"]})", {u"Error: no such file"_s}},
+        {"an unknown type",
+         R"({"container":{"recognized":false,"supported":false},"tracks":[{"id":0}]})",
+         {u"Error: The type of file '/v/a b.mkv' is not supported."_s}},
+        {"a type that is known and refused",
+         R"({"container":{"recognized":true,"supported":false,"type":"Flash Video"},"tracks":[{"id":0}]})",
+         {u"File '/v/a b.mkv': unsupported container: Flash Video"_s}},
+        {"a track with all kinds of properties",
+         track.c_str(),
+         {head, u"Track ID 0: video (AVC/H.264) [uid:18446744073709551615 enabled_track:1 forced_track:0 gamma:0.125 "
+                u"track_name:a\\c\\sb\\s\\c\\sd multi\\splexed\\cx:1 multi\\splexed\\cx:2 program_number:1 "
+                u"service_name:S\\s1 program_number:2]"_s}},
+        {"attachments",
+         attachments.c_str(),
+         {head, u"Attachment ID 1: type 'font/ttf', size 6 bytes, file name 'a'b.ttf' [uid:7]"_s,
+          u"Attachment ID 2: type 'image/png', size 0 bytes, description 'two lines', file name 'c.png'"_s}},
+        {"counts",
+         counts.c_str(),
+         {head, u"Chapters: 1 entry"_s, u"Chapters: 12 entries"_s, u"Global tags: 3 entries"_s,
+          u"Tags for track ID 4: 1 entry"_s}},
+        {"no JSON at all", "Error: unknown option\r\n", {u"Error: unknown option"_s}},
+        {"JSON of another kind", "[1]\r\n", {u"[1]"_s}},
+    };
+    for (const Case& one : cases) {
+        QStringList lines = Verbose_Text_Of_Json(QString::fromUtf8(one.Json), u"/v/a b.mkv"_s).split(u"\r\n"_s);
+        EXPECT_EQ(lines.takeLast(), QString()) << one.What;
+        EXPECT_EQ(lines, one.Lines) << one.What;
+    }
+}
+
+/// A program with the real mkvmerge, or a stand-in, as the tool that identifies.
+struct Identify_Test : testing::Test, Test_Program
+{
+    Identify_Test() { Prog.Tools.System_MKVMerge_Path = u"/usr/bin/mkvmerge"_s; }
+
+    static void Run(const QString& tool, const QStringList& arguments)
+    {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(tool, arguments);
+        process.waitForFinished();
+        ASSERT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
+    }
+
+    QString Lines() const { return Prog.Media.Video_Info_Lines.join(u'\n'); }
+};
+
+TEST_F(Identify_Test, RealFilesShowTracksCodecsLanguagesAndAttachmentsWithPrivateValuesMaskedOrNot)
+{
+    const QString source = Path(u"videos/a film's source.mkv"_s);
+    Run(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=d=1:s=64x64"_s, u"-f"_s, u"lavfi"_s,
+                      u"-i"_s, u"sine=d=1"_s, u"-c:v"_s, u"libx264"_s, u"-c:a"_s, u"aac"_s, u"-metadata:s:a:0"_s,
+                      u"language=fre"_s, u"-metadata"_s, u"title=a: b \\ c"_s, source});
+    const QString mkv = Path(u"videos/with font.mkv"_s);
+    Run(u"mkvmerge"_s, {u"-q"_s, u"-o"_s, mkv, u"--attachment-mime-type"_s, u"font/ttf"_s, u"--attach-file"_s,
+                        Write(u"my font.ttf"_s, "x"), source});
+    for (const QString& extension : {u"mp4"_s, u"ts"_s})
+        Run(u"ffmpeg"_s,
+            {u"-v"_s, u"error"_s, u"-i"_s, source, u"-c"_s, u"copy"_s, Path(u"videos/film."_s + extension)});
+
+    ASSERT_TRUE(Identify_File(Prog, mkv));
+    EXPECT_TRUE(Lines().startsWith(u"File '"_s + mkv + u"': container: Matroska [container_type:17 "_s));
+    for (const auto* piece : {u"title:a: b \\ c", u"Track ID 0: video (AVC/H.264", u"Track ID 1: audio (AAC)",
+                              u"language:fre", u" codec_private_data:XX ", u" codec_private_length:XX ",
+                              u"Attachment ID 1: type 'font/ttf', size 1 bytes, file name 'my font.ttf' [uid:"})
+        EXPECT_TRUE(Lines().contains(QString::fromUtf16(piece))) << QString::fromUtf16(piece).toStdString();
+    Prog.Media.Show_Codec_Private = 1;
+    ASSERT_TRUE(Identify_File(Prog, mkv));
+    EXPECT_FALSE(Lines().contains(u":XX"_s));
+    EXPECT_TRUE(Lines().contains(u"title:a\\c\\sb\\s\\\\sc"_s)) << "raw, escapes included";
+    EXPECT_TRUE(Lines().contains(u" codec_private_data:01"_s));
+
+    Prog.Media.Show_Codec_Private = 0;
+    ASSERT_TRUE(Identify_File(Prog, Path(u"videos/film.mp4"_s)));
+    EXPECT_TRUE(Lines().contains(u"container: QuickTime/MP4"_s) && Lines().contains(u"language:fre"_s));
+    ASSERT_TRUE(Identify_File(Prog, Path(u"videos/film.ts"_s)));
+    EXPECT_TRUE(Lines().contains(u"container: MPEG transport stream"_s) &&
+                Lines().contains(u"Track ID 1: audio (AAC)"_s) && Lines().contains(u"service_provider:FFmpeg"_s));
+
+    ASSERT_TRUE(Identify_File(Prog, Path(u"videos/gone.mkv"_s)));
+    EXPECT_EQ(Prog.Media.Video_Info_Lines.size(), 1);
+    EXPECT_TRUE(Lines().startsWith(u"Error: The file '"_s)) << Lines().toStdString();
+    ASSERT_TRUE(Identify_File(Prog, Write(u"videos/text.mkv"_s, "no media")));
+    EXPECT_EQ(Lines(), u"Error: The type of file '"_s + Path(u"videos/text.mkv"_s) + u"' is not supported."_s);
+}
+
+TEST_F(Identify_Test, AnInvalidByteInATagCostsOneLetterOnly)
+{
+    Prog.Tools.System_MKVMerge_Path =
+        Write_Stand_In(*this, u"mkvmerge"_s,
+                       R"(printf '{"container":{"recognized":true,"supported":true,"type":"X\377Y"}}\n')"
+                       "\n");
+    ASSERT_TRUE(Identify_File(Prog, u"/f"_s));
+    EXPECT_EQ(Lines(), u"File '/f': container: X\uFFFDY"_s);
+}
+
+TEST_F(Identify_Test, TheLocalCopyIsAskedForItsOwnTextWithThePathAsOneArgument)
+{
+    Prog.Tools.Local_MKVMerge_OK = true;
+    Prog.Tools.Local_MKVMerge_Path =
+        Write_Stand_In(*this, u"app/mkvmerge"_s, "for argument; do echo \"$argument\"; done\n");
+    ASSERT_TRUE(Identify_File(Prog, u"/v/a \"b\" c.mkv"_s));
+    EXPECT_EQ(Prog.Media.Video_Info_Lines,
+              (QStringList{u"--identification-format"_s, u"verbose-text"_s, u"--identify"_s, u"/v/a \"b\" c.mkv"_s}));
+}
+
+TEST_F(Identify_Test, AToolThatCantBeAskedIsReportedAndTheLinesStay)
+{
+    Prog.Media.Video_Info_Lines = QStringList{u"old"_s};
+    Prog.Tools.System_MKVMerge_Path = Write_Stand_In(*this, u"mkvmerge"_s, "");
+    EXPECT_FALSE(Identify_File(Prog, u"/f"_s));
+    Prog.Tools.System_MKVMerge_Path = Write(u"plain"_s, "x");
+    EXPECT_FALSE(Identify_File(Prog, u"/f"_s));
+    ASSERT_EQ(Person.Messages.size(), 2U);
+    EXPECT_EQ(Person.Messages[0].Code, 3);
+    EXPECT_EQ(Person.Messages[1].Code, 2);
+    EXPECT_EQ(Lines(), u"old"_s);
+}
+
+} // namespace
