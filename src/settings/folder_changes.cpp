@@ -51,7 +51,8 @@ static void Drop_On_Main_Folder(Program& program, const Main_Folder& folder, con
     Drop_Folder(data, true, dropped);
     if (Path_Exists(dropped)) {
         // Deliberate: a drop puts the old path into the recent list, a browse the new one. Dropped onto an unset path
-        // it leaves an empty item there, which the next save drops.
+        // it leaves an empty item there, which the next save drops. A target that is the source is taken here, and
+        // emptied by the next check.
         QString& path = program.Options.*folder.Path;
         QStringList& recent = program.Settings.*folder.Recent;
         const QString old = path;

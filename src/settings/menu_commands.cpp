@@ -1,6 +1,8 @@
 #include "settings/menu_commands.h"
 
+#include "inspect/tool_discovery.h"
 #include "logs/process_log.h"
+#include "options/option_editor.h"
 #include "program.h"
 #include "settings/folders.h"
 #include "settings/option_rules.h"
@@ -99,6 +101,27 @@ void chk_AddAttachments_Right_Click(Program& program)
         mnu_Attachments_Click(program);
 }
 
+/// The editor shows its form by itself.
+static void Edit_Option_Files(Program& program, bool (*open)(Program&, const QString&))
+{
+    if (program.Form.Topmost_On)
+        Keep_On_Top(program, false);
+    open(program, u"NOP"_s);
+    if (program.Form.Topmost_On)
+        Keep_On_Top(program, true);
+    Default_Run(program);
+}
+
+void mnu_AudioOptionsFile_Click(Program& program)
+{
+    Edit_Option_Files(program, Open_Audio_Option_Editor);
+}
+
+void mnu_SubtitleOptionsFile_Click(Program& program)
+{
+    Edit_Option_Files(program, Open_Subtitle_Option_Editor);
+}
+
 void mnu_ViewLog_Click(Program& program)
 {
     Show_Dialog(program, u"frm_ProcessLog"_s);
@@ -163,6 +186,7 @@ void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program)
 void mnu_IdentifyWithAnyMkvmerge_Click(Program& program)
 {
     Flip(program, program.Settings.Extensions.Identify_With_Any_Mkvmerge);
+    Enable_Video_Info_Button(program);
 }
 
 void mnu_ClearLog_Click(Program& program)

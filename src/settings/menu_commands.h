@@ -19,6 +19,9 @@ void mnu_Attachments_Click(Program& program);
 /// Opens the attachments' form a moment later, so that the popup has closed first.
 void mnu_PopupACA1_Click(Program& program);
 void chk_AddAttachments_Right_Click(Program& program);
+/// The editor of option files; also the items of the popups over chk_UseAudioOpts and chk_UseSubOpts.
+void mnu_AudioOptionsFile_Click(Program& program);
+void mnu_SubtitleOptionsFile_Click(Program& program);
 void mnu_ViewLog_Click(Program& program);
 void mnu_ExecutablePaths_Click(Program& program);
 void btn_ViewVidInfo_Click(Program& program);

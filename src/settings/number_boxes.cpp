@@ -117,6 +117,7 @@ void txt_AudioDelayValue_LostFocus(Program& program)
     if (!Rules_Work(program.Form))
         return;
     program.Options.Audio_Delay = program.Form.txt_AudioDelayValue.Text;
+    // Deliberate: only the empty text unticks the option, "-" alone stays; the panel isn't disabled with it.
     if (!program.Options.Audio_Delay.isEmpty())
         return;
     program.Form.Delay_Toggle = false;
