@@ -1,0 +1,87 @@
+#include "common/media.h"
+#include "inspect/video_names.h"
+#include "run/split_run.h"
+#include "run/video_batch.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// Seven seconds with a key picture each second, English sound and one of no language.
+static QString Seven_Seconds()
+{
+    return Media_File(u"seven.mkv"_s, {u"-f"_s,
+                                       u"lavfi"_s,
+                                       u"-i"_s,
+                                       u"testsrc=duration=7:size=64x48:rate=10"_s,
+                                       u"-f"_s,
+                                       u"lavfi"_s,
+                                       u"-i"_s,
+                                       u"sine=duration=7"_s,
+                                       u"-map"_s,
+                                       u"0"_s,
+                                       u"-map"_s,
+                                       u"1"_s,
+                                       u"-map"_s,
+                                       u"1"_s,
+                                       u"-c:v"_s,
+                                       u"mpeg4"_s,
+                                       u"-g"_s,
+                                       u"10"_s,
+                                       u"-c:a"_s,
+                                       u"ac3"_s,
+                                       u"-metadata:s:a:0"_s,
+                                       u"language=eng"_s});
+}
+
+/// Lengths in seconds of what stands in the target folder, in order of the names.
+static QStringList Pieces_Of(const Test_Program& test)
+{
+    QStringList pieces;
+    for (const QString& name : QDir(test.Path(u"target"_s)).entryList(QDir::Files, QDir::Name)) {
+        const QJsonObject piece = Identify(test.Path(u"target/"_s + name));
+        const double seconds = piece[u"container"_s][u"properties"_s][u"duration"_s].toDouble() / 1e9;
+        pieces += name + u' ' + QString::number(qRound(seconds));
+    }
+    return pieces;
+}
+
+static bool Split(Test_Program& test, const QString& minutes)
+{
+    Use_Real_Tools(test);
+    test.Prog.Options.Split_Minutes = minutes;
+    Find_Video_Files(test.Prog, test.Prog.Options.Path_Videos, Video_Extensions, test.Prog.Run.Video_File_List);
+    return Split_Video_Files(test.Prog);
+}
+
+TEST(Split, PiecesHaveTheSetLengthAndAllTracks)
+{
+    Test_Program test;
+    const QString source = Place(test, Seven_Seconds(), u"videos/My Film.mkv"_s);
+    test.Prog.Options.Delete_Video_After = true;
+    test.Prog.Options.AudioFilterMode = 1;
+    EXPECT_TRUE(Split(test, u"0.05"_s));
+    EXPECT_EQ(Pieces_Of(test), (QStringList{u"My Film-001.mkv 3"_s, u"My Film-002.mkv 3"_s, u"My Film-003.mkv 1"_s}));
+    for (const QString& name : {u"001"_s, u"002"_s, u"003"_s}) {
+        const QStringList tracks = Tracks_Of(test.Path(u"target/My Film-"_s + name + u".mkv"_s));
+        ASSERT_EQ(tracks.size(), 3) << name.toStdString();
+        EXPECT_TRUE(tracks[0].startsWith(u"0 video und"_s));
+        EXPECT_TRUE(tracks[1].startsWith(u"1 audio eng"_s));
+        EXPECT_TRUE(tracks[2].startsWith(u"2 audio und"_s));
+    }
+    EXPECT_TRUE(QFile::exists(source));
+}
+
+TEST(Split, AVideoShorterThanTheSplitTimeStaysWhole)
+{
+    Test_Program test;
+    Place(test, Seven_Seconds(), u"videos/a.mkv"_s);
+    Place(test, Rich_Video(), u"videos/b.MKV"_s);
+    EXPECT_TRUE(Split(test, u"10"_s));
+    EXPECT_EQ(Pieces_Of(test), (QStringList{u"MKV-001.mkv 1"_s, u"a-001.mkv 7"_s}));
+    EXPECT_EQ(Tracks_Of(test.Path(u"target/MKV-001.mkv"_s)).size(), 4) << "subtitles are copied too";
+    EXPECT_EQ(Identify(test.Path(u"target/MKV-001.mkv"_s))[u"container"_s][u"properties"_s][u"title"_s].toString(),
+              u"A rich film"_s);
+}

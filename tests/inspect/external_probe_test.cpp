@@ -1,0 +1,44 @@
+#include "inspect/external_probe.h"
+
+#include "common/stand_in_tool.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+static const QByteArray Probe = "printf 'stream|index=0|codec_type=audio|disposition:default=1|disposition:forced=0|"
+                                "tag:handler_name=Sound|tag:x=y\\n'";
+
+TEST(ExternalProbe, AudioAnswersOneAndSubtitlesZeroThoughBothAreRead)
+{
+    Test_Program test;
+    Media_State& media = test.Prog.Media;
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"ffprobe"_s, Probe);
+    EXPECT_EQ(Run_FFProbe_ExtAudio(test.Prog, u"/v/a b.mp3"_s), 1);
+    EXPECT_EQ(media.ExtAudioInfo.HandlerName, u"Sound"_s);
+    EXPECT_EQ(media.ExtAudioInfo.Language, u"und"_s);
+    EXPECT_EQ(media.ExtAudioInfo.Default, u"Yes"_s);
+    EXPECT_EQ(Run_FFProbe_ExtSubtitle(test.Prog, u"/v/a b.srt"_s), 0);
+    EXPECT_EQ(media.ExtSubtitleInfo.HandlerName, u"Sound"_s);
+    EXPECT_EQ(media.ExtSubtitleInfo.Language, u""_s);
+    EXPECT_TRUE(test.Person.Messages.empty());
+}
+
+TEST(ExternalProbe, AFailureIsReportedWithoutAFileAndLeavesTheLastAnswer)
+{
+    Test_Program test;
+    test.Prog.Options.Log_Verbosity = 1;
+    test.Prog.Tools.FFProbe_Path = test.Path(u"missing"_s);
+    EXPECT_EQ(Run_FFProbe_ExtAudio(test.Prog, u"/v/a.mp3"_s), 0);
+    EXPECT_EQ(test.Prog.Media.ExtAudioInfo.Language, u"und"_s) << "also ahead of the first probe";
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"ffprobe"_s, Probe);
+    Run_FFProbe_ExtAudio(test.Prog, u"/v/a.mp3"_s);
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"silent"_s, "exit 1");
+    EXPECT_EQ(Run_FFProbe_ExtAudio(test.Prog, u"/v/b.mp3"_s), 0);
+    EXPECT_EQ(Run_FFProbe_ExtSubtitle(test.Prog, u"/v/b.srt"_s), 0);
+    EXPECT_EQ(test.Prog.Media.ExtAudioInfo.HandlerName, u"Sound"_s);
+    ASSERT_EQ(test.Person.Messages.size(), 3U);
+    EXPECT_EQ(test.Person.Messages[0].Code, 12);
+    EXPECT_EQ(test.Person.Messages[1].Code, 13);
+    EXPECT_FALSE(test.Results().join(u'\n').contains(u"/v/"_s));
+}

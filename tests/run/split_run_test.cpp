@@ -1,0 +1,146 @@
+#include "run/split_run.h"
+
+#include "common/stand_in_tool.h"
+#include "inspect/video_names.h"
+#include "run/video_batch.h"
+#include "support/paths.h"
+
+#include <QDir>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What an ffprobe says about a file with one video track, and about nothing that is empty.
+const QByteArray Probe = "for file; do :; done\n"
+                         "[ -s \"$file\" ] || exit 1\n"
+                         "case \"$*\" in\n"
+                         "*-show_format*) printf 'format|filename=x|duration=1.5|size=1\\n' ;;\n"
+                         "*) printf 'stream|index=0|codec_type=video|disposition:attached_pic=0|tag:x=y\\n' ;;\n"
+                         "esac\n";
+const QByteArray Merge = "echo 'mkvmerge v74.0.0 (A name) 64-bit'; sleep 0.05; echo 'Multiplexing took 0 seconds.'\n";
+
+struct SplitRun : testing::Test
+{
+    Test_Program Test;
+    Program& Prog = Test.Prog;
+
+    SplitRun()
+    {
+        Prog.Tools.FFProbe_Path = Write_Stand_In(Test, u"tools/ffprobe"_s, Probe);
+        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(Test, u"tools/mkvmerge"_s, Merge);
+        Prog.Options.Log_Verbosity = 1;
+        Prog.Options.Split_Minutes = u"30"_s;
+    }
+
+    bool Run()
+    {
+        Find_Video_Files(Prog, Prog.Options.Path_Videos, Video_Extensions, Prog.Run.Video_File_List);
+        return Split_Video_Files(Prog);
+    }
+
+    QList<int> Codes() const
+    {
+        QList<int> codes;
+        for (const Message_Box& box : Test.Person.Messages)
+            codes += box.Code;
+        return codes;
+    }
+};
+
+} // namespace
+
+TEST_F(SplitRun, TheBoxesCountWithoutTheLeadingBlankAndTheTargetOnlyFromTheFirstFileOn)
+{
+    const QString before = Prog.Form.pic_TargetPath.Caption;
+    Test.Write(u"videos/a.mkv"_s, "x");
+    QStringList seen;
+    Test.Person.On_Pump = [&] {
+        const QString now = Prog.Form.pic_TargetPath.Caption;
+        if (!seen.contains(now))
+            seen += now;
+    };
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Prog.Form.pic_VideosPath.Caption, u"Video Files Path (drag 'n drop)   1 File Found "_s);
+    EXPECT_EQ(seen, (QStringList{before, u"Target Path (drag 'n drop)   1 File Done "_s}));
+    EXPECT_EQ(Prog.Form.ulbl_Title1.Caption, u"a.mkv"_s);
+    Test.Write(u"videos/b.mkv"_s, "x");
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Prog.Form.pic_VideosPath.Caption, u"Video Files Path (drag 'n drop)   2 Files Found "_s);
+    EXPECT_EQ(Prog.Form.pic_TargetPath.Caption, u"Target Path (drag 'n drop)   2 Files Done "_s);
+}
+
+TEST_F(SplitRun, NothingIsDeletedWhateverTheOptionsSay)
+{
+    const QStringList files = {u"a.mkv"_s, u"a_Track1.srt"_s};
+    for (const QString& name : files)
+        Test.Write(u"videos/"_s + name, "x");
+    Prog.Options.Delete_Video_After = Prog.Options.Delete_Sundry_Files = true;
+    Prog.Run.Add_Attachments_On = true;
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(QDir(Test.Path(u"videos"_s)).entryList(QDir::Files, QDir::Name), files);
+    EXPECT_FALSE(Test.Results().join(u'\n').contains(u"ttachment"_s));
+}
+
+TEST_F(SplitRun, ADeletionNoteOfTheRunBeforeIsRepeatedForEachFile)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Test.Write(u"videos/b.mkv"_s, "x");
+    Prog.Run.Source_Deleted = true;
+    Prog.Run.Current_Video_Path = u"/v/old.mkv"_s;
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Test.Results().filter(u"Source video file DELETED after Processing - \"/v/old.mkv\""_s).size(), 2);
+    EXPECT_EQ(Test.Results().filter(u"-- Processing video file - \""_s).size(), 2);
+}
+
+TEST_F(SplitRun, BadFilesAreReportedAndTheWalkGoesOn)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Test.Write(u"videos/empty.mkv"_s);
+    Test.Write(u"videos/plain"_s, "x");
+    Test.Write(u"videos/notes.txt"_s, "x");
+    EXPECT_TRUE(Run());
+    QList<int> codes = Codes();
+    std::sort(codes.begin(), codes.end());
+    EXPECT_EQ(codes, (QList<int>{13, 70}));
+    EXPECT_EQ(Prog.Form.pic_TargetPath.Caption, u"Target Path (drag 'n drop)   2 Files Done "_s);
+}
+
+TEST_F(SplitRun, AMkvmergeThatCannotBeStartedEndsTheRunAtTheFirstFile)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Test.Write(u"videos/b.mkv"_s, "x");
+    Prog.Tools.System_MKVMerge_Path = u"mkvmerge"_s;
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Codes(), QList<int>{9});
+    EXPECT_TRUE(Test.Faults().isEmpty());
+}
+
+TEST_F(SplitRun, AHaltDigestsTheFileAndKeepsThePieces)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Prog.Run.Kill_By_Name = false;
+    Prog.Tools.System_MKVMerge_Path = Write_Stand_In(
+        Test, u"tools/mkvmerge"_s, "echo piece > \"$4\"; echo 'It has been opened for writing.'; sleep 60");
+    Test.Person.On_Pump = [&] {
+        if (File_Exists(Test.Path(u"target/a.mkv"_s)))
+            Prog.Run.Halt_Requested = true;
+    };
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Test.Faults(), QStringList{u"*** Process halted before finishing."_s});
+    EXPECT_EQ(Test.Results().filter(u"-- Processing video file - \""_s).size(), 1);
+    EXPECT_EQ(Test.Read(u"target/a.mkv"_s), "piece\n");
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(SplitRun, ADryRunWritesNothing)
+{
+    Test.Write(u"videos/a.mkv"_s, "x");
+    Prog.Run.Dry_Run = true;
+    Prog.Tools.System_MKVMerge_Path = Write_Stand_In(Test, u"tools/mkvmerge"_s, "echo x > \"$4\"");
+    EXPECT_TRUE(Run());
+    EXPECT_TRUE(QDir(Test.Path(u"target"_s)).isEmpty());
+    EXPECT_TRUE(Prog.Run.Mkvmerge_Arguments.Text().endsWith(u"--split duration:1800s --track-order 0:0"_s));
+}
