@@ -2,12 +2,11 @@
 // that of a raw loop over the same text, measured in turn: for parsing, one that looks for each key once in each
 // stream; for assembly, one that appends the finished command argument by argument.
 #include "command/command_frame.h"
+#include "compare.h"
 #include "inspect/stream_parser.h"
 #include "program.h"
 
 #include <array>
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -57,29 +56,6 @@ static QString FFProbe_Text()
     for (int index = 0; index < Stream_Count; ++index)
         text += Stream_Line(index);
     return text;
-}
-
-template <typename Work>
-static double Seconds_Of(Work work)
-{
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-/// Runs both in turn and reports the first one's time and its ratio to the second's.
-template <typename Ours, typename Raw>
-static void Compare(benchmark::State& state, Ours ours, Raw raw)
-{
-    double our_time = 0;
-    double raw_time = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        const double seconds = Seconds_Of(ours);
-        state.SetIterationTime(seconds);
-        our_time += seconds;
-        raw_time += Seconds_Of(raw);
-    }
-    state.counters["ratio"] = our_time / raw_time;
 }
 
 static void Parse(benchmark::State& state)
