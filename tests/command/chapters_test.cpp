@@ -214,6 +214,21 @@ TEST_F(Chapters, ADryRunNamesTheFileStillToBeMadeAndTouchesNothing)
     EXPECT_EQ(Xml(), u"old"_s);
 }
 
+TEST_F(Chapters, AnOldXmlThatCanNotGoToTheTrashIsNeverOverwritten)
+{
+    Write(u"videos/Movie_Chapters.txt"_s, "1 text\n");
+    const QString xml = Write(u"videos/Movie_Chapters.xml"_s, "old");
+    qputenv("XDG_DATA_HOME", "/proc/nowhere");
+    try {
+        Find();
+        ADD_FAILURE();
+    } catch (const Run_Time_Error& error) {
+        EXPECT_EQ(error.Subject(), xml);
+    }
+    EXPECT_EQ(Xml(), u"old"_s);
+    EXPECT_EQ(Faults(), QStringList{u"-- Could not be moved to the trash - \""_s + xml + u'"'});
+}
+
 TEST_F(Chapters, OnlyTheWholeResultHasALine)
 {
     clsStringBuilder& faults = Prog.Logs.Log_Faults;

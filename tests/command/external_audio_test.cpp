@@ -223,5 +223,10 @@ TEST_F(External_Audio, ABlankStickyLanguageTextIsAnErrorThatSaysWhere)
     Prog.Settings.Audio_Sticky.Sticky_Languages = 1;
     Prog.Settings.Audio_Sticky.Language = u")"_s;
     Write_All({u"m.mp3"_s});
-    EXPECT_THROW(Find(u"m"_s), Run_Time_Error);
+    try {
+        Find(u"m"_s);
+        ADD_FAILURE();
+    } catch (const Run_Time_Error& error) {
+        EXPECT_EQ(error.Subject(), u"the sticky language"_s);
+    }
 }

@@ -160,10 +160,13 @@ INSTANTIATE_TEST_SUITE_P(Chapters_And_Attachments, Track_Claims, testing::Values
 
 TEST(Chapter_Files, ThatMkvmergeCanNotReadEndInItsOwnWords)
 {
-    for (const QByteArray text : {"00:00:00 Tom & <Jerry>\n", "garbage as a time\n"}) {
+    const std::pair<QString, QByteArray> files[] = {{u"Movie_Chapters.txt"_s, "00:00:00 Tom & <Jerry>\n"},
+                                                    {u"Movie_Chapters.txt"_s, "garbage as a time\n"},
+                                                    {u"Movie_Chapters.xml"_s, "this is no XML at all"}};
+    for (const auto& [name, text] : files) {
         Library_Run run;
         run.Add(u"plain.mkv"_s, u"Movie.mkv"_s);
-        Replace_Chapters(run, u"Movie_Chapters.txt"_s, text);
+        Replace_Chapters(run, name, text);
         EXPECT_TRUE(run.Run());
         EXPECT_TRUE(run.Log().contains(u"Error: "_s)) << run.Log().toStdString();
         EXPECT_TRUE(run.Log().contains(u"Movie_Chapters.xml"_s)) << run.Log().toStdString();
