@@ -126,6 +126,7 @@ static bool Browse_Main_Folder(Program& program, const Main_Folder& folder)
     }
     path = chosen;
     shown.Caption = path;
+    (program.Form.*folder.Fault).Caption.clear(); // it would say "Not Set" beside the path
     QStringList& recent = program.Settings.*folder.Recent;
     Remove_Recent_Folder(recent, path);
     Insert_Recent_Folder(recent, path);
@@ -158,6 +159,7 @@ static void Browse_Companion_Folder(Program& program, const Companion_Folder& fo
         return;
     path = chosen;
     (program.Form.*folder.Shown).Caption = path;
+    (program.Form.*folder.Fault).Caption.clear();
 }
 
 void mnu_PopupAudioBrowse1_Click(Program& program)

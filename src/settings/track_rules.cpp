@@ -94,7 +94,10 @@ static void Add_Files_Clicked(const Track_Group& group)
 {
     const bool adds = group.Add.Value == 1;
     group.Use_Opts.Enabled = adds;
-    group.Apply_Default.Enabled = adds && group.Use_Opts.Value == 1;
+    if (!adds)
+        group.Apply_Default.Enabled = false;
+    else if (group.Use_Opts.Value == 1)
+        group.Apply_Default.Enabled = true;
     group.Diagram_On = group.Apply_Default.Enabled;
 }
 
@@ -219,7 +222,9 @@ void chk_AddSubs_Click(Program& program)
 {
     if (!program.Form.Options_Ready)
         return;
-    Add_Files_Clicked(Subs_Group(program));
+    const Track_Group group = Subs_Group(program);
+    group.Apply_Default.Enabled = group.Use_Opts.Value != 0;
+    Add_Files_Clicked(group);
     Default_Run(program);
 }
 

@@ -156,6 +156,7 @@ TEST_F(FolderChanges, ABrowseStartsAtItsFolderAndPutsTheNewPathIntoTheRecentList
     EXPECT_EQ(Person.Folder_Questions.back().second, Path(u"videos/"_s));
     EXPECT_EQ(Prog.Options.Path_Videos, Path(u"new/"_s));
     EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Path(u"new/"_s));
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
     EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{Path(u"new/"_s), u"/x/"_s}));
     EXPECT_TRUE(Prog.Form.btn_RunVantorra.Enabled); // the extension's doing
 
@@ -204,15 +205,16 @@ TEST_F(FolderChanges, ABrowsedCompanionFolderIsTakenUnchecked)
         void (*Browse)(Program&);
         QString JobOptions::*Path;
         Label Main_Form::*Shown;
+        Label Main_Form::*Fault;
         QString Title;
     };
 
     const Claim claims[] = {{mnu_PopupAudioBrowse1_Click, &JobOptions::Path_Audios, &Main_Form::ulbl_AudioPath,
-                             u"Select the folder of Audio Files."_s},
+                             &Main_Form::lbl_AudioPathFault, u"Select the folder of Audio Files."_s},
                             {mnu_PopupSubsBrowse1_Click, &JobOptions::Path_Subtitles, &Main_Form::ulbl_SubsPath,
-                             u"Select the folder of Subtitle Files."_s},
+                             &Main_Form::lbl_SubsPathFault, u"Select the folder of Subtitle Files."_s},
                             {mnu_PopupChapsBrowse1_Click, &JobOptions::Path_Chapters, &Main_Form::ulbl_ChaptersPath,
-                             u"Select the folder of Chapter Files."_s}};
+                             &Main_Form::lbl_ChapsPathFault, u"Select the folder of Chapter Files."_s}};
     Prog.Form.lbl_AudipPathEmpty.Visible = true;
     for (const Claim& claim : claims) {
         Person.Folder_Answer = Path(u"new"_s);
@@ -221,6 +223,7 @@ TEST_F(FolderChanges, ABrowsedCompanionFolderIsTakenUnchecked)
         EXPECT_EQ(Person.Folder_Questions.back().second, Prog.Settings.App_Folder);
         EXPECT_EQ(Prog.Options.*claim.Path, Path(u"new/"_s));
         EXPECT_EQ((Prog.Form.*claim.Shown).Caption, Path(u"new/"_s));
+        EXPECT_EQ((Prog.Form.*claim.Fault).Caption, u""_s);
         Person.Folder_Answer.clear();
         claim.Browse(Prog);
         EXPECT_EQ(Person.Folder_Questions.back().second, Path(u"new/"_s));
