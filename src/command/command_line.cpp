@@ -66,19 +66,33 @@ static bool Reads_Like_An_Option(const QString& argument)
     return argument.startsWith(u'-') && option.match(argument).hasMatch();
 }
 
+/// The most bytes of one argument that the system passes to a child.
+static constexpr qsizetype Longest_Argument = 131'071;
+
+/// Why an argument can't be given to mkvmerge as a value; empty if it can.
+static QString Refusal_Reason(const QString& argument)
+{
+    if (argument.startsWith(u'@'))
+        return u"begins with \"@\", which mkvmerge takes for a file of options."_s;
+    if (Reads_Like_An_Option(argument))
+        return u"reads like an option of mkvmerge."_s;
+    // A child that can't be started would end the whole run.
+    if (argument.size() > Longest_Argument / 4 && argument.toUtf8().size() > Longest_Argument)
+        return u"is longer than the system can pass on."_s;
+    return {};
+}
+
 bool Command_Line::Is_Refused(const QString& value)
 {
-    const QString argument = Argument_Of(value);
-    return argument.startsWith(u'@') || Reads_Like_An_Option(argument);
+    return !Refusal_Reason(Argument_Of(value)).isEmpty();
 }
 
 QString Command_Line::Refused_Value(const QString& option, const QString& value)
 {
+    constexpr qsizetype longest_quote = 200;
     const QString argument = Argument_Of(value);
-    const QString reason = argument.startsWith(u'@')
-                               ? u"\" begins with \"@\", which mkvmerge takes for a file of options."_s
-                               : u"\" reads like an option of mkvmerge."_s;
-    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + argument + reason;
+    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + argument.left(longest_quote) + u"\" "_s +
+           Refusal_Reason(argument);
 }
 
 static bool Is_Plain(QChar character)

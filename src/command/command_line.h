@@ -13,8 +13,8 @@
 /// three quotes in a row made one quote. The argument of a path is the path itself.
 ///
 /// mkvmerge takes some arguments for its own wherever they stand: one that begins with "@" is a file of options, and
-/// "-r" or "--gui-mode" are obeyed even where a value belongs. A value that would be such an argument is left out
-/// together with its option, and Refusals tells why.
+/// "-r" or "--gui-mode" are obeyed even where a value belongs. And a system passes arguments of a limited length only.
+/// A value that would be such an argument is left out together with its option, and Refusals tells why.
 class Command_Line
 {
   public:
@@ -40,8 +40,8 @@ class Command_Line
 
     /// The argument that a value's text becomes.
     static QString Argument_Of(const QString& value);
-    /// True for a value whose argument mkvmerge would not take for a value: it begins with "@", or it is a dash and
-    /// a letter, or two dashes and lower-case words joined by dashes.
+    /// True for a value that mkvmerge would not take for one or can't be given: its argument begins with "@", or is a
+    /// dash and a letter, or two dashes and lower-case words joined by dashes, or is longer than the system passes on.
     static bool Is_Refused(const QString& value);
     static QString Refused_Value(const QString& option, const QString& value);
 

@@ -89,7 +89,7 @@ TEST(CommandLine, WhateverAValueHoldsItStaysOneArgument)
     }
 }
 
-TEST(CommandLine, AValueThatMkvmergeWouldTakeForAnOptionIsLeftOutWithItsOption)
+TEST(CommandLine, AValueThatCannotBeGivenAsOneIsLeftOutWithItsOption)
 {
     struct Claim
     {
@@ -98,6 +98,9 @@ TEST(CommandLine, AValueThatMkvmergeWouldTakeForAnOptionIsLeftOutWithItsOption)
     };
 
     const Claim claims[] = {
+        {QString(140'000, u'x'), true},
+        {QString(70'000, QChar(0xE9)), true},
+        {QString(100'000, u'x'), false},
         {u"@options.json"_s, true},
         {u"\"@a b\""_s, true},
         {u"-r"_s, true},
@@ -121,6 +124,7 @@ TEST(CommandLine, AValueThatMkvmergeWouldTakeForAnOptionIsLeftOutWithItsOption)
         ASSERT_EQ(command.Refusals().size(), claim.Refused ? 1 : 0) << claim.Value.toStdString();
         if (claim.Refused) {
             EXPECT_TRUE(command.Refusals()[0].startsWith(u"*** --title is left out: \""_s));
+            EXPECT_LT(command.Refusals()[0].size(), 300);
         }
     }
 }
