@@ -1,8 +1,6 @@
 // Parsing ffprobe's text and assembling the command, for a file of 60 streams. "ratio" is the time of the pass against
 // that of a raw loop over the same text, measured in turn: for parsing, one that looks for each key once in each
 // stream; for assembly, one that appends the finished command argument by argument.
-#include "compare.h"
-
 #include "command/command_frame.h"
 #include "compare.h"
 #include "inspect/stream_parser.h"
@@ -12,6 +10,27 @@
 #include <string>
 
 using namespace Qt::StringLiterals;
+
+/// Nobody is in front.
+class Nobody : public Operator
+{
+  public:
+    Message_Answer Show_Message(const Message_Box&) override { return Message_Answer::Ok; }
+
+    void Show_Modal(const QString&) override {}
+
+    void Show_Form(const QString&) override {}
+
+    QString Pick_Folder(const QString&, const QString&) override { return {}; }
+
+    QStringList Pick_File(const File_Question&) override { return {}; }
+
+    void Pump_Events() override {}
+
+    void Wait_With_Events(int) override {}
+
+    bool Open_Document(const QString&) override { return false; }
+};
 
 static constexpr int Stream_Count = 60;
 
