@@ -1,0 +1,296 @@
+#include "settings/settings_store.h"
+
+#include "common/test_program.h"
+#include "support/run_time_error.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+static const QByteArray Main_Window = "[MainWindow]\nLeft=100\nTop=50\nWidth=800\nHeight=600\n";
+
+static void Read_Text(Test_Program& test, const QByteArray& text)
+{
+    test.Write(u"app/Vantorra.ini"_s, Main_Window + text);
+    Read_Settings(test.Prog);
+}
+
+TEST(SettingsStore, WhatASettingMeansForTheEnabledStateOfABox)
+{
+    struct Claim
+    {
+        QByteArray Text;
+        Check_Box JobOptions::*Box;
+        bool Is_Enabled;
+        int Value;
+    };
+
+    const QByteArray audio_list = "[Audio]\nCustom Audio Filter Language(s)=English (eng)\n";
+    const QByteArray subs_list = "[Subtitles]\nCustom Subtitle Filter Language(s)=English (eng)\n";
+    const Claim claims[] = {
+        {"", &JobOptions::chk_CustomAudioFilter, false, 0},
+        {audio_list, &JobOptions::chk_CustomAudioFilter, true, 0},
+        {audio_list + "Apply custom Audio Filter.Enabled=Disabled\n", &JobOptions::chk_CustomAudioFilter, true, 0},
+        {audio_list + "Apply custom Audio Filter=On\n", &JobOptions::chk_EngAudioOnly, false, 0},
+        {audio_list + "Keep English Titled Audio=On\n", &JobOptions::chk_CustomAudioFilter, false, 0},
+        {"[Audio]\nFilter out NON-English Audio=On\n", &JobOptions::chk_EngAudioOnly, true, 1},
+        {"[Audio]\nStrip Existing Audio=On\n", &JobOptions::chk_StripOrigAudioTitle, false, 0},
+        {"[Audio]\nStrip Existing Audio=On\n", &JobOptions::chk_AudioDelayAdjust, false, 0},
+        {"[Audio]\nStrip Existing Audio=On\n", &JobOptions::chk_EngAudioOnly, false, 0},
+        {"[Audio]\nStrip Existing Audio=Perhaps\n", &JobOptions::chk_EngAudioOnly, true, 0},
+        {"[Audio]\nStrip Existing Audio=Perhaps\n", &JobOptions::chk_StripOrigAudio, true, 2},
+        {"[Audio]\nAudio Delay Adjust=On\n", &JobOptions::chk_AudioDelayAdjust, true, 0},
+        {"[Audio]\nUse Audio .opt files=On\n", &JobOptions::chk_UseAudioOpts, false, 1},
+        {"[Audio]\nUse Audio .opt files=On\n", &JobOptions::chk_ApplyDefaultAudioOpts, false, 0},
+        {"[Audio]\nAdd Audio Files=On\n", &JobOptions::chk_UseAudioOpts, true, 0},
+        {"[Audio]\nAdd Audio Files=On\nUse Audio .opt files=On\n", &JobOptions::chk_ApplyDefaultAudioOpts, true, 0},
+        {subs_list, &JobOptions::chk_CustomSubsFilter, true, 0},
+        {subs_list + "Apply custom Subtitle Filter=On\n", &JobOptions::chk_EngSubsOnly, false, 0},
+        {"[Subtitles]\nStrip Existing Subtitles=On\n", &JobOptions::chk_SubDefaults, false, 1},
+        {"[Subtitles]\nStrip Existing Subtitles=On\n", &JobOptions::chk_StripOrigSubsTitle, false, 0},
+        {"[Subtitles]\nSet All Subtitle forces=perhaps\n", &JobOptions::chk_SubForces, true, 0},
+        {"[Subtitles]\nAdd Subtitles=On\nUse Subtitle .opt files=On\n", &JobOptions::chk_ApplyDefaultSubOpts, true, 0},
+        {"[Chapters]\nConvert TXT to XML Chapters=On\n", &JobOptions::chk_ConvertTXT, false, 1},
+        {"[Chapters]\nReplace With New Chapter File=On\n", &JobOptions::chk_ConvertTXT, true, 0},
+        {"", &JobOptions::chk_VideoFormatOptions, false, 0},
+        {"[Video Format Options]\nAspect Ratio or Video Dimensions=Aspect Ratio\n", &JobOptions::chk_VideoFormatOptions,
+         true, 0},
+        {"", &JobOptions::chk_VideoFrameRate, false, 0},
+        {"[Other Options]\nSet Video Frame Rate Value=25p\n", &JobOptions::chk_VideoFrameRate, true, 0},
+        {"[Other Options]\nSet Video Frame Rate Options=Use MediaInfo discovered Frame Rate\n",
+         &JobOptions::chk_VideoFrameRate, true, 0},
+        {"[Other Options]\nRemove File Title=On\n", &JobOptions::chk_CustomFileTitle, false, 0},
+        {"[Other Options]\nRemove File Title=On\n", &JobOptions::chk_SetFileTitle, false, 0},
+        {"[Other Options]\nSet Custom Video Title=On\n", &JobOptions::chk_SetVideoTitle, false, 0},
+        {"[Other Options]\nSet Custom Video Title=On\n", &JobOptions::chk_CustomVideoTitle, true, 1},
+        {"[Other Options]\nAdd Attachments=On\n", &JobOptions::chk_AddAttachments, false, 0},
+        {"[Paths]\nAttachments Path=/no/such/folder/\n", &JobOptions::chk_UseSubfolders, false, 0},
+    };
+    for (const Claim& claim : claims) {
+        Test_Program test;
+        Read_Text(test, claim.Text);
+        const Check_Box& box = test.Prog.Options.*claim.Box;
+        EXPECT_EQ(box.Enabled, claim.Is_Enabled) << claim.Text.toStdString() << box.Caption.toStdString();
+        EXPECT_EQ(box.Value, claim.Value) << claim.Text.toStdString() << box.Caption.toStdString();
+    }
+}
+
+TEST(SettingsStore, WhatWasReadShowsOnTheForm)
+{
+    Test_Program test;
+    const QByteArray folder = test.Path(u"app/"_s).toUtf8();
+    const QByteArray videos = test.Path(u"videos/"_s).toUtf8();
+    const QByteArray target = test.Path(u"target/"_s).toUtf8();
+    Read_Text(test, "[Menu]\nLog Verbosity=3\nDelete Processed File=True\n"
+                    "[Paths]\nSystem mkvmerge.exe Path=/opt/mkvmerge\nAttachments Path=" +
+                        folder +
+                        "\n[Audio]\nAudio Delay=-250\nFilter out NON-English Audio=On\n"
+                        "[Subtitles]\nCustom Subtitle Filter Language(s)=A (aaa):B (bbb):C (ccc)\n"
+                        "Cut or Keep Subtitle Languages=Keep\nApply custom Subtitle Filter=On\n"
+                        "Custom Subtitle Filter Window Size and Position (T,L,W,H,MM)=-4:5:6:1:0\n"
+                        "Set All Subtitle forces to no/yes=no\n"
+                        "[Chapters]\nChapters Format=other\nReplace With New Chapter File=On\n"
+                        "Convert TXT to XML Chapters=On\n"
+                        "[Other Options]\nAdd Attachments=On\nAttach Contents of Titled Subfolders Instead=On\n"
+                        "Set Custom File Title Text=Mine\nSplit multiple video files (minutes)=45\n"
+                        "[Most Recently Used Sources]\nMRU Sources=" +
+                        videos + "\n[Most Recently Used Destinations]\nMRU Targets=" + target +
+                        "\n[Experimental]\nVantorra Run is Default=TRUE\n"
+                        "[Extensions]\nDelete Source Only After Success=on\n");
+    const JobOptions& options = test.Prog.Options;
+    const Main_Form& form = test.Prog.Form;
+    EXPECT_EQ(form.mnu_VerbosityStatus.Caption, u"Log Verbosity 3 - Include All Active Checkboxes"_s);
+    EXPECT_EQ(options.chk_DeleteVideoAP.Value, 1);
+    EXPECT_EQ(test.Prog.Settings.Mkvmerge_Path_Ini, u"/opt/mkvmerge"_s);
+    EXPECT_EQ(form.txt_AudioDelayValue.Text, u"-250"_s);
+    EXPECT_FALSE(form.txt_AudioDelayValue.Active);
+    EXPECT_EQ(options.AudioFilterMode, 2);
+    EXPECT_EQ(options.SubsFilter.Count, 3);
+    EXPECT_EQ(options.SubsFilterMode, 4);
+    EXPECT_EQ(options.chk_CustomSubsFilter.Caption, u"Apply custom Subtitle Filter (keep)"_s);
+    EXPECT_EQ(options.SubsFilter.Top, 4);
+    EXPECT_FALSE(options.SubsFilter.HasBox);
+    EXPECT_TRUE(options.AudioFilter.HasBox) << "a missing place is the main form's";
+    EXPECT_EQ(options.chk_SubForces.Caption, u"Set All Subtitles forces to \"no\""_s);
+    EXPECT_EQ(options.chk_SubDefaults.Caption, u"Set All Subtitles defaults to \"yes\""_s);
+    EXPECT_EQ(options.lbl_ChapsFormat.Caption, u"HH:MM:SS.hh(h)"_s);
+    EXPECT_TRUE(options.lbl_ChapsFormat.Enabled);
+    EXPECT_EQ(options.chk_AddAttachments.Caption, u"Add Attachments (path set)"_s);
+    EXPECT_TRUE(options.chk_UseSubfolders.Enabled && options.Use_Attachment_Subfolders && options.Add_Attachments_On);
+    EXPECT_EQ(test.Prog.Attachments_Dialog.lbl_AttachmentsPath.Caption, QString::fromUtf8(folder));
+    EXPECT_EQ(options.chk_CustomFileTitle.Caption, u"Set Custom File Title (NOT empty)"_s);
+    EXPECT_EQ(options.chk_CustomVideoTitle.Caption, u"Set Custom Video Title (empty)"_s);
+    EXPECT_EQ(form.txt_SplitVideosValue.Text, u"45"_s);
+    EXPECT_EQ(form.lbl_AudioPathFault.Caption, u"Audio Path Not Set"_s);
+    EXPECT_EQ(form.lbl_SubsPathFault.Caption, u"Subtitle  Path Not Set"_s);
+    EXPECT_EQ(form.lbl_ChapsPathFault.Caption, u"Chapters  Path Not Set"_s);
+    EXPECT_EQ(options.Path_Videos, QString::fromUtf8(videos));
+    EXPECT_TRUE(form.btn_RunVantorra.Enabled);
+    EXPECT_TRUE(test.Prog.Settings.Run_Is_Default_Flag);
+    EXPECT_TRUE(test.Prog.Settings.Extensions.Delete_Source_Only_After_Success);
+    EXPECT_TRUE(test.Prog.Settings.Settings_Loaded);
+}
+
+TEST(SettingsStore, ADelayThatIsNoNumberLeavesTheTextBoxAsItStands)
+{
+    Test_Program test;
+    test.Prog.Form.txt_AudioDelayValue.Text = u"before"_s;
+    Read_Text(test, "[Audio]\nAudio Delay=soon\n");
+    EXPECT_EQ(test.Prog.Options.Audio_Delay, u"0"_s);
+    EXPECT_EQ(test.Prog.Form.txt_AudioDelayValue.Text, u"before"_s);
+}
+
+TEST(SettingsStore, WithSaveOnExitOffOnlyThatSettingIsWritten)
+{
+    Test_Program test;
+    Read_Text(test, "Save Settings on Exit=True\n[Audio]\nAudio Delay=5\n");
+    const QByteArray before = test.Read(u"app/Vantorra.ini"_s);
+    test.Prog.Options.Audio_Delay = u"6"_s;
+    mnu_SaveOnQuit_Click(test.Prog);
+    EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), before) << "the tick alone writes nothing";
+    mnu_SaveNow_Click(test.Prog);
+    EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), QByteArray(before).replace("=True", "=False"));
+}
+
+TEST(SettingsStore, SavingNowResetsTheLogViewersFontAlone)
+{
+    Test_Program test;
+    Read_Text(test, "[ProcessLog]\nSet Font Size=20\n[View Video File Info]\nSet Font Size=20\n");
+    Write_Settings(test.Prog, false);
+    EXPECT_EQ(test.Prog.Settings.ProcessLog_Font_Size, 20);
+    mnu_SaveNow_Click(test.Prog);
+    const Ini_Document document = Load_Ini_File(test.Prog.Settings.Ini_File);
+    EXPECT_EQ(document.Value(u"ProcessLog"_s, u"Set Font Size"_s), u"10"_s);
+    EXPECT_EQ(document.Value(u"View Video File Info"_s, u"Set Font Size"_s), u"20"_s);
+}
+
+TEST(SettingsStore, ABoxThatIsNeitherOnNorOffEndsTheWritingAtItsRow)
+{
+    Test_Program test;
+    Read_Text(test, "Mine=stays\n[Audio]\nAudio Delay=5\nAdd Audio Files=Perhaps\nUse Audio .opt files=Off\n"
+                    "[Subtitles]\nAdd Subtitles=Off\n");
+    test.Prog.Options.Audio_Delay = u"6"_s;
+    test.Prog.Options.chk_UseAudioOpts.Value = 1;
+    test.Prog.Options.chk_AddSubs.Value = 1;
+    try {
+        Write_Settings(test.Prog, false);
+        FAIL() << "nothing was said";
+    } catch (const Run_Time_Error& error) {
+        EXPECT_EQ(error.Number(), Error_Number::Subscript_Out_Of_Range);
+        EXPECT_TRUE(error.Message().contains(u"[Audio] \"Add Audio Files\""_s)) << error.what();
+    }
+    const Ini_Document document = Load_Ini_File(test.Prog.Settings.Ini_File);
+    EXPECT_EQ(document.Value(u"Audio"_s, u"Audio Delay"_s), u"6"_s) << "ahead of it: new";
+    EXPECT_EQ(document.Value(u"Audio"_s, u"Add Audio Files"_s), u"Perhaps"_s);
+    EXPECT_EQ(document.Value(u"Audio"_s, u"Use Audio .opt files"_s), u"Off"_s) << "behind it: as it was";
+    EXPECT_EQ(document.Value(u"Subtitles"_s, u"Add Subtitles"_s), u"Off"_s);
+    EXPECT_EQ(document.Value(u"MainWindow"_s, u"Mine"_s), u"stays"_s);
+    EXPECT_EQ(document.Value(u"MainWindow"_s, u"Save Settings on Exit"_s), u"True"_s);
+}
+
+TEST(SettingsStore, ANumberThatIsNoneIsAnErrorThatNamesFileSectionAndKey)
+{
+    struct Claim
+    {
+        QByteArray Text;
+        QString Place;
+        Error_Number Number;
+    };
+
+    const Error_Number mismatch = Error_Number::Type_Mismatch;
+    const QByteArray noise("\x7F"
+                           "ELF\x02\x01\x00\x00[\xFF\xFE=\x00",
+                           13);
+    const Claim claims[] = {
+        {"", u"[MainWindow] \"Top\""_s, mismatch},
+        {noise, u"[MainWindow] \"Top\""_s, mismatch},
+        {"[MainWindow]\nTop=1\nLef", u"[MainWindow] \"Left\""_s, mismatch},
+        {"[MainWindow]\nTop=1\nLeft=one\n", u"[MainWindow] \"Left\""_s, mismatch},
+        {"[MainWindow]\nTop=1\nLeft=1\nHeight=1\nWidth=99999999999\n", u"[MainWindow] \"Width\""_s,
+         Error_Number::Overflow},
+        {Main_Window + "[ProcessLog]\nSet Font Size=big\n", u"[ProcessLog] \"Set Font Size\""_s, mismatch},
+        {Main_Window + "[ProcessLog]\nSet Font Size=\n", u"[ProcessLog] \"Set Font Size\""_s, mismatch},
+        {Main_Window + "[ProcessLog]\nWindow Size and Position (T,L,W,H,MM)=1:2:x:4:5\n",
+         u"[ProcessLog] \"Window Size and Position (T,L,W,H,MM)\""_s, mismatch},
+        {Main_Window + "[View Video File Info]\nNot First Run=perhaps\n", u"[View Video File Info] \"Not First Run\""_s,
+         mismatch},
+        {Main_Window + "[Audio Option Files]\nWindow Size and Position (T,L,W,H,MM)=-2147483648:2:3:4:5\n",
+         u"[Audio Option Files] \"Window Size"_s, Error_Number::Overflow},
+    };
+    for (const Claim& claim : claims) {
+        Test_Program test;
+        test.Write(u"app/Vantorra.ini"_s, claim.Text);
+        try {
+            Read_Settings(test.Prog);
+            ADD_FAILURE() << "taken: " << claim.Text.toStdString();
+        } catch (const Run_Time_Error& error) {
+            EXPECT_EQ(error.Number(), claim.Number) << error.what();
+            EXPECT_TRUE(error.Subject().contains(test.Prog.Settings.Ini_File)) << error.what();
+            EXPECT_TRUE(error.Subject().contains(claim.Place)) << error.what();
+        }
+        EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), claim.Text) << "the file stays as it was";
+    }
+}
+
+TEST(SettingsStore, AFileThatCantBeWrittenIsToldAndTheProgramGoesOn)
+{
+    Test_Program test;
+    Read_Text(test, "");
+    test.Prog.Settings.Ini_File = test.Path(u"app/missing/Vantorra.ini"_s);
+    Write_Settings(test.Prog, false);
+    ASSERT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_TRUE(test.Person.Messages[0].Text.contains(test.Prog.Settings.Ini_File));
+    test.Prog.Settings.Ini_File = test.Path(u"videos"_s);
+    Write_Settings(test.Prog, false);
+    EXPECT_EQ(test.Person.Messages.size(), 2U);
+}
+
+TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
+{
+    struct Claim
+    {
+        QString Assignment;
+        Override_Result Result;
+    };
+
+    const Claim claims[] = {
+        {u"audio/AUDIO delay= 70 "_s, Override_Result::Taken},
+        {u"Subtitles/Set All Subtitle defaults to no/yes=no"_s, Override_Result::Taken},
+        {u"Other Options/Set Custom File Title Text=\"a=b/c\""_s, Override_Result::Taken},
+        {u"Menu/Log Verbosity=5"_s, Override_Result::Taken},
+        {u"Experimental/Vantorra Run is Default=True"_s, Override_Result::Taken},
+        {u"Paths/Last Videos Path=/x/"_s, Override_Result::Without_Effect},
+        {u"Paths/Last Target Path=/x/"_s, Override_Result::Without_Effect},
+        {u"Audio/Audio Delay Adjust=On"_s, Override_Result::Without_Effect},
+        {u"Audio/Apply custom Audio Filter.Enabled=Disabled"_s, Override_Result::Without_Effect},
+        {u"Vantorra - by Zarnegar/Version=9"_s, Override_Result::Without_Effect},
+        {u"Audio/No Such Key=1"_s, Override_Result::Unknown_Key},
+        {u"Audio Delay=1"_s, Override_Result::No_Assignment},
+        {u"Audio/Audio Delay"_s, Override_Result::No_Assignment},
+        {u"/=/"_s, Override_Result::No_Assignment},
+        {u""_s, Override_Result::No_Assignment},
+    };
+    Test_Program test;
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Add_Override(test.Prog.Settings, claim.Assignment), claim.Result) << claim.Assignment.toStdString();
+    Read_Text(test, "[Audio]\nAudio Delay=1\n");
+    EXPECT_EQ(test.Prog.Options.Audio_Delay, u"70"_s);
+    EXPECT_EQ(test.Prog.Options.chk_SubDefaults.Tag, u"no"_s);
+    EXPECT_EQ(test.Prog.Options.Custom_File_Title, u"a=b/c"_s);
+    EXPECT_EQ(test.Prog.Options.Log_Verbosity, 5);
+    EXPECT_EQ(Value_In_Force(*Find_Row(u"Audio"_s, u"Audio Delay"_s), test.Prog), u"70"_s);
+}
+
+TEST(SettingsStore, APathThatWouldReadBackAsAnotherIsNotStored)
+{
+    Test_Program test;
+    Read_Text(test, "");
+    test.Prog.Options.Path_Audios = u"/a\nb/"_s;
+    test.Prog.Options.Path_Subtitles = u"/"_s + QString(3000, u'x');
+    test.Prog.Options.Path_Chapters = u"/a \"b\";c/"_s;
+    Write_Settings(test.Prog, false);
+    const Ini_Document document = Load_Ini_File(test.Prog.Settings.Ini_File);
+    EXPECT_EQ(document.Value(u"Paths"_s, u"Last Audios Path"_s), u""_s);
+    EXPECT_EQ(document.Value(u"Paths"_s, u"Last Subtitles Path"_s), u""_s);
+    EXPECT_EQ(document.Value(u"Paths"_s, u"Last Chapters Path"_s), u"/a \"b\";c/"_s);
+}
