@@ -12,6 +12,7 @@
 #include "run/run_state.h"
 #include "settings/custom_title.h"
 #include "settings/frame_rate_dialog.h"
+#include "settings/help_and_about.h"
 #include "settings/job_options.h"
 #include "settings/main_form.h"
 #include "settings/recent_folders.h"
@@ -39,6 +40,7 @@ struct Program
     Custom_Title_Form Custom_Title;
     Frame_Rate_Form Frame_Rate_Dialog;
     Video_Format_Form Video_Format_Dialog;
+    About_Form About_Box;
     Tool_Paths Tools;
     Media_State Media;
     ::Companions Companions;

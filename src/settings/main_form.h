@@ -18,7 +18,8 @@ struct Main_Form
 {
     QString Caption;
     Form_Place Place;
-    bool Options_Ready = false; ///< set by the first activation; until then the option rules do nothing
+    Form_Place Screen{0, 0, 1920, 1080, 0}; ///< the work area of the form's screen
+    bool Options_Ready = false;             ///< set by the first activation; until then the option rules do nothing
     bool Closing = false;
     bool Topmost_On = false;
     bool Delay_Toggle = false; ///< the state behind chk_AudioDelayAdjust

@@ -19,6 +19,21 @@ struct Key_Modifiers
     bool None() const { return !Shift && !Control && !Alt; }
 };
 
+/// The keys that the forms' own rules know.
+enum class Key
+{
+    Other,
+    Escape,
+    F4,
+    F12
+};
+
+struct Key_Press
+{
+    Key Code = Key::Other;
+    Key_Modifiers Modifiers;
+};
+
 /// A mouse button let go over a control: where the pointer was, counted from the control's top left corner, and how
 /// large the control is, all in pixels. The pointer may have left the control since the button went down.
 struct Mouse_Release
