@@ -4,6 +4,7 @@
 #include "command/command_frame.h"
 #include "compare.h"
 #include "inspect/stream_parser.h"
+#include "nobody.h"
 #include "program.h"
 
 #include <array>

@@ -62,6 +62,7 @@ Settings_Row Enabled_Row(const QString& section, const QString& key, Check_Box J
         .Section = section,
         .Key = key,
         .Default = u"Enabled"_s,
+        .Used = Settings_Row::Use::Ignored, // Enabled_From_Text says why
         .Written = [box](const Program& program) { return Enabled_Text(Truth_Text((program.Options.*box).Enabled)); },
         .Take = [box](Program& program, const QString& text,
                       const QString&) { (program.Options.*box).Enabled = Enabled_From_Text(text); }};
