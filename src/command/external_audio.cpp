@@ -63,7 +63,7 @@ void Find_External_Audio(Program& program, const QString& folder, const QString&
 
 static QString Nothing_Found_Line(const JobOptions& options)
 {
-    const QString none = u"-- Adding audio track(s), but none were found."_s;
+    QString none = u"-- Adding audio track(s), but none were found."_s;
     if (options.chk_ApplyDefaultAudioOpts.Value == 1)
         return none + u" Audio Options selection ignored. Default Audio (sticky) settings ignored."_s;
     if (options.chk_UseAudioOpts.Value == 1)

@@ -134,7 +134,7 @@ bool Read_Idx_File(const QString& folder, const QString& file_name, bool use_opt
 
 static QString Nothing_Found_Line(const JobOptions& options)
 {
-    const QString none = u"-- Adding subtitle track(s), but none were found."_s;
+    QString none = u"-- Adding subtitle track(s), but none were found."_s;
     if (options.chk_ApplyDefaultSubOpts.Value == 1)
         return none + u" Subtitle Options selection ignored. Default Subtitle (sticky) settings ignored."_s;
     if (options.chk_UseSubOpts.Value == 1)

@@ -126,7 +126,7 @@ QString Library_File(const QString& name)
     const QByteArray bytes = Bytes_Of(name);
     if (bytes.isEmpty())
         return Media_File(name, Recipe(name));
-    const QString path = by_hand.filePath(name);
+    QString path = by_hand.filePath(name);
     QFile file(path);
     if (!QFile::exists(path) && (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()))
         qFatal("A file of the library can't be written: %s", qPrintable(path));
@@ -157,7 +157,7 @@ QJsonObject Library_Run::Output(const QString& name) const
 QStringList Library_Run::Tracks(const QString& name) const
 {
     QStringList tracks;
-    for (const QJsonValue& track : Output(name)[u"tracks"].toArray()) {
+    for (const QJsonValue track : Output(name)[u"tracks"].toArray()) {
         const QJsonObject properties = track[u"properties"].toObject();
         QStringList words = {track[u"type"].toString(), track[u"codec"].toString(), properties[u"language"].toString()};
         if (properties.contains(u"track_name"))
@@ -186,7 +186,7 @@ QStringList Library_Run::Chapters() const
     const QByteArray json = Output_Of(
         u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-of"_s, u"json"_s, u"-show_chapters"_s, Path(u"target/Movie.mkv"_s)});
     QStringList chapters;
-    for (const QJsonValue& chapter : QJsonDocument::fromJson(json)[u"chapters"].toArray())
+    for (const QJsonValue chapter : QJsonDocument::fromJson(json)[u"chapters"].toArray())
         chapters += QString::number(chapter[u"start_time"].toString().toDouble(), 'f', 3) + u' ' +
                     chapter[u"tags"][u"title"].toString();
     return chapters;
@@ -195,7 +195,7 @@ QStringList Library_Run::Chapters() const
 QStringList Library_Run::Attachments() const
 {
     QStringList attachments;
-    for (const QJsonValue& attachment : Output()[u"attachments"].toArray())
+    for (const QJsonValue attachment : Output()[u"attachments"].toArray())
         attachments += attachment[u"file_name"].toString() + u' ' + attachment[u"content_type"].toString();
     attachments.sort();
     return attachments;
