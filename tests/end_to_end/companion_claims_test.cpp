@@ -95,6 +95,14 @@ static const Track_Claim Audio_Table[] = {
     {.Name = "AnOptionFileThatIsRefusedCostsNothingButItsValues",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.mp3"_s, u"Movie.mp3"_s, "Language=fre\nnonsense\n"); },
      .Tracks = {Picture, Sound, u"audio MP3 und default"_s}},
+    {.Name = "ATitleOfTenMegabytesIsLeftOutAndTold",
+     .Prepare =
+         [](Library_Run& run) {
+             Add_Audio(run, u"c.mp3"_s, u"Movie.mp3"_s, "");
+             run.Write(u"videos/Movie.mp3.opt"_s, "Language=fre\nTitle=" + QByteArray(10 << 20, 'x'));
+         },
+     .Tracks = {Picture, Sound, u"audio MP3 fre default"_s},
+     .Check = [](Library_Run& run) { EXPECT_TRUE(run.Log().contains(u"*** --track-name is left out: "_s)); }},
 };
 
 INSTANTIATE_TEST_SUITE_P(External_Audio, Track_Claims, testing::ValuesIn(Audio_Table), Name_Of_Claim);
