@@ -1,0 +1,56 @@
+#include "headless/identify_command.h"
+
+#include "headless/exit_status.h"
+#include "inspect/identification.h"
+#include "inspect/tool_discovery.h"
+#include "logs/video_info_viewer.h"
+#include "program.h"
+#include "support/text.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+using namespace Qt::StringLiterals;
+using Json = nlohmann::ordered_json;
+
+static void Print(std::FILE* out, const QByteArray& bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out);
+    std::fflush(out);
+}
+
+static void Print_Lines(const QString& file, const QStringList& lines, bool json, std::FILE* out)
+{
+    if (!json) {
+        QString text = Video_Info_Text(lines);
+        Print(out, text.replace(Line_Break, u"\n"_s).toUtf8() + '\n');
+        return;
+    }
+    Json object{{"event", "identification"}, {"source", file.toStdString()}, {"lines", Json::array()}};
+    for (const QString& line : lines)
+        object["lines"].push_back(line.toStdString());
+    Print(out, QByteArray::fromStdString(object.dump(-1, ' ', false, Json::error_handler_t::replace)) + '\n');
+}
+
+int Print_Identification(Program& program, const QStringList& files, bool json, std::FILE* out)
+{
+    if (!Identifying_Tool_Runs(program)) {
+        if (Which_Tool_Identifies(program) == Identifying_Tool::None)
+            pic_ViewVidInfo_Click(program);
+        return Exit_Refused;
+    }
+    bool all_identified = true;
+    for (qsizetype file = 0; file < files.size(); ++file) {
+        if (program.Run.Halt_Requested)
+            return Exit_Halted;
+        if (file > 0 && !json)
+            Print(out, "\n");
+        const bool answered = Identify_File(program, files[file]);
+        const QStringList& lines = program.Media.Video_Info_Lines;
+        if (answered)
+            Print_Lines(files[file], lines, json, out);
+        const auto is_error = [](const QString& line) { return line.startsWith(u"Error:"_s); };
+        all_identified = all_identified && answered && std::none_of(lines.begin(), lines.end(), is_error);
+    }
+    return all_identified ? Exit_Finished : Exit_Some_Failed;
+}
