@@ -1,8 +1,8 @@
-// Reading all settings and writing them back, against the size of the file. "ratio" is the time of Read_Settings and
-// Write_Settings against that of a raw pass that reads the file, looks for the end of each of its lines, and replaces
-// it. It should stay the same while the file grows: reading and writing follow the file's size, and not keys times
-// size. The file grows by keys and sections that the program doesn't know; half of them stand in a section that it
-// does know.
+// Reading all settings and writing them back, against the size of the file. Reading and writing follow the file's size,
+// and not keys times size: once the file is larger than what the disk asks for each replacement, the bytes a second
+// stay the same. "ratio" is the time of Read_Settings and Write_Settings against that of a raw pass that reads the
+// file, looks for the end of each of its lines, and replaces it. The file grows by keys and sections that the program
+// doesn't know; half of them stand in a section that it does know.
 #include "compare.h"
 #include "nobody.h"
 #include "program.h"
