@@ -58,33 +58,37 @@ QString Log_Entry(const Program& program)
     return lines.join(Line_Break) + Line_Break;
 }
 
-/// Puts the work file together and gives it the log's name.
+/// Puts the new log together in the work file. True if the old log's text was carried along: then it still has its
+/// name; else it is a generation, and may have the name as well.
+static bool Write_Work_File(Program& program, const QString& log)
+{
+    const QString& folder = program.Settings.App_Folder;
+    Log_Work_File work(Process_Log_Work_Path(folder));
+    work.Append(Log_Entry(program).toUtf8());
+    work.Flush_To_Disk();
+    if (!File_Exists(log))
+        return false;
+    if (!program.Options.mnu_AppendLogs &&
+        Rotate_Logs(folder, Log_Name::Kept_For_Replacing, program.Person, program.Logs.Log_Faults) == Rotation::Rotated)
+        return false;
+    work.Append(Line_Break.toUtf8());
+    work.Append_File(log);
+    work.Flush_To_Disk();
+    return true;
+}
+
 static void Replace_Log(Program& program)
 {
     const QString& folder = program.Settings.App_Folder;
     const QString log = Process_Log_Path(folder);
-    const QString work_path = Process_Log_Work_Path(folder);
     Folder_Lock lock;
     Lock_Folder(lock, folder, program.Person);
-
-    Log_Work_File work(work_path);
-    work.Append(Log_Entry(program).toUtf8());
-    work.Flush_To_Disk();
-    const auto rotated = [&] {
-        return Rotate_Logs(folder, Log_Name::Kept_For_Replacing, program.Person, program.Logs.Log_Faults) ==
-               Rotation::Rotated;
-    };
-    const bool carried = File_Exists(log) && (program.Options.mnu_AppendLogs || !rotated());
-    if (carried) {
-        work.Append(Line_Break.toUtf8());
-        work.Append_File(log);
-        work.Flush_To_Disk();
-    }
+    const bool carried = Write_Work_File(program, log);
     program.Person.Pump_Events();
     // Deliberate: the old log goes to the trash although its text was carried along.
     if (carried)
         Trash_Replaced_Log(folder, program.Logs.Log_Faults);
-    Rename_Log(work_path, log);
+    Rename_Log(Process_Log_Work_Path(folder), log);
 }
 
 bool Write_Process_Log(Program& program)

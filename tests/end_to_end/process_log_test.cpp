@@ -66,7 +66,7 @@ const QByteArray Bad_Faults = R"(~~~~
         [Vantorra Results]
             -- Processing video file - "R/videos/bad.avi"
 )";
-/// Deliberate: that nothing was found is told from 1 on, what was found from 2 on.
+/// That nothing was found is told from 1 on, what was found from 2 on.
 const QByteArray Bad_Added = R"(            -- Adding audio track(s), but none were found.
 )";
 const QByteArray Mkvmerge_Head = R"(        [mkvmerge Results]

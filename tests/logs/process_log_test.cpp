@@ -2,10 +2,12 @@
 
 #include "common/test_program.h"
 #include "logs/form_lock.h"
+#include "logs/last_entry.h"
 #include "support/folder_lock.h"
 #include "support/run_time_error.h"
 
 #include <QDir>
+#include <QFile>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
@@ -213,6 +215,25 @@ TEST_F(Log_Test, ALogThatIsAFolderIsAnErrorThatNamesItAndTheEntryWaitsInTheWorkF
     }
     EXPECT_TRUE(Prog.Logs.Write_Failed);
     EXPECT_EQ(Read(u"app/Vantorra_ProcessNEW.log"_s), Header(0) + "\r\n\r\n");
+}
+
+TEST_F(Log_Test, TheLastEntryIsDigestedAndWrittenOnceAndOnlyIfThereIsSomethingToSay)
+{
+    EXPECT_FALSE(Write_Last_Entry(Prog)) << "nothing to say";
+    Prog.Options.Log_Verbosity = 1;
+    Prog.Logs.Log_Faults.AppendLine(u"-- Processing video file - \"x\"");
+    EXPECT_TRUE(Write_Last_Entry(Prog));
+    EXPECT_TRUE(Log().contains("[Vantorra Results]\r\n            -- Processing video file - \"x\"\r\n"))
+        << Log().data();
+    EXPECT_FALSE(Write_Last_Entry(Prog)) << "all was said";
+
+    QFile::remove(Path(u"app/Vantorra_Process.log"_s));
+    QDir().mkpath(Path(u"app/Vantorra_Process.log"_s));
+    Prog.Logs.Log_Results.AppendLine(u"x");
+    EXPECT_THROW(Write_Process_Log(Prog), Run_Time_Error);
+    const QByteArray left = Read(u"app/Vantorra_ProcessNEW.log"_s);
+    EXPECT_FALSE(Write_Last_Entry(Prog)) << "the log itself is what failed";
+    EXPECT_EQ(Read(u"app/Vantorra_ProcessNEW.log"_s), left);
 }
 
 TEST_F(Log_Test, AnotherProgramsEntryIsWaitedFor)
