@@ -21,7 +21,7 @@ QString Find_In_Path(const QString& name, const QString& beside)
 QString Installed_MKVToolNix()
 {
     for (const QString& name : {u"mkvtoolnix-gui"_s, u"mkvmerge"_s})
-        if (const QString path = Find_In_Path(name, u"mkvmerge"_s); !path.isEmpty())
+        if (QString path = Find_In_Path(name, u"mkvmerge"_s); !path.isEmpty())
             return path;
     return {};
 }

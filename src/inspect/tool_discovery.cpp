@@ -55,10 +55,10 @@ void Link_FFProbe(Program& program)
 /// Where ffprobe lies; the path in the program's folder if it lies nowhere.
 static QString FFProbe_Location(const Program& program)
 {
-    const QString own = program.Settings.App_Folder + FFProbe_Name;
+    QString own = program.Settings.App_Folder + FFProbe_Name;
     if (File_Exists(own) || !program.Run.Dry_Run)
         return own;
-    const QString elsewhere = Find_In_Path(FFProbe_Name);
+    QString elsewhere = Find_In_Path(FFProbe_Name);
     return elsewhere.isEmpty() ? own : elsewhere;
 }
 
