@@ -1,0 +1,305 @@
+#include "common/stand_in_tool.h"
+#include "common/test_program.h"
+
+#include "run/run_driver.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// A PATH with nothing in it, so that no mkvmerge is found but those that a test names.
+struct Empty_Path
+{
+    QByteArray Before = qgetenv("PATH");
+
+    Empty_Path() { qputenv("PATH", "/nonexistent"); }
+
+    Empty_Path(const Empty_Path&) = delete;
+    Empty_Path& operator=(const Empty_Path&) = delete;
+
+    ~Empty_Path() { qputenv("PATH", Before); }
+};
+
+/// A program with stand-ins for both tools and one video.
+struct Driver_Test : Test_Program
+{
+    Driver_Test()
+    {
+        Write_Stand_In(*this, u"app/ffprobe"_s,
+                       "case \"$*\" in\n"
+                       "*show_format*) echo 'format|filename=v.avi|duration=60.5';;\n"
+                       "*show_streams*) echo 'stream|index=0|codec_type=video|width=320|height=180';;\n"
+                       "*) echo 'ffprobe version 5.1 Copyright (c) 2007-2022 the FFmpeg developers';;\n"
+                       "esac");
+        Mkvmerge("printf 'Progress: 10%%\\n'; sleep 0.1; echo 'Multiplexing took 1 second.'");
+        Write(u"videos/v.avi"_s, "x");
+    }
+
+    /// What mkvmerge does; its arguments are kept in the file "arguments".
+    void Mkvmerge(const QByteArray& body)
+    {
+        Prog.Tools.System_MKVMerge_Path =
+            Write_Stand_In(*this, u"tools/mkvmerge"_s,
+                           "echo \"$@\" > '" + Path(u"arguments"_s).toUtf8() + "'\necho mkvmerge stand-in\n" + body);
+    }
+
+    Press_Result Press() { return btn_RunVantorra_MouseUp(Prog, {.X = 5, .Y = 5, .Width = 10, .Height = 10}); }
+
+    QString Log() { return QString::fromUtf8(Read(u"app/Vantorra_Process.log"_s)); }
+
+    /// What the form shows and which flags are up, in one line.
+    QString State() const
+    {
+        const Main_Form& form = Prog.Form;
+        QStringList words;
+        const auto add = [&words](bool holds, const QString& word) {
+            if (holds)
+                words += word;
+        };
+        add(form.pic_QuitButton.Visible, u"quit"_s);
+        add(form.btn_RunVantorra.Visible, u"run"_s);
+        add(form.btn_Halt.Visible, (form.btn_Halt.Enabled ? u"+"_s : u"-"_s) + form.btn_Halt.Caption);
+        add(form.btn_ViewVidInfo.Enabled, u"info"_s);
+        add(form.fram_WholeForm.Enabled, u"open"_s);
+        add(form.lbl_ProgressFinished.Visible, form.lbl_ProgressFinished.Caption);
+        add(Prog.Run.Run_In_Progress, u"in-progress"_s);
+        add(Prog.Run.Halt_Requested, u"halt-requested"_s);
+        return words.join(u' ');
+    }
+};
+
+TEST(Run_Driver, OnlyAPlainLeftReleaseOnTheButtonStartsARun)
+{
+    const struct
+    {
+        Mouse_Release Release;
+        bool Focus_Parked;
+    } cases[] = {
+        {{.X = -1, .Y = 5, .Width = 10, .Height = 10}, true},
+        {{.X = 5, .Y = -1, .Width = 10, .Height = 10}, true},
+        {{.X = 11, .Y = 5, .Width = 10, .Height = 10}, true},
+        {{.X = 5, .Y = 11, .Width = 10, .Height = 10}, true},
+        {{.Button = Mouse_Button::Right, .X = 11, .Y = 5, .Width = 10, .Height = 10}, true},
+        {{.Modifiers = {.Shift = true}, .X = -1, .Y = 5, .Width = 10, .Height = 10}, true},
+        {{.Button = Mouse_Button::Right, .X = 5, .Y = 5, .Width = 10, .Height = 10}, false},
+        {{.Button = Mouse_Button::Middle, .X = 5, .Y = 5, .Width = 10, .Height = 10}, false},
+        {{.Modifiers = {.Shift = true}, .X = 5, .Y = 5, .Width = 10, .Height = 10}, false},
+        {{.Modifiers = {.Control = true}, .X = 5, .Y = 5, .Width = 10, .Height = 10}, false},
+        {{.Modifiers = {.Alt = true}, .X = 5, .Y = 5, .Width = 10, .Height = 10}, false},
+    };
+
+    for (const auto& [release, parked] : cases) {
+        Driver_Test test;
+        const QString before = test.State();
+        EXPECT_EQ(btn_RunVantorra_MouseUp(test.Prog, release), Press_Result::Ignored);
+        EXPECT_EQ(test.Prog.Form.Focus, parked ? u"btn_NOP"_s : QString());
+        EXPECT_EQ(test.State(), before);
+        EXPECT_TRUE(test.Log().isEmpty());
+        EXPECT_EQ(test.Person.Pumps, 0);
+    }
+
+    for (const auto& [x, y] : {std::pair(0, 0), std::pair(10, 10)}) {
+        Driver_Test test;
+        EXPECT_EQ(btn_RunVantorra_MouseUp(test.Prog, {.X = x, .Y = y, .Width = 10, .Height = 10}),
+                  Press_Result::Finished)
+            << "the edge is the button's";
+    }
+}
+
+TEST(Run_Driver, MissingFoldersAndVideosAreRefusedWithOneLineInTheLog)
+{
+    const struct
+    {
+        QString Videos;
+        QString Target;
+        QString Line;
+    } cases[] = {
+        {u"none/"_s, u"none/"_s, u"        -- The Video path and the Target path do not exist!"_s},
+        {QString(), u"target/"_s, u"        -- The Video path does not exist!"_s},
+        {u"videos/"_s, u"none/"_s, u"        -- The Target path does not exist!"_s},
+        {u"target/"_s, u"app/"_s, u"        -- NO VIDEO FILES FOUND!"_s},
+    };
+
+    for (const auto& [videos, target, line] : cases) {
+        Driver_Test test;
+        test.Write(u"target/readme.txt"_s);
+        test.Write(u"app/Vantorra_Interim.log"_s);
+        test.Prog.Options.Path_Videos = videos.isEmpty() ? videos : test.Path(videos);
+        test.Prog.Options.Path_Target = test.Path(target);
+        test.Prog.Logs.Log_Results.AppendLine(u"told at start-up"_s);
+        const QString before = test.State();
+
+        EXPECT_EQ(test.Press(), Press_Result::Refused);
+        EXPECT_EQ(test.State(), before);
+        EXPECT_TRUE(test.Log().contains(u"told at start-up\r\n"_s + line + u"\r\n"_s)) << test.Log().toStdString();
+        EXPECT_EQ(test.Log().count(u"This entry generated on"_s), 1);
+        EXPECT_TRUE(test.Results().isEmpty());
+        EXPECT_TRUE(QFile::exists(test.Path(u"app/Vantorra_Interim.log"_s)));
+        EXPECT_EQ(test.Prog.Form.lbl_VideoPathFault.Caption == u"NO VIDEO FILES FOUND!"_s,
+                  line.contains(u"NO VIDEO"_s));
+    }
+}
+
+TEST(Run_Driver, AMissingFfprobeIsReport20AndNoLogEntry)
+{
+    const Empty_Path nothing_installed;
+    Driver_Test test;
+    QFile::remove(test.Path(u"app/ffprobe"_s));
+    EXPECT_EQ(test.Press(), Press_Result::Refused);
+    ASSERT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_EQ(test.Person.Messages.front().Code, 20);
+    EXPECT_TRUE(test.Log().isEmpty());
+}
+
+TEST(Run_Driver, AMissingMkvmergeIsReplacedByTheLocalCopyOrEndsThePress)
+{
+    const Empty_Path nothing_installed;
+    for (const bool has_local : {true, false}) {
+        Driver_Test test;
+        const QString local = test.Prog.Tools.System_MKVMerge_Path;
+        test.Prog.Tools.System_MKVMerge_Path = test.Path(u"gone/mkvmerge"_s);
+        test.Prog.Tools.Local_MKVMerge_Path = has_local ? local : QString();
+        EXPECT_EQ(test.Press(), has_local ? Press_Result::Finished : Press_Result::Refused);
+        ASSERT_EQ(test.Person.Messages.size(), 1U);
+        EXPECT_EQ(test.Person.Messages.front().Code, 52);
+        EXPECT_EQ(test.Log().isEmpty(), !has_local);
+        if (has_local) {
+            EXPECT_EQ(test.Prog.Tools.System_MKVMerge_Path, local);
+        }
+    }
+}
+
+TEST(Run_Driver, NoMkvmergeAtAllFailsAtItsFirstChildAndStillCountsAsFinished)
+{
+    Driver_Test test;
+    test.Prog.Tools.System_MKVMerge_Path.clear();
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    ASSERT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_EQ(test.Person.Messages.front().Code, 9);
+    EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Caption, u"FINISHED"_s);
+    EXPECT_FALSE(test.Prog.Form.lbl_ProgressFinished.Visible) << "the run never showed a percentage";
+}
+
+TEST(Run_Driver, TheFormChangesInItsOrder)
+{
+    Driver_Test test;
+    QStringList states;
+    test.Person.On_Pump = [&] {
+        if (const QString state = test.State(); states.isEmpty() || states.constLast() != state)
+            states += state;
+    };
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    states += test.State();
+    EXPECT_EQ(states, (QStringList{u"quit run info open"_s, u"+HALT"_s, u"+HALT in-progress"_s,
+                                   u"+HALT 10% in-progress"_s, u"+HALT FINISHED"_s, u"quit run info open FINISHED"_s}));
+    EXPECT_EQ(test.Prog.Form.Progress, Progress_Look::Finished);
+    EXPECT_TRUE(test.Prog.Form.btn_Halt.Enabled);
+}
+
+TEST(Run_Driver, AHaltByTheButtonEndsTheRunAndIsWrittenDown)
+{
+    Driver_Test test;
+    test.Mkvmerge("echo 'Progress: 10%'; exec sleep 1000");
+    test.Person.On_Pump = [&] {
+        if (test.Prog.Form.lbl_ProgressFinished.Visible && test.Prog.Run.Run_In_Progress)
+            btn_Halt_MouseUp(test.Prog);
+        if (test.Prog.Run.Halt_Requested && test.Prog.Run.Run_In_Progress) {
+            EXPECT_TRUE(test.State().startsWith(u"-HALTING"_s)) << test.State().toStdString();
+        }
+    };
+    EXPECT_EQ(test.Press(), Press_Result::Interrupted);
+    EXPECT_EQ(test.State(), u"quit run info open INTERRUPTED"_s);
+    EXPECT_EQ(test.Prog.Form.Progress, Progress_Look::Interrupted);
+    EXPECT_EQ(test.Prog.Form.btn_Halt.Caption, u"HALT"_s);
+    EXPECT_TRUE(test.Log().contains(u"        *** Process halted before finishing!\r\n"_s));
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST(Run_Driver, AHaltOfAnEarlierMomentDoesNotReachTheRun)
+{
+    Driver_Test test;
+    btn_Halt_MouseUp(test.Prog);
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+}
+
+TEST(Run_Driver, TheHaltKeyWorksOnceAndOnlyWhileARunGoesOn)
+{
+    Test_Program test;
+    Halt_Key(test.Prog);
+    EXPECT_FALSE(test.Prog.Run.Halt_Requested);
+    EXPECT_EQ(test.Prog.Form.btn_Halt.Caption, u"HALT"_s);
+
+    test.Prog.Run.Run_In_Progress = true;
+    Halt_Key(test.Prog);
+    EXPECT_TRUE(test.Prog.Run.Halt_Requested);
+    EXPECT_EQ(test.Prog.Form.btn_Halt.Caption, u"HALTING"_s);
+    EXPECT_TRUE(test.Prog.Form.btn_Halt.Enabled) << "unlike the button, the key leaves it enabled";
+
+    test.Prog.Form.btn_Halt.Caption = u"unchanged"_s;
+    Halt_Key(test.Prog);
+    EXPECT_EQ(test.Prog.Form.btn_Halt.Caption, u"unchanged"_s);
+}
+
+TEST(Run_Driver, ThreeOptionsAreSampledAtThePress)
+{
+    const struct
+    {
+        Check_Box Box;
+        bool Sampled;
+    } cases[] = {
+        {{.Value = 1, .Enabled = true, .Caption = {}, .Tag = {}}, true},
+        {{.Value = 1, .Enabled = false, .Caption = {}, .Tag = {}}, false},
+        {{.Value = 0, .Enabled = true, .Caption = {}, .Tag = {}}, false},
+        {{.Value = 2, .Enabled = true, .Caption = {}, .Tag = {}}, false},
+    };
+
+    for (const auto& [box, sampled] : cases) {
+        Driver_Test test;
+        test.Prog.Options.chk_StripOrigAudioTitle = box;
+        test.Prog.Options.chk_StripOrigSubsTitle = box;
+        test.Prog.Options.chk_AddAttachments = box;
+        test.Person.On_Pump = [&] {
+            // Changed while the run goes on: too late.
+            if (test.Prog.Run.Run_In_Progress)
+                test.Prog.Options.chk_StripOrigAudioTitle.Value = 0;
+        };
+        test.Press();
+        EXPECT_EQ(test.Prog.Run.Strip_Audio_Titles, sampled);
+        EXPECT_EQ(test.Prog.Run.Strip_Subtitle_Titles, sampled);
+        EXPECT_EQ(test.Prog.Run.Add_Attachments_On, sampled);
+    }
+}
+
+TEST(Run_Driver, TheSplitBoxChoosesTheSplitRun)
+{
+    for (const int value : {0, 1, 2}) {
+        Driver_Test test;
+        test.Prog.Options.chk_SplitVideos.Value = value;
+        test.Prog.Options.Split_Minutes = u"30"_s;
+        EXPECT_EQ(test.Press(), Press_Result::Finished);
+        EXPECT_EQ(test.Read(u"arguments"_s).contains("--split duration:1800s"), value == 1);
+    }
+}
+
+TEST(Run_Driver, ALeftOverInterimLogGoesToTheTrashAndOldWordsAreForgotten)
+{
+    Driver_Test test;
+    test.Write(u"app/Vantorra_Interim.log"_s, "old");
+    test.Prog.Logs.Log_Results.AppendLine(u"told at start-up"_s);
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    EXPECT_FALSE(QFile::exists(test.Path(u"app/Vantorra_Interim.log"_s)));
+    EXPECT_TRUE(Names_In_Trash().contains(u"Vantorra_Interim.log"_s));
+    EXPECT_FALSE(test.Log().contains(u"told at start-up"_s));
+}
+
+TEST(Run_Driver, ADryRunTrashesNoInterimLogAndWritesNone)
+{
+    Driver_Test test;
+    test.Prog.Run.Dry_Run = true;
+    test.Write(u"app/Vantorra_Interim.log"_s, "old");
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    EXPECT_TRUE(QFile::exists(test.Path(u"app/Vantorra_Interim.log"_s)));
+    EXPECT_TRUE(test.Log().isEmpty());
+    EXPECT_TRUE(test.Read(u"arguments"_s).isEmpty());
+}
