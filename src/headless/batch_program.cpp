@@ -6,6 +6,7 @@
 #include "headless/box_clicks.h"
 #include "headless/exit_status.h"
 #include "headless/headless_operator.h"
+#include "inspect/tool_discovery.h"
 #include "logs/last_entry.h"
 #include "program.h"
 #include "run/run_driver.h"
@@ -59,8 +60,7 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
     program.Settings.App_Folder = With_Separator(options.App_Folder.isEmpty() ? home : options.App_Folder);
     QDir().mkpath(program.Settings.App_Folder);
     program.Settings.Version_Banner = QStringLiteral("Vantorra ver " VANTORRA_VERSION);
-    program.Tools.FFProbe_Path = QStandardPaths::findExecutable(u"ffprobe"_s);
-    program.Tools.System_MKVMerge_Path = QStandardPaths::findExecutable(u"mkvmerge"_s);
+    Discover_Tools(program);
     Apply_Options(program, options);
     return Run_The_Batch(program, report);
 }

@@ -1,9 +1,11 @@
 #include "run/run_driver.h"
 
+#include "inspect/tool_discovery.h"
 #include "inspect/video_names.h"
 #include "logs/form_lock.h"
 #include "logs/process_log.h"
 #include "program.h"
+#include "run/split_run.h"
 #include "run/video_batch.h"
 #include "settings/folders.h"
 #include "settings/option_rules.h"
@@ -18,6 +20,8 @@ static bool Ensure_MKVMerge(Program& program)
 {
     Tool_Paths& tools = program.Tools;
     if (tools.System_MKVMerge_Path.isEmpty() || File_Exists(tools.System_MKVMerge_Path))
+        return true;
+    if (Find_MKVMerge_In_Registry(program, tools.System_MKVMerge_Path))
         return true;
     if (tools.Local_MKVMerge_Path.isEmpty())
         return false;
@@ -91,6 +95,9 @@ static void Show_Idle(Program& program)
     program.Run.Halt_Requested = false;
     form.btn_Halt.Enabled = true;
     form.btn_ViewVidInfo.Enabled = true;
+    // The tool that identifies may have changed with the run: mkvmerge was looked for, or taken from elsewhere.
+    if (program.Settings.Extensions.Identify_With_Any_Mkvmerge)
+        Enable_Video_Info_Button(program);
 }
 
 static void Run_Mode(Program& program)
@@ -108,7 +115,10 @@ static void Run_Mode(Program& program)
     program.Logs.Log_Console.Clear();
 
     // Deliberate: a run that ended through a failure report still counts as finished.
-    Process_Video_Files(program);
+    if (program.Options.chk_SplitVideos.Value == 1)
+        Split_Video_Files(program);
+    else
+        Process_Video_Files(program);
 }
 
 Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release)
@@ -120,7 +130,7 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     if (release.Button != Mouse_Button::Left || !release.Modifiers.None())
         return Press_Result::Ignored;
 
-    if (!Ensure_MKVMerge(program) || !Find_Work(program))
+    if (!Find_FFProbe(program) || !Ensure_MKVMerge(program) || !Find_Work(program))
         return Press_Result::Refused;
 
     Sample_Options(program);

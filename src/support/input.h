@@ -39,7 +39,7 @@ struct Key_Press
 struct Mouse_Release
 {
     Mouse_Button Button = Mouse_Button::Left;
-    Key_Modifiers Modifiers;
+    Key_Modifiers Modifiers = {};
     int X = 0;
     int Y = 0;
     int Width = 0;

@@ -28,7 +28,7 @@ struct Driver_Test : Test_Program
     {
         Write_Stand_In(*this, u"app/ffprobe"_s,
                        "case \"$*\" in\n"
-                       "*show_format*) echo 'format|filename=v.avi|duration=60.5';;\n"
+                       "*show_format*) echo 'format|filename=v.avi|duration=60.5|size=1';;\n"
                        "*show_streams*) echo 'stream|index=0|codec_type=video|width=320|height=180';;\n"
                        "*) echo 'ffprobe version 5.1 Copyright (c) 2007-2022 the FFmpeg developers';;\n"
                        "esac");
