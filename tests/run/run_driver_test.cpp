@@ -41,7 +41,7 @@ struct Driver_Test : Test_Program
     {
         Prog.Tools.System_MKVMerge_Path =
             Write_Stand_In(*this, u"tools/mkvmerge"_s,
-                           "echo \"$@\" > '" + Path(u"arguments"_s).toUtf8() + "'\necho mkvmerge stand-in\n" + body);
+                           "echo \"$@\" > '" + Path(u"arguments"_s).toUtf8() + "'\n" + body);
     }
 
     Press_Result Press() { return btn_RunVantorra_MouseUp(Prog, {.X = 5, .Y = 5, .Width = 10, .Height = 10}); }
