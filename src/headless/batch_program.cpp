@@ -6,40 +6,42 @@
 #include "headless/box_clicks.h"
 #include "headless/exit_status.h"
 #include "headless/headless_operator.h"
-#include "inspect/tool_discovery.h"
+#include "headless/settings_command.h"
 #include "logs/last_entry.h"
 #include "program.h"
 #include "run/run_driver.h"
-#include "support/paths.h"
+#include "settings/app_folder.h"
+#include "settings/start_up.h"
 #include "support/run_time_error.h"
-
-#include <QDir>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
-static void Print_Line(std::FILE* stream, const QString& text)
+static void Print_Text(std::FILE* stream, const QString& text)
 {
-    std::fputs(text.toUtf8().constData(), stream);
-    if (!text.endsWith(u'\n'))
-        std::fputc('\n', stream);
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fflush(stream);
 }
 
-/// What the command line changes on a program that has read its settings.
-static void Apply_Options(Program& program, const Batch_Options& options)
+/// The program as the window would have it once it is ready, and then what the command line changes.
+static void Set_Up(Program& program, const Batch_Options& options, Batch_Report& report)
 {
+    Check_Box_Names(options.Clicks);
+    Take_Assignments(program, options.Settings, report);
+    program.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process(options.App_Folder));
+    // No lock: several batches may share a folder, each holding it only while it writes the log.
+    Start_Up(program, nullptr);
+    First_Activation(program);
     if (!options.Videos.isEmpty())
         program.Options.Path_Videos = options.Videos;
     if (!options.Target.isEmpty())
         program.Options.Path_Target = options.Target;
-    program.Form.Options_Ready = true;
     Click_Boxes(program, options.Clicks);
 }
 
 static int Run_The_Batch(Program& program, Batch_Report& report)
 {
-    const Press_Result result = btn_RunVantorra_MouseUp(program, {});
-    switch (result) {
+    switch (btn_RunVantorra_MouseUp(program, {})) {
     case Press_Result::Interrupted:
         report.Ended(Batch_End::Interrupted, Exit_Halted);
         return Exit_Halted;
@@ -54,15 +56,17 @@ static int Run_The_Batch(Program& program, Batch_Report& report)
     }
 }
 
-static int Run_Command(Program& program, const Batch_Options& options, Batch_Report& report)
+static int Run_Command(Program& program, const Batch_Options& options, Batch_Report& report, std::FILE* out)
 {
-    const QString home = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/vantorra"_s;
-    program.Settings.App_Folder = With_Separator(options.App_Folder.isEmpty() ? home : options.App_Folder);
-    QDir().mkpath(program.Settings.App_Folder);
-    program.Settings.Version_Banner = QStringLiteral("Vantorra ver " VANTORRA_VERSION);
-    Discover_Tools(program);
-    Apply_Options(program, options);
-    return Run_The_Batch(program, report);
+    Set_Up(program, options, report);
+    switch (options.Command) {
+    case Batch_Command::Run:
+        return Run_The_Batch(program, report);
+    case Batch_Command::Settings:
+        Print_Settings(program, options.Json, out);
+        return Exit_Finished;
+    }
+    return Exit_Finished;
 }
 
 int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* err,
@@ -71,7 +75,8 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
     const Batch_Line line = Parse_Batch_Line(arguments);
     if (!line.Options) {
         const bool wrong = line.Text.isEmpty();
-        Print_Line(wrong ? err : out, wrong ? u"vantorra-batch: %1 (--help lists all)"_s.arg(line.Mistake) : line.Text);
+        Print_Text(wrong ? err : out,
+                   wrong ? u"vantorra-batch: %1 (--help lists all)\n"_s.arg(line.Mistake) : line.Text);
         return wrong ? Exit_Bad_Usage : Exit_Finished;
     }
 
@@ -83,12 +88,12 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
     program.Listener = report.get();
     program.Run.Kill_By_Name = false;
     program.Run.Dry_Run = line.Options->Dry_Run;
+
     // The one place where run-time errors end.
     try {
-        Check_Box_Names(line.Options->Clicks);
-        return Run_Command(program, *line.Options, *report);
+        return Run_Command(program, *line.Options, *report, out);
     } catch (const Bad_Usage& mistake) {
-        Print_Line(err, u"vantorra-batch: "_s + mistake.Text);
+        Print_Text(err, u"vantorra-batch: "_s + mistake.Text + u'\n');
         return Exit_Bad_Usage;
     } catch (const Run_Time_Error& error) {
         report->Show_Error(error);
