@@ -1,0 +1,405 @@
+#include "common/media.h"
+#include "common/stand_in_tool.h"
+#include "end_to_end/batch_process.h"
+
+#include "support/files.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+/// The command line that a --dry-run gives for the only video of the folder.
+static QStringList Command_Of(Batch_Process& batch, const QStringList& more)
+{
+    const Batch_Result result = batch.Run(QStringList{u"--dry-run"_s, u"--json"_s} + more);
+    EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
+    const QList<QJsonObject> commands = result.Events(u"command"_s);
+    EXPECT_EQ(commands.size(), 1);
+    QStringList arguments;
+    if (!commands.isEmpty())
+        for (const QJsonValue& argument : commands.front()[u"arguments"_s].toArray())
+            arguments += argument.toString();
+    return arguments;
+}
+
+TEST(Vantorra_Batch, AFolderOfVideosBecomesAFolderOfMatroskaFiles)
+{
+    Batch_Process batch;
+    const QStringList extensions{u"mkv"_s, u"mp4"_s, u"avi"_s, u"ts"_s, u"webm"_s, u"mov"_s};
+    for (const QString& extension : extensions)
+        Place(batch, Short_Video(extension), u"videos/from %1.%1"_s.arg(extension));
+    batch.Write(u"videos/readme.txt"_s, "no video");
+
+    const Batch_Result result = batch.Run({u"--json"_s, u"--set"_s, u"Menu/Log Verbosity=1"_s});
+    EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
+    for (const QString& extension : extensions)
+        EXPECT_EQ(Tracks_Of(batch.Path(u"target/from %1.mkv"_s.arg(extension))).size(), 2) << extension.toStdString();
+
+    const QList<QJsonObject> events = result.Events();
+    ASSERT_GE(events.size(), 2);
+    EXPECT_EQ(events.front()[u"event"_s].toString(), u"run"_s);
+    EXPECT_EQ(events.front()[u"files"_s].toInt(), 6);
+    EXPECT_EQ(events.back()[u"status"_s].toString(), u"finished"_s);
+    EXPECT_EQ(events.back()[u"done"_s].toInt(), 6);
+    EXPECT_EQ(result.Values(u"file"_s, u"index"_s), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s}));
+    EXPECT_EQ(result.Values(u"result"_s, u"status"_s), QStringList(6, u"done"_s));
+    EXPECT_EQ(result.Values(u"file"_s, u"source"_s), result.Values(u"result"_s, u"source"_s));
+    for (const QJsonObject& command : result.Events(u"command"_s)) {
+        EXPECT_TRUE(command[u"text"_s].toString().startsWith(u" --ui-language "_s));
+        EXPECT_EQ(command[u"arguments"_s][3].toString(), command[u"output"_s].toString());
+    }
+    for (const QString& overall : result.Values(u"progress"_s, u"overall"_s))
+        EXPECT_LE(overall.toInt(), 100);
+
+    EXPECT_EQ(batch.Read(u"app/Vantorra_Process.log"_s).count("-- Processing video file - "), 6);
+    EXPECT_TRUE(batch.Names_In(u"app"_s).contains(u"Vantorra.ini"_s));
+}
+
+TEST(Vantorra_Batch, ADryRunWritesNothingAtAll)
+{
+    Batch_Process batch;
+    QDir(batch.Path(u"app"_s)).removeRecursively();
+    Place(batch, Rich_Video(), u"videos/film.mkv"_s);
+    batch.Write(u"videos/film_Chapters.txt"_s, "00:00:00.00 One\r\n00:00:01.00 Two\r\n");
+    const QStringList before = batch.Tree();
+
+    const Batch_Result result =
+        batch.Run({u"--dry-run"_s, u"--tick"_s, u"chk_DeleteVideoAP"_s, u"--tick"_s, u"chk_ReplaceChapters"_s,
+                   u"--tick"_s, u"chk_ConvertTXT"_s, u"--set"_s, u"Menu/Delete Source Video Sundry Files=True"_s});
+    EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
+    EXPECT_EQ(batch.Tree(), before);
+    EXPECT_EQ(result.Out.count(u'\n'), 1);
+    EXPECT_TRUE(result.Out.contains(u"/mkvmerge --ui-language en_US --output "_s)) << result.Out.toStdString();
+    EXPECT_TRUE(result.Out.contains(u"film_Chapters.xml"_s)) << "a chapter file still to be made is named";
+
+    // A refusal, the settings and a run-time error leave nothing, either.
+    batch.Start_With({u"settings"_s, u"--dry-run"_s, u"--app-folder"_s, batch.Path(u"app"_s)});
+    EXPECT_EQ(batch.Finish().Exit, 0);
+    EXPECT_EQ(batch.Run({u"--dry-run"_s, u"--target"_s, batch.Path(u"gone"_s)}).Exit, 1);
+    EXPECT_EQ(batch.Run({u"--dry-run"_s, u"--set"_s, u"MainWindow/Left=far"_s}).Exit, 70);
+    EXPECT_EQ(batch.Tree(), before);
+}
+
+TEST(Vantorra_Batch, WhatADryRunPrintsIsWhatAShellCanRun)
+{
+    Batch_Process batch;
+    Place(batch, Short_Video(), u"videos/it's \"$HOME\" `now`.mkv"_s);
+    const Batch_Result result = batch.Run({u"--dry-run"_s});
+    ASSERT_EQ(result.Exit, 0) << result.Err.toStdString();
+    QProcess shell;
+    shell.start(u"/bin/sh"_s, {u"-c"_s, result.Out});
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(shell.exitCode(), 0) << shell.readAllStandardOutput().constData();
+    EXPECT_EQ(batch.Names_In(u"target"_s), QStringList{u"it's \"$HOME\" `now`.mkv"_s});
+}
+
+TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
+{
+    const struct
+    {
+        const char* Case;
+        QStringList Files; ///< written as text; names ending in "!" are real videos, without the "!"
+        QStringList More;
+        int Exit;
+        QString Told; ///< on standard error
+    } cases[] = {
+        {"all fine", {u"a.mkv!"_s, u"readme.txt"_s}, {}, 0, {}},
+        {"a file fails", {u"a.mkv!"_s, u"b.avi"_s}, {}, 2, u"b.avi"_s},
+        {"no video", {u"readme.txt"_s}, {}, 1, u"NO VIDEO FILES FOUND!"_s},
+        {"no target", {u"a.mkv!"_s}, {u"--target"_s, u"/nonexistent"_s}, 1, u"The Target path does not exist!"_s},
+        {"no videos", {}, {u"--videos"_s, u"/nonexistent"_s}, 1, u"The Video path does not exist!"_s},
+        {"no extension", {u"a.mkv!"_s, u"name."_s}, {}, 0, u"#70"_s},
+        {"unknown option", {u"a.mkv!"_s}, {u"--vidoes"_s}, 64, u"vidoes"_s},
+        {"unknown box", {u"a.mkv!"_s}, {u"--tick"_s, u"chk_Nothing"_s}, 64, u"chk_Nothing"_s},
+        {"disabled box", {u"a.mkv!"_s}, {u"--tick"_s, u"chk_CustomAudioFilter"_s}, 64, u"chk_CustomAudioFilter"_s},
+        {"unknown key", {u"a.mkv!"_s}, {u"--set"_s, u"Audio/Nothing=On"_s}, 64, u"Audio/Nothing"_s},
+        {"no assignment", {u"a.mkv!"_s}, {u"--set"_s, u"Audio"_s}, 64, u"Section/Key=Value"_s},
+        {"bad number", {u"a.mkv!"_s}, {u"--set"_s, u"MainWindow/Left=far"_s}, 70, u"\"Left\""_s},
+    };
+
+    for (const auto& [name, files, more, exit, told] : cases) {
+        SCOPED_TRACE(name);
+        Batch_Process batch;
+        for (QString file : files)
+            if (file.endsWith(u'!')) {
+                file.chop(1);
+                Place(batch, Short_Video(), u"videos/"_s + file);
+            } else {
+                batch.Write(u"videos/"_s + file, "text");
+            }
+        const Batch_Result result = batch.Run(more);
+        EXPECT_EQ(result.Exit, exit) << result.Err.toStdString();
+        EXPECT_TRUE(result.Err.contains(told)) << result.Err.toStdString();
+        EXPECT_EQ(result.Err.isEmpty(), told.isEmpty()) << result.Err.toStdString();
+        EXPECT_EQ(batch.Names_In(u"target"_s).contains(u"a.mkv"_s), exit == 0 || exit == 2);
+    }
+}
+
+TEST(Vantorra_Batch, ARunTimeErrorNamesItsFile)
+{
+    Batch_Process batch;
+    const QString raw = Place(
+        batch,
+        Media_File(u"raw.h264"_s, {u"-i"_s, Short_Video(), u"-an"_s, u"-c:v"_s, u"libx264"_s, u"-f"_s, u"h264"_s}),
+        u"videos/raw.h264"_s);
+    const Batch_Result result = batch.Run({u"--json"_s});
+    EXPECT_EQ(result.Exit, 70);
+    EXPECT_TRUE(result.Err.contains(u"Run-time error '13': Type mismatch"_s)) << result.Err.toStdString();
+    EXPECT_TRUE(result.Err.contains(raw)) << result.Err.toStdString();
+    const QList<QJsonObject> finished = result.Events(u"finished"_s);
+    ASSERT_EQ(finished.size(), 1);
+    EXPECT_EQ(finished[0][u"status"_s].toString(), u"error"_s);
+    EXPECT_EQ(finished[0][u"exit"_s].toInt(), 70);
+}
+
+TEST(Vantorra_Batch, AssignmentsAndClicksHoldForTheRunAndAreNeverSaved)
+{
+    Batch_Process batch;
+    Place(batch, Rich_Video(), u"videos/film.mkv"_s);
+    EXPECT_EQ(batch.Run().Exit, 0);
+    const QByteArray saved = batch.Read(u"app/Vantorra.ini"_s);
+    ASSERT_FALSE(saved.isEmpty());
+
+    const struct
+    {
+        QStringList More;
+        QString Argument;
+        bool Expected;
+    } cases[] = {
+        {{}, u"--no-audio"_s, false},
+        {{u"--tick"_s, u"chk_StripOrigAudio"_s}, u"--no-audio"_s, true},
+        {{u"--set"_s, u"audio/strip existing audio=on"_s}, u"--no-audio"_s, true},
+        {{u"--set"_s, u"Audio/Strip Existing Audio=On"_s, u"--untick"_s, u"chk_StripOrigAudio"_s},
+         u"--no-audio"_s,
+         false},
+        {{u"--tick"_s, u"chk_StripChaps"_s, u"--tick"_s, u"chk_StripChaps"_s}, u"--no-chapters"_s, true},
+        {{u"--tick"_s, u"chk_StripOrigAudio"_s, u"--untick"_s, u"chk_StripOrigAudio"_s, u"--tick"_s,
+          u"chk_EngAudioOnly"_s},
+         u"--audio-tracks"_s,
+         true},
+        {{u"--set"_s, u"Other Options/Set Custom File Title=On"_s, u"--set"_s,
+          u"Other Options/Set Custom File Title Text=a = b"_s},
+         u"a = b"_s,
+         true},
+        {{u"--tick"_s, u"chk_SplitVideos"_s, u"--set"_s, u"Other Options/Split multiple video files (minutes)=10"_s},
+         u"duration:600s"_s,
+         true},
+    };
+
+    for (const auto& [more, argument, expected] : cases)
+        EXPECT_EQ(Command_Of(batch, more).contains(argument), expected) << more.join(u' ').toStdString();
+
+    EXPECT_EQ(batch.Run({u"--tick"_s, u"chk_StripOrigAudio"_s, u"--set"_s, u"Menu/Append Logs=True"_s}).Exit, 0);
+    EXPECT_EQ(Tracks_Of(batch.Path(u"target/film.mkv"_s)).filter(u"audio"_s), QStringList());
+    EXPECT_EQ(batch.Read(u"app/Vantorra.ini"_s), saved);
+}
+
+TEST(Vantorra_Batch, AKeyThatIsNeverReadIsToldAndHarmless)
+{
+    Batch_Process batch;
+    Place(batch, Short_Video(), u"videos/a.mkv"_s);
+    const Batch_Result result = batch.Run({u"--set"_s, u"Paths/Last Videos Path=/elsewhere"_s, u"--quiet"_s});
+    EXPECT_EQ(result.Exit, 0);
+    EXPECT_TRUE(result.Err.contains(u"changes nothing"_s)) << result.Err.toStdString();
+    EXPECT_TRUE(result.Out.isEmpty());
+}
+
+TEST(Vantorra_Batch, SettingsListsEveryKeyWithItsValueInForce)
+{
+    Batch_Process batch;
+    const QStringList folder{u"settings"_s, u"--app-folder"_s, batch.Path(u"app"_s)};
+    batch.Start_With(folder + QStringList{u"--json"_s, u"--set"_s, u"Menu/Log Verbosity=5"_s});
+    const Batch_Result json = batch.Finish();
+    EXPECT_EQ(json.Exit, 0);
+    EXPECT_GE(json.Events(u"setting"_s).size(), 114);
+    bool seen = false;
+    for (const QJsonObject& row : json.Events(u"setting"_s))
+        if (row[u"key"_s] == u"Log Verbosity"_s) {
+            seen = true;
+            EXPECT_EQ(row[u"section"_s].toString(), u"Menu"_s);
+            EXPECT_EQ(row[u"value"_s].toString(), u"5"_s);
+        }
+    EXPECT_TRUE(seen);
+
+    batch.Start_With(folder);
+    const Batch_Result table = batch.Finish();
+    EXPECT_EQ(table.Out.count(u'\n'), json.Events(u"setting"_s).size() + 1);
+    EXPECT_TRUE(table.Out.contains(u"\nAudio/Strip Existing Audio "_s));
+}
+
+TEST(Vantorra_Batch, AnyLocaleAndAnyNameWillDo)
+{
+    const QStringList accented{u"Café"_s};
+    const QStringList hostile{u"Été"_s,   u" two  blanks "_s, u"it's \"quoted\""_s, u"$(id) %s"_s,
+                              u"-dash"_s, u"line\nbreak"_s,   QString(251, u'x')};
+    for (const auto& [locale, names] :
+         {std::pair(u"C"_s, hostile), std::pair(QString(), accented), std::pair(u"de_DE.ISO-8859-1"_s, accented)}) {
+        SCOPED_TRACE(locale.toStdString());
+        Batch_Process batch;
+        for (const QString& variable : {u"LC_ALL"_s, u"LANG"_s, u"LC_CTYPE"_s})
+            batch.Set_Environment(variable, locale);
+        for (const QString& name : names)
+            Place(batch, Short_Video(), u"videos/"_s + name + u".mkv"_s);
+        const Batch_Result result = batch.Run({u"--json"_s});
+        EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
+        EXPECT_TRUE(result.Err.isEmpty()) << result.Err.toStdString();
+        for (const QString& name : names)
+            EXPECT_EQ(Tracks_Of(batch.Path(u"target/"_s + name + u".mkv"_s)).size(), 2) << name.toStdString();
+    }
+}
+
+TEST(Vantorra_Batch, ANameThatIsNoUnicodeFailsAloneAndIsNotPassedOver)
+{
+    Batch_Process batch;
+    Place(batch, Short_Video(), u"videos/good.mkv"_s);
+    const QByteArray bad = QFile::encodeName(batch.Path(u"videos/"_s)) + "bad\xff.mkv";
+    ASSERT_EQ(::rename(QFile::encodeName(Place(batch, Short_Video(), u"videos/x.mkv"_s)).constData(), bad.constData()),
+              0);
+    const Batch_Result result = batch.Run({u"--json"_s});
+    EXPECT_EQ(result.Exit, 2);
+    QStringList statuses = result.Values(u"result"_s, u"status"_s);
+    statuses.sort();
+    EXPECT_EQ(statuses, (QStringList{u"done"_s, u"failed"_s}));
+    EXPECT_EQ(Tracks_Of(batch.Path(u"target/good.mkv"_s)).size(), 2);
+    // Qt, which clears the folder away, doesn't see such a name.
+    ::unlink(bad.constData());
+}
+
+TEST(Vantorra_Batch, TheSecondWriterOfAFileIsWarnedOf)
+{
+    Batch_Process batch;
+    Place(batch, Short_Video(u"avi"_s), u"videos/a.avi"_s);
+    Place(batch, Short_Video(u"mp4"_s), u"videos/a.mp4"_s);
+    const Batch_Result result = batch.Run();
+    EXPECT_EQ(result.Exit, 0);
+    EXPECT_EQ(result.Err.count(u"warning: "_s), 1);
+    EXPECT_TRUE(result.Err.contains(u"a.avi"_s) && result.Err.contains(u"a.mp4"_s)) << result.Err.toStdString();
+}
+
+TEST(Vantorra_Batch, ASignalInTheMiddleOfALargeFileEndsTheRunAtOnce)
+{
+    const QString large =
+        Media_File(u"large.mkv"_s, {u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=duration=4:size=1280x720:rate=25"_s,
+                                    u"-c:v"_s, u"rawvideo"_s, u"-pix_fmt"_s, u"yuv420p"_s});
+    for (const int signal_number : {SIGINT, SIGTERM}) {
+        Batch_Process batch;
+        for (const QString& name : {u"a"_s, u"b"_s, u"c"_s})
+            Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(name));
+        // The file system decides on the order: the file that comes last becomes the large one.
+        const QString last = List_Files(batch.Path(u"videos/"_s)).constLast();
+        QFile source(large);
+        QFile file(batch.Path(u"videos/"_s + last));
+        ASSERT_TRUE(source.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
+        while (!source.atEnd())
+            file.write(source.read(1 << 22));
+        file.close();
+
+        batch.Start({u"--json"_s});
+        ASSERT_TRUE(batch.Read_Until("\"event\":\"command\",\"source\":\"" + batch.Path(u"videos/"_s + last).toUtf8()));
+        // Stopped, mkvmerge stays in the middle of the file for as long as this test takes.
+        QList<long> children;
+        for (QElapsedTimer clock = {}; children.isEmpty();) {
+            if (!clock.isValid())
+                clock.start();
+            ASSERT_LT(clock.elapsed(), 20'000);
+            children = Children_Of(batch.Process.processId());
+        }
+        ASSERT_EQ(children.size(), 1);
+        ASSERT_EQ(::kill(static_cast<pid_t>(children[0]), SIGSTOP), 0);
+
+        QElapsedTimer clock;
+        clock.start();
+        ASSERT_EQ(::kill(static_cast<pid_t>(batch.Process.processId()), signal_number), 0);
+        const Batch_Result result = batch.Finish();
+        EXPECT_LT(clock.elapsed(), 2000);
+        EXPECT_EQ(result.Exit, 130) << result.Err.toStdString();
+        EXPECT_FALSE(Is_Running(children[0]));
+        const QJsonObject finished = result.Events(u"finished"_s).constLast();
+        EXPECT_EQ(finished[u"status"_s].toString(), u"interrupted"_s);
+        EXPECT_EQ(finished[u"done"_s].toInt(), 2);
+        for (const QString& name : {u"a.mkv"_s, u"b.mkv"_s, u"c.mkv"_s})
+            if (name != last) {
+                EXPECT_EQ(Tracks_Of(batch.Path(u"target/"_s + name)).size(), 2) << name.toStdString();
+            }
+        EXPECT_TRUE(batch.Read(u"app/Vantorra_Process.log"_s).contains("*** Process halted before finishing!"));
+    }
+}
+
+TEST(Vantorra_Batch, ASignalBeforeTheFirstFileCountsToo)
+{
+    Batch_Process batch;
+    for (int i = 0; i < 5; ++i)
+        Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
+    // The first that the program runs is ffprobe's version test; it lasts until the signal is there.
+    Write_Stand_In(batch, u"app/ffprobe"_s,
+                   "kill -INT $PPID\nsleep 0.3\nexec '" + Tool_In_Path(u"ffprobe"_s).toUtf8() + "' \"$@\"\n");
+    const Batch_Result result = batch.Run({u"--json"_s});
+    EXPECT_EQ(result.Exit, 130) << result.Err.toStdString();
+    EXPECT_TRUE(batch.Names_In(u"target"_s).isEmpty());
+    EXPECT_EQ(result.Events(u"finished"_s).constLast()[u"status"_s].toString(), u"interrupted"_s);
+}
+
+TEST(Vantorra_Batch, AReaderThatGoesAwayHaltsTheRun)
+{
+    Batch_Process batch;
+    for (int i = 0; i < 20; ++i)
+        Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
+    QProcess shell;
+    shell.setProcessEnvironment(batch.Process.processEnvironment());
+    shell.start(u"/bin/bash"_s,
+                {u"-c"_s, u"\"$@\" | head -n 1; exit ${PIPESTATUS[0]}"_s, u"bash"_s,
+                 QStringLiteral(VANTORRA_BATCH_PROGRAM), u"--json"_s, u"--app-folder"_s, batch.Path(u"app"_s),
+                 u"--videos"_s, batch.Path(u"videos"_s), u"--target"_s, batch.Path(u"target"_s)});
+    ASSERT_TRUE(shell.waitForFinished(60'000));
+    EXPECT_EQ(shell.exitCode(), 130);
+    EXPECT_LT(batch.Names_In(u"target"_s).size(), 20);
+    EXPECT_TRUE(batch.Read(u"app/Vantorra_Process.log"_s).contains("*** Process halted before finishing!"));
+}
+
+TEST(Vantorra_Batch, ThreeHundredVideosLeaveNoZombieAndNoDescriptor)
+{
+    Batch_Process batch;
+    // Stand-ins: what is counted is what the program leaves behind, not what the tools do.
+    Write_Stand_In(batch, u"app/ffprobe"_s,
+                   "case \"$*\" in\n"
+                   "*show_streams*) echo 'stream|index=0|codec_type=video|width=64|height=48';;\n"
+                   "*) echo 'format|filename=v|duration=1.0|size=1';;\n"
+                   "esac\n");
+    const QString mkvmerge = Write_Stand_In(batch, u"tools/mkvmerge"_s, "echo 'mkvmerge v74.0.0 64-bit'\n");
+    for (int i = 0; i < 300; ++i)
+        batch.Write(u"videos/%1.mkv"_s.arg(i), "x");
+
+    batch.Start({u"--json"_s, u"--set"_s, u"Paths/System mkvmerge.exe Path="_s + mkvmerge});
+    ASSERT_TRUE(batch.Read_Until("\"event\":\"file\",\"index\":2,"));
+    const auto descriptors = [&batch] {
+        return QDir(u"/proc/%1/fd"_s.arg(batch.Process.processId())).entryList(QDir::AllEntries | QDir::System).size();
+    };
+    const qsizetype descriptors_at_first = descriptors();
+    ASSERT_TRUE(batch.Read_Until("\"event\":\"file\",\"index\":300,"));
+    EXPECT_LE(Children_Of(batch.Process.processId()).size(), 1);
+    EXPECT_LE(descriptors(), descriptors_at_first + 2);
+    const Batch_Result result = batch.Finish();
+    EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
+    EXPECT_EQ(result.Events(u"finished"_s).constLast()[u"done"_s].toInt(), 300);
+}
+
+TEST(Vantorra_Batch, TwoBatchesMayShareOneProgramFolder)
+{
+    Batch_Process one;
+    Batch_Process two;
+    for (const Batch_Process* batch : {&one, &two})
+        for (int i = 0; i < 3; ++i)
+            Place(*batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
+    const QStringList shared{u"--app-folder"_s, one.Path(u"app"_s), u"--set"_s, u"Menu/Append Logs=True"_s};
+    one.Start(shared);
+    two.Start(shared);
+    EXPECT_EQ(one.Finish().Exit, 0);
+    EXPECT_EQ(two.Finish().Exit, 0);
+    EXPECT_EQ(one.Read(u"app/Vantorra_Process.log"_s).count("This entry generated on - "), 2);
+}
