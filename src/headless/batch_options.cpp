@@ -24,6 +24,8 @@ static void Describe(QCommandLineParser& parser)
          "nothing."_s},
         {u"json"_s, u"Print one JSON object a line on standard output."_s},
         {u"quiet"_s, u"Print faults only."_s},
+        {u"full"_s, u"log: print all of the log."_s},
+        {u"codec-private"_s, u"identify: print the codec-private values, too."_s},
     });
     parser.addVersionOption();
     parser.addHelpOption();
@@ -39,7 +41,9 @@ static void Describe(QCommandLineParser& parser)
 static std::optional<Batch_Command> Take_Command(QStringList& positional)
 {
     static const QHash<QString, Batch_Command> commands{{u"run"_s, Batch_Command::Run},
-                                                        {u"settings"_s, Batch_Command::Settings}};
+                                                        {u"settings"_s, Batch_Command::Settings},
+                                                        {u"identify"_s, Batch_Command::Identify},
+                                                        {u"log"_s, Batch_Command::Log}};
     if (positional.isEmpty())
         return Batch_Command::Run;
     const auto found = commands.constFind(positional.takeFirst());
@@ -89,8 +93,21 @@ static QString Take_Options(const QCommandLineParser& parser, Batch_Options& opt
     options.Dry_Run = parser.isSet(u"dry-run"_s);
     options.Json = parser.isSet(u"json"_s);
     options.Quiet = parser.isSet(u"quiet"_s);
-    if (!positional.isEmpty())
+    options.Full = parser.isSet(u"full"_s);
+    options.Codec_Private = parser.isSet(u"codec-private"_s);
+
+    if (options.Command == Batch_Command::Identify) {
+        if (positional.isEmpty())
+            return u"identify wants at least one file."_s;
+        for (const QString& file : positional)
+            options.Files += QDir::current().absoluteFilePath(file);
+    } else if (!positional.isEmpty()) {
         return u"\"%1\" is one word too many."_s.arg(positional.constFirst());
+    }
+    if (options.Full && options.Command != Batch_Command::Log)
+        return u"--full belongs to the command log."_s;
+    if (options.Codec_Private && options.Command != Batch_Command::Identify)
+        return u"--codec-private belongs to the command identify."_s;
     return {};
 }
 

@@ -9,7 +9,9 @@
 enum class Batch_Command
 {
     Run,
-    Settings
+    Settings,
+    Identify,
+    Log
 };
 
 /// --tick and --untick: a click on a check box.
@@ -31,6 +33,9 @@ struct Batch_Options
     bool Dry_Run = false;
     bool Json = false;
     bool Quiet = false;
+    bool Full = false;          ///< log: all of it, not its first lines only
+    bool Codec_Private = false; ///< identify: with the codec-private values
+    QStringList Files = {};     ///< identify: absolute paths
 };
 
 /// What became of the command line: options, or a text to print (help, version), or a mistake.
@@ -41,6 +46,6 @@ struct Batch_Line
     QString Mistake; ///< for standard error; the program then ends with 64
 };
 
-/// Understands the command line; `arguments` begins with the program's name. Folders are made absolute against the
-/// current folder.
+/// Understands the command line; `arguments` begins with the program's name. Folders and files are made absolute
+/// against the current folder.
 Batch_Line Parse_Batch_Line(const QStringList& arguments);

@@ -6,6 +6,7 @@
 #include "headless/box_clicks.h"
 #include "headless/exit_status.h"
 #include "headless/headless_operator.h"
+#include "headless/print.h"
 #include "headless/settings_command.h"
 #include "logs/last_entry.h"
 #include "program.h"
@@ -15,13 +16,6 @@
 #include "support/run_time_error.h"
 
 using namespace Qt::StringLiterals;
-
-static void Print_Text(std::FILE* stream, const QString& text)
-{
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
-    std::fflush(stream);
-}
 
 /// The program as the window would have it once it is ready, and then what the command line changes.
 static void Set_Up(Program& program, const Batch_Options& options, Batch_Report& report)
@@ -65,8 +59,11 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
     case Batch_Command::Settings:
         Print_Settings(program, options.Json, out);
         return Exit_Finished;
+    case Batch_Command::Identify:
+    case Batch_Command::Log:
+        break;
     }
-    return Exit_Finished;
+    throw Bad_Usage{u"This build doesn't know that command."_s};
 }
 
 int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* err,

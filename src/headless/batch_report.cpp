@@ -3,19 +3,11 @@
 #include "headless/batch_options.h"
 #include "headless/json_report.h"
 #include "headless/plain_report.h"
+#include "headless/print.h"
 #include "program.h"
 #include "support/paths.h"
 
 using namespace Qt::StringLiterals;
-
-QString Printable(const QString& text)
-{
-    QString printable = text;
-    for (QChar& letter : printable)
-        if (letter.category() == QChar::Other_Control)
-            letter = u' ';
-    return printable;
-}
 
 std::unique_ptr<Batch_Report> Batch_Report::Make(const Batch_Options& options, std::FILE* out, std::FILE* err)
 {
@@ -24,18 +16,9 @@ std::unique_ptr<Batch_Report> Batch_Report::Make(const Batch_Options& options, s
     return std::make_unique<Plain_Report>(options.Quiet, out, err);
 }
 
-void Batch_Report::Print(const QString& text)
-{
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out_);
-    std::fflush(out_);
-}
-
 void Batch_Report::Complain(const QString& line)
 {
-    const QByteArray bytes = (u"vantorra-batch: "_s + Printable(line).simplified() + u'\n').toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), err_);
-    std::fflush(err_);
+    Print_Text(err_, u"vantorra-batch: "_s + Printable(line).simplified() + u'\n');
 }
 
 void Batch_Report::Show_Message(const Message_Box& box)

@@ -60,14 +60,12 @@ class Batch_Report : public Run_Listener
     /// A message, warning or error, for a kind that has more to do with it than the line on standard error.
     virtual void Tell(int /*code*/, const QString& /*title*/, const QString& /*text*/) {}
 
-    /// Writes to standard output, and what was written is out when this returns.
-    void Print(const QString& text);
     /// Writes one line to standard error; control characters in it are made harmless.
     virtual void Complain(const QString& line);
 
     const QString& Source_In_Work() const { return source_; }
 
-    std::FILE* Errors() const { return err_; }
+    std::FILE* Out() const { return out_; }
 
   private:
     std::FILE* out_;
@@ -78,6 +76,3 @@ class Batch_Report : public Run_Listener
     int done_ = 0;
     int failed_ = 0;
 };
-
-/// The text with every control character made a blank: safe to print on a terminal, and one line.
-QString Printable(const QString& text);

@@ -1,8 +1,10 @@
 #include "headless/json_report.h"
 
+#include "headless/print.h"
 #include "program.h"
 
 #include <cmath>
+#include <nlohmann/json.hpp>
 
 using namespace Qt::StringLiterals;
 using Json = nlohmann::ordered_json;
@@ -12,25 +14,19 @@ static std::string Text(const QString& text)
     return text.toStdString();
 }
 
-void Json_Report::Print_Event(const Json& event)
-{
-    // A line must come out whatever a file's name holds, so bad surrogates are replaced, never thrown over.
-    Print(QString::fromStdString(event.dump(-1, ' ', false, Json::error_handler_t::replace)) + u'\n');
-}
-
 void Json_Report::Run_Started(int files)
 {
-    Print_Event({{"event", "run"},
-                 {"videos", Text(Watched().Options.Path_Videos)},
-                 {"target", Text(Watched().Options.Path_Target)},
-                 {"files", files},
-                 {"version", VANTORRA_VERSION}});
+    Print_Json(Out(), {{"event", "run"},
+                       {"videos", Text(Watched().Options.Path_Videos)},
+                       {"target", Text(Watched().Options.Path_Target)},
+                       {"files", files},
+                       {"version", VANTORRA_VERSION}});
 }
 
 void Json_Report::File_Started(int index, const QString& source)
 {
     Batch_Report::File_Started(index, source);
-    Print_Event({{"event", "file"}, {"index", index}, {"source", Text(source)}});
+    Print_Json(Out(), {{"event", "file"}, {"index", index}, {"source", Text(source)}});
 }
 
 void Json_Report::Command_Ready(const QString& source, const QString& output, const Command_Line& command)
@@ -39,22 +35,22 @@ void Json_Report::Command_Ready(const QString& source, const QString& output, co
     Json arguments = Json::array();
     for (const QString& argument : command.Arguments())
         arguments.push_back(Text(argument));
-    Print_Event({{"event", "command"},
-                 {"source", Text(source)},
-                 {"output", Text(output)},
-                 {"text", Text(command.Text())},
-                 {"arguments", std::move(arguments)}});
+    Print_Json(Out(), {{"event", "command"},
+                       {"source", Text(source)},
+                       {"output", Text(output)},
+                       {"text", Text(command.Text())},
+                       {"arguments", std::move(arguments)}});
 }
 
 void Json_Report::Progress(int percent, int overall)
 {
-    Print_Event(
-        {{"event", "progress"}, {"source", Text(Source_In_Work())}, {"percent", percent}, {"overall", overall}});
+    Print_Json(Out(),
+               {{"event", "progress"}, {"source", Text(Source_In_Work())}, {"percent", percent}, {"overall", overall}});
 }
 
 void Json_Report::Tell(int code, const QString& title, const QString& text)
 {
-    Print_Event({{"event", "message"}, {"code", code}, {"title", Text(title)}, {"text", Text(text)}});
+    Print_Json(Out(), {{"event", "message"}, {"code", code}, {"title", Text(title)}, {"text", Text(text)}});
 }
 
 void Json_Report::File_Finished(const File_Outcome& outcome)
@@ -63,12 +59,12 @@ void Json_Report::File_Finished(const File_Outcome& outcome)
     const char* const status = outcome.Status == File_Outcome::Kind::Done     ? "done"
                                : outcome.Status == File_Outcome::Kind::Failed ? "failed"
                                                                               : "skipped";
-    Print_Event({{"event", "result"},
-                 {"source", Text(outcome.Source)},
-                 {"output", Text(outcome.Output)},
-                 {"status", status},
-                 {"exit", outcome.Exit},
-                 {"seconds", std::round(outcome.Seconds * 1000) / 1000}});
+    Print_Json(Out(), {{"event", "result"},
+                       {"source", Text(outcome.Source)},
+                       {"output", Text(outcome.Output)},
+                       {"status", status},
+                       {"exit", outcome.Exit},
+                       {"seconds", std::round(outcome.Seconds * 1000) / 1000}});
 }
 
 void Json_Report::Ended(Batch_End end, int exit)
@@ -77,5 +73,6 @@ void Json_Report::Ended(Batch_End end, int exit)
                                : end == Batch_End::Interrupted ? "interrupted"
                                : end == Batch_End::Refused     ? "refused"
                                                                : "error";
-    Print_Event({{"event", "finished"}, {"status", status}, {"done", Done()}, {"failed", Failed()}, {"exit", exit}});
+    Print_Json(Out(),
+               {{"event", "finished"}, {"status", status}, {"done", Done()}, {"failed", Failed()}, {"exit", exit}});
 }

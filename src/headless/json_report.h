@@ -2,8 +2,6 @@
 
 #include "headless/batch_report.h"
 
-#include <nlohmann/json.hpp>
-
 /// One JSON object a line on standard output; the first key of each is "event".
 class Json_Report : public Batch_Report
 {
@@ -19,7 +17,4 @@ class Json_Report : public Batch_Report
 
   protected:
     void Tell(int code, const QString& title, const QString& text) override;
-
-  private:
-    void Print_Event(const nlohmann::ordered_json& event);
 };

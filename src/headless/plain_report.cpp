@@ -1,5 +1,6 @@
 #include "headless/plain_report.h"
 
+#include "headless/print.h"
 #include "program.h"
 #include "support/paths.h"
 
@@ -19,7 +20,8 @@ void Plain_Report::Command_Ready(const QString& source, const QString& output, c
 {
     Batch_Report::Command_Ready(source, output, command);
     if (Watched().Run.Dry_Run)
-        Print(Shell_Quoted(QStringList{Watched().Tools.System_MKVMerge_Path} + command.Arguments()) + u'\n');
+        Print_Text(Out(),
+                   Shell_Quoted(QStringList{Watched().Tools.System_MKVMerge_Path} + command.Arguments()) + u'\n');
 }
 
 void Plain_Report::Progress(int, int overall)
@@ -36,15 +38,16 @@ void Plain_Report::File_Finished(const File_Outcome& outcome)
     bar_.Wipe();
     switch (outcome.Status) {
     case File_Outcome::Kind::Done:
-        Print(u"done     %1 -> %2 (%3 s)\n"_s.arg(name, Printable(outcome.Output),
-                                                  QString::number(outcome.Seconds, 'f', 1)));
+        Print_Text(Out(), u"done     %1 -> %2 (%3 s)\n"_s.arg(name, Printable(outcome.Output),
+                                                              QString::number(outcome.Seconds, 'f', 1)));
         break;
     case File_Outcome::Kind::Failed:
-        Print(u"failed   %1%2\n"_s.arg(
-            name, outcome.Exit < 0 ? QString() : u" (mkvmerge ended with status %1)"_s.arg(outcome.Exit)));
+        Print_Text(Out(),
+                   u"failed   %1%2\n"_s.arg(
+                       name, outcome.Exit < 0 ? QString() : u" (mkvmerge ended with status %1)"_s.arg(outcome.Exit)));
         break;
     case File_Outcome::Kind::Skipped:
-        Print(u"skipped  %1\n"_s.arg(name));
+        Print_Text(Out(), u"skipped  %1\n"_s.arg(name));
         break;
     }
 }
@@ -54,7 +57,7 @@ void Plain_Report::Ended(Batch_End end, int)
     bar_.Wipe();
     if (quiet_ || Watched().Run.Dry_Run || end == Batch_End::Refused || end == Batch_End::Error)
         return;
-    Print(u"%1: %2 done, %3 failed\n"_s.arg(end == Batch_End::Finished ? u"FINISHED"_s : u"INTERRUPTED"_s)
-              .arg(Done())
-              .arg(Failed()));
+    Print_Text(Out(), u"%1: %2 done, %3 failed\n"_s.arg(end == Batch_End::Finished ? u"FINISHED"_s : u"INTERRUPTED"_s)
+                          .arg(Done())
+                          .arg(Failed()));
 }

@@ -2,6 +2,7 @@
 
 #include "headless/bad_usage.h"
 #include "headless/batch_report.h"
+#include "headless/print.h"
 #include "program.h"
 #include "settings/settings_store.h"
 
@@ -9,7 +10,6 @@
 #include <nlohmann/json.hpp>
 
 using namespace Qt::StringLiterals;
-using Json = nlohmann::ordered_json;
 
 void Take_Assignments(Program& program, const QStringList& assignments, Batch_Report& report)
 {
@@ -31,22 +31,14 @@ void Take_Assignments(Program& program, const QStringList& assignments, Batch_Re
     }
 }
 
-static void Print_Text(std::FILE* out, const QString& text)
+static void Print_Rows_As_Json(const Program& program, std::FILE* out)
 {
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out);
-}
-
-static void Print_Json(const Program& program, std::FILE* out)
-{
-    for (const Settings_Row& row : Settings_Rows()) {
-        const Json line{{"event", "setting"},
-                        {"section", row.Section.toStdString()},
-                        {"key", row.Key.trimmed().toStdString()},
-                        {"value", Value_In_Force(row, program).toStdString()},
-                        {"default", Default_Of(row, program).toStdString()}};
-        Print_Text(out, QString::fromStdString(line.dump(-1, ' ', false, Json::error_handler_t::replace)) + u'\n');
-    }
+    for (const Settings_Row& row : Settings_Rows())
+        Print_Json(out, {{"event", "setting"},
+                         {"section", row.Section.toStdString()},
+                         {"key", row.Key.trimmed().toStdString()},
+                         {"value", Value_In_Force(row, program).toStdString()},
+                         {"default", Default_Of(row, program).toStdString()}});
 }
 
 /// One row of cells, the first ones filled up with blanks to their column's width.
@@ -63,7 +55,7 @@ static QString Table_Line(const QStringList& cells, const QList<qsizetype>& widt
 void Print_Settings(const Program& program, bool json, std::FILE* out)
 {
     if (json) {
-        Print_Json(program, out);
+        Print_Rows_As_Json(program, out);
         return;
     }
     QList<QStringList> lines{{u"SECTION/KEY"_s, u"VALUE"_s, u"DEFAULT"_s}};

@@ -36,6 +36,19 @@ TEST(Batch_Options, ClicksKeepTheOrderOfTheCommandLine)
     EXPECT_EQ(line.Options->Settings, (QStringList{u"A/b=c=d"_s, u"E/f/g="_s}));
 }
 
+TEST(Batch_Options, IdentifyAndLogHaveWordsOfTheirOwn)
+{
+    const Batch_Line identify = Parse({u"identify"_s, u"/a"_s, u"b c"_s, u"--codec-private"_s});
+    ASSERT_TRUE(identify.Options) << identify.Mistake.toStdString();
+    EXPECT_EQ(identify.Options->Files, (QStringList{u"/a"_s, QDir::currentPath() + u"/b c"_s}));
+    EXPECT_TRUE(identify.Options->Codec_Private);
+
+    const Batch_Line log = Parse({u"log"_s, u"--full"_s});
+    ASSERT_TRUE(log.Options) << log.Mistake.toStdString();
+    EXPECT_EQ(log.Options->Command, Batch_Command::Log);
+    EXPECT_TRUE(log.Options->Full);
+}
+
 TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
 {
     const struct
@@ -50,6 +63,9 @@ TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
         {{u"walk"_s}, u"\"walk\""_s},
         {{u"run"_s, u"/a"_s}, u"\"/a\""_s},
         {{u"settings"_s, u"x"_s}, u"\"x\""_s},
+        {{u"identify"_s}, u"at least one file"_s},
+        {{u"--full"_s}, u"belongs to the command log"_s},
+        {{u"log"_s, u"--codec-private"_s}, u"belongs to the command identify"_s},
         {{u"--dry-run=yes"_s}, u"dry-run"_s},
     };
 
