@@ -6,6 +6,8 @@
 #include "headless/box_clicks.h"
 #include "headless/exit_status.h"
 #include "headless/headless_operator.h"
+#include "headless/identify_command.h"
+#include "headless/log_command.h"
 #include "headless/print.h"
 #include "headless/settings_command.h"
 #include "logs/last_entry.h"
@@ -22,7 +24,6 @@ static void Set_Up(Program& program, const Batch_Options& options, Batch_Report&
 {
     Check_Box_Names(options.Clicks);
     Take_Assignments(program, options.Settings, report);
-    program.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process(options.App_Folder));
     // No lock: several batches may share a folder, each holding it only while it writes the log.
     Start_Up(program, nullptr);
     First_Activation(program);
@@ -52,7 +53,10 @@ static int Run_The_Batch(Program& program, Batch_Report& report)
 
 static int Run_Command(Program& program, const Batch_Options& options, Batch_Report& report, std::FILE* out)
 {
-    Set_Up(program, options, report);
+    program.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process(options.App_Folder));
+    // Only the log's folder is needed to print it.
+    if (options.Command != Batch_Command::Log)
+        Set_Up(program, options, report);
     switch (options.Command) {
     case Batch_Command::Run:
         return Run_The_Batch(program, report);
@@ -60,10 +64,13 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
         Print_Settings(program, options.Json, out);
         return Exit_Finished;
     case Batch_Command::Identify:
+        program.Media.Show_Codec_Private = options.Codec_Private ? 1 : 0;
+        return Print_Identification(program, options.Files, options.Json, out);
     case Batch_Command::Log:
-        break;
+        Print_Log(program.Settings.App_Folder, options.Full, out);
+        return Exit_Finished;
     }
-    throw Bad_Usage{u"This build doesn't know that command."_s};
+    return Exit_Finished;
 }
 
 int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* err,

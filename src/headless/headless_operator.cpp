@@ -19,9 +19,17 @@ Message_Answer Headless_Operator::Show_Message(const Message_Box& box)
     return box.Buttons == Message_Buttons::Ok ? Message_Answer::Ok : Message_Answer::Cancel;
 }
 
+/// How the run ended is settled: a halt comes too late to change it.
+static bool Run_Is_Over(const Program& program)
+{
+    return program.Form.Progress == Progress_Look::Finished || program.Form.Progress == Progress_Look::Interrupted;
+}
+
 void Headless_Operator::Pump_Events()
 {
-    if (program_->Run.Run_In_Progress && !program_->Run.Halt_Requested && stop_requested_())
+    // Before a run too: a tool that hangs while it is tried is given up, and the run that follows is halted at its
+    // first pump.
+    if (!program_->Run.Halt_Requested && !Run_Is_Over(*program_) && stop_requested_())
         btn_Halt_MouseUp(*program_);
 }
 

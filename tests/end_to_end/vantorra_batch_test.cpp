@@ -210,6 +210,27 @@ TEST(Vantorra_Batch, AKeyThatIsNeverReadIsToldAndHarmless)
     EXPECT_TRUE(result.Out.isEmpty());
 }
 
+TEST(Vantorra_Batch, IdentifyAndLogPrintWhatTheViewersShow)
+{
+    Batch_Process batch;
+    const QString film = Place(batch, Rich_Video(), u"videos/film.mkv"_s);
+    EXPECT_EQ(batch.Run().Exit, 0);
+
+    batch.Start_With({u"identify"_s, u"--app-folder"_s, batch.Path(u"app"_s), film});
+    const Batch_Result identified = batch.Finish();
+    EXPECT_EQ(identified.Exit, 0) << identified.Err.toStdString();
+    EXPECT_TRUE(identified.Out.contains(u"container: Matroska"_s)) << identified.Out.toStdString();
+    EXPECT_TRUE(identified.Out.contains(u"language:ger"_s)) << identified.Out.toStdString();
+
+    for (const bool full : {false, true}) {
+        batch.Start_With(QStringList{u"log"_s, u"--app-folder"_s, batch.Path(u"app"_s)} +
+                         (full ? QStringList{u"--full"_s} : QStringList()));
+        const Batch_Result log = batch.Finish();
+        EXPECT_EQ(log.Exit, 0);
+        EXPECT_EQ(log.Out, QString::fromUtf8(batch.Read(u"app/Vantorra_Process.log"_s)).remove(u'\r'));
+    }
+}
+
 TEST(Vantorra_Batch, SettingsListsEveryKeyWithItsValueInForce)
 {
     Batch_Process batch;
@@ -336,9 +357,10 @@ TEST(Vantorra_Batch, ASignalBeforeTheFirstFileCountsToo)
     Batch_Process batch;
     for (int i = 0; i < 5; ++i)
         Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
-    // The first that the program runs is ffprobe's version test; it lasts until the signal is there.
+    // The first that the program runs is ffprobe's version test, which hangs here.
     Write_Stand_In(batch, u"app/ffprobe"_s,
-                   "kill -INT $PPID\nsleep 0.3\nexec '" + Tool_In_Path(u"ffprobe"_s).toUtf8() + "' \"$@\"\n");
+                   "case \"$*\" in *-version*) kill -INT $PPID; sleep 1000;; esac\nexec '" +
+                       Tool_In_Path(u"ffprobe"_s).toUtf8() + "' \"$@\"\n");
     const Batch_Result result = batch.Run({u"--json"_s});
     EXPECT_EQ(result.Exit, 130) << result.Err.toStdString();
     EXPECT_TRUE(batch.Names_In(u"target"_s).isEmpty());
