@@ -136,6 +136,8 @@ QString Library_File(const QString& name)
 Library_Run::Library_Run()
 {
     Use_Real_Tools(*this);
+    // The run button looks for ffprobe in the program's folder.
+    QFile::link(Prog.Tools.FFProbe_Path, Prog.Settings.App_Folder + u"ffprobe"_s);
     Load_Language_Table(Prog, u"scrap"_s);
     Prog.Options.Log_Verbosity = 7;
 }
