@@ -1,6 +1,7 @@
 #include "headless/identify_command.h"
 
 #include "headless/exit_status.h"
+#include "headless/print.h"
 #include "inspect/identification.h"
 #include "inspect/tool_discovery.h"
 #include "logs/video_info_viewer.h"
@@ -13,23 +14,18 @@
 using namespace Qt::StringLiterals;
 using Json = nlohmann::ordered_json;
 
-static void Print(std::FILE* out, const QByteArray& bytes)
-{
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out);
-    std::fflush(out);
-}
-
+/// Plain lines go to a terminal, maybe, and a title may hold anything.
 static void Print_Lines(const QString& file, const QStringList& lines, bool json, std::FILE* out)
 {
     if (!json) {
-        QString text = Video_Info_Text(lines);
-        Print(out, text.replace(Line_Break, u"\n"_s).toUtf8() + '\n');
+        for (const QString& line : Video_Info_Text(lines).split(Line_Break))
+            Print_Text(out, Printable(line) + u'\n');
         return;
     }
     Json object{{"event", "identification"}, {"source", file.toStdString()}, {"lines", Json::array()}};
     for (const QString& line : lines)
         object["lines"].push_back(line.toStdString());
-    Print(out, QByteArray::fromStdString(object.dump(-1, ' ', false, Json::error_handler_t::replace)) + '\n');
+    Print_Json(out, object);
 }
 
 int Print_Identification(Program& program, const QStringList& files, bool json, std::FILE* out)
@@ -44,7 +40,7 @@ int Print_Identification(Program& program, const QStringList& files, bool json, 
         if (program.Run.Halt_Requested)
             return Exit_Halted;
         if (file > 0 && !json)
-            Print(out, "\n");
+            Print_Text(out, u"\n"_s);
         const bool answered = Identify_File(program, files[file]);
         const QStringList& lines = program.Media.Video_Info_Lines;
         if (answered)

@@ -81,6 +81,8 @@ TEST_F(Identify_Command, GoesOnBehindAFileThatFailsAndSaysSoInItsStatus)
     EXPECT_EQ(Exit, Exit_Some_Failed);
     ASSERT_EQ(Person.Messages.size(), 1U);
     EXPECT_EQ(Person.Messages[0].Code, 3);
+    EXPECT_FALSE(Print({u"/v/esc\u001b[2J.mkv"_s}).contains(u'\u001b'))
+        << "a name doesn't reach the terminal's controls";
     Prog.Run.Halt_Requested = true;
     EXPECT_EQ(Print({u"/v/b.mkv"_s}), QString());
     EXPECT_EQ(Exit, Exit_Halted);
