@@ -14,11 +14,11 @@ static const QString Help_File_Name = QStringLiteral("Vantorra 2.5.5 Help.html")
 
 QString Find_Help_File(const QString& app_folder, const QStringList& other_folders)
 {
-    const QString own = With_Separator(app_folder) + Help_File_Name;
+    QString own = With_Separator(app_folder) + Help_File_Name;
     if (File_Exists(own))
         return own;
     for (const QString& folder : other_folders)
-        if (const QString path = With_Separator(folder) + Help_File_Name; File_Exists(path))
+        if (QString path = With_Separator(folder) + Help_File_Name; File_Exists(path))
             return path;
     return own;
 }

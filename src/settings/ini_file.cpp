@@ -101,7 +101,7 @@ static QString Value_As_Read(QByteArrayView bytes)
     const bool is_quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'');
     if (is_quoted && value.back() == value.front())
         value = value.sliced(1, value.size() - 2);
-    const QString text = Cut_At_Nul(QString::fromUtf8(value));
+    QString text = Cut_At_Nul(QString::fromUtf8(value));
     if (text.size() <= Longest_Value)
         return text;
     return text.left(text.at(Longest_Value - 1).isHighSurrogate() ? Longest_Value - 1 : Longest_Value);

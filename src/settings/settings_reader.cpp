@@ -19,7 +19,7 @@ struct Settings_Reader
     QString Take(int number) const
     {
         const Settings_Row& row = number == 0 ? Settings_Rows().back() : Row_Of(number);
-        const QString text = Read_Ini_Key(Prog.Settings, Document, row.Section, row.Key, Default_Of(row, Prog));
+        QString text = Read_Ini_Key(Prog.Settings, Document, row.Section, row.Key, Default_Of(row, Prog));
         row.Take(Prog, text, u"%1, [%2] \"%3\""_s.arg(Prog.Settings.Ini_File, row.Section, row.Key.trimmed()));
         return text;
     }

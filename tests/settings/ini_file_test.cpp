@@ -140,7 +140,7 @@ TEST(IniFile, BinaryDataPassesThroughUnchanged)
 TEST(IniFile, FiftyMegabytesAreTakenAndKept)
 {
     QByteArray big = "[Menu]\n";
-    for (int index = 0; big.size() < 50 * 1024 * 1024; ++index)
+    for (int index = 0; big.size() < qsizetype{50} * 1024 * 1024; ++index)
         big += "Key " + QByteArray::number(index) + "=" + QByteArray(4000, 'v') + "\n";
     big += "[Paths]\nSet or read=here\n";
     Ini_Document document(big);

@@ -188,20 +188,20 @@ TEST(MainFormKeys, ActByWhetherARunGoesOn)
     {
         Key_Press Press;
         bool In_Run;
+        bool Halt;
         int Top;
         int Unloads;
-        bool Halt;
     };
 
     const Key_Modifiers none{};
     const Key_Modifiers shift{.Shift = true};
     const Key_Modifiers alt{.Alt = true};
     const Claim claims[] = {
-        {{Key::F12, none}, false, 240, 0, false},  {{Key::F12, shift}, false, 3, 0, false},
-        {{Key::F12, none}, true, 3, 0, false},     {{Key::F4, alt}, false, 3, 1, false},
-        {{Key::F4, none}, false, 3, 0, false},     {{Key::F4, alt}, true, 3, 0, false},
-        {{Key::Escape, none}, true, 3, 0, true},   {{Key::Escape, shift}, true, 3, 0, false},
-        {{Key::Escape, none}, false, 3, 0, false}, {{Key::Other, none}, true, 3, 0, false},
+        {{Key::F12, none}, false, false, 240, 0},  {{Key::F12, shift}, false, false, 3, 0},
+        {{Key::F12, none}, true, false, 3, 0},     {{Key::F4, alt}, false, false, 3, 1},
+        {{Key::F4, none}, false, false, 3, 0},     {{Key::F4, alt}, true, false, 3, 0},
+        {{Key::Escape, none}, true, true, 3, 0},   {{Key::Escape, shift}, true, false, 3, 0},
+        {{Key::Escape, none}, false, false, 3, 0}, {{Key::Other, none}, true, false, 3, 0},
     };
     for (const Claim& claim : claims) {
         Test_Program test;
