@@ -1,0 +1,155 @@
+#include "run/tool_runner.h"
+
+#include "command/command_line.h"
+#include "program.h"
+#include "support/child_process.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <spawn.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+/// A child (this program itself) prints a gigabyte that isn't kept, once to the runner and once to a plain loop of
+/// read() with a buffer of the same size, in turn. `ratio` is the runner's time by the loop's; `peak_growth_MB` is what
+/// the process's peak memory grew by.
+
+static constexpr std::size_t Printed_Bytes = 1'000'000'000;
+static constexpr std::size_t Buffer_Bytes = 10240;
+
+extern char** environ; // NOLINT(readability-redundant-declaration)
+
+/// The child: prints `line` over and over.
+static int Print(const std::string& line)
+{
+    std::string block;
+    while (block.size() < 65536)
+        block += line;
+    for (std::size_t left = Printed_Bytes; left > 0;) {
+        const ssize_t count = ::write(STDOUT_FILENO, block.data(), std::min(left, block.size()));
+        if (count <= 0)
+            return 1;
+        left -= static_cast<std::size_t>(count);
+    }
+    return 0;
+}
+
+static QString Own_Path()
+{
+    return QCoreApplication::applicationFilePath();
+}
+
+/// Reads the child's output by a plain loop; the bytes that came.
+static std::size_t Plain_Loop(const std::string& line)
+{
+    int ends[2];
+    if (::pipe(ends) != 0)
+        std::abort();
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
+    posix_spawn_file_actions_addclose(&actions, ends[0]);
+    std::string path = Own_Path().toStdString();
+    std::string option = "--print";
+    std::string text = line;
+    char* arguments[] = {path.data(), option.data(), text.data(), nullptr};
+    pid_t child = 0;
+    if (::posix_spawn(&child, path.c_str(), &actions, nullptr, arguments, environ) != 0)
+        std::abort();
+    posix_spawn_file_actions_destroy(&actions);
+    ::close(ends[1]);
+    char buffer[Buffer_Bytes];
+    std::size_t bytes = 0;
+    for (ssize_t count; (count = ::read(ends[0], buffer, sizeof buffer)) > 0;)
+        bytes += static_cast<std::size_t>(count);
+    ::close(ends[0]);
+    ::waitpid(child, nullptr, 0);
+    return bytes;
+}
+
+namespace {
+
+/// Nobody in front: what a run asks for is passed over.
+struct Nobody : Operator
+{
+    Message_Answer Show_Message(const Message_Box&) override { return Message_Answer::Ok; }
+
+    void Show_Modal(const QString&) override {}
+
+    void Show_Form(const QString&) override {}
+
+    QString Pick_Folder(const QString&, const QString&) override { return {}; }
+
+    QStringList Pick_File(const File_Question&) override { return {}; }
+
+    void Pump_Events() override {}
+
+    void Wait_With_Events(int) override {}
+
+    bool Open_Document(const QString&) override { return false; }
+};
+
+double Seconds_Of(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double Peak_Megabytes()
+{
+    rusage usage = {};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) / 1024;
+}
+
+} // namespace
+
+static void Run_Mkvmerge_Reading(benchmark::State& state, const char* line)
+{
+    Nobody person;
+    Program program(person);
+    program.Settings.App_Folder = QStringLiteral("/opt/vantorra/");
+    Command_Line command;
+    command.Add(QStringLiteral(" --print"), QStringLiteral("--print"));
+    command.Add(QStringLiteral(" line"), QString::fromUtf8(line));
+
+    double plain = 0;
+    double ours = 0;
+    const double peak = Peak_Megabytes();
+    for (auto _ : state) {
+        plain += Seconds_Of([&] { benchmark::DoNotOptimize(Plain_Loop(line)); });
+        const double once = Seconds_Of([&] { Run_Mkvmerge(program, Own_Path(), command); });
+        ours += once;
+        state.SetIterationTime(once);
+    }
+    if (!program.Logs.Log_Console.Is_Empty() || program.Run.Exit_Status != 0)
+        state.SkipWithError("The child's output was kept, or it failed");
+    state.counters["plain_s"] = plain / static_cast<double>(state.iterations());
+    state.counters["ratio"] = ours / plain;
+    state.counters["peak_growth_MB"] = Peak_Megabytes() - peak;
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(Printed_Bytes));
+}
+
+BENCHMARK_CAPTURE(Run_Mkvmerge_Reading, progress_lines, "Progress: 42%\r")->UseManualTime()->Iterations(5);
+BENCHMARK_CAPTURE(Run_Mkvmerge_Reading, lines_that_name_our_folder,
+                  "The file '/opt/vantorra/data/font.ttf' is attached as it is, whatever its type may be.\n")
+    ->UseManualTime()
+    ->Iterations(5);
+
+int main(int argc, char** argv)
+{
+    if (argc == 3 && std::strcmp(argv[1], "--print") == 0)
+        return Print(argv[2]);
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
