@@ -10,6 +10,7 @@
 #include "support/run_time_error.h"
 #include "support/text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <functional>
@@ -26,6 +27,8 @@ static constexpr int Silence_After_Halt = 40;
 static constexpr qsizetype Longest_Dropped_Chunk = 16;
 /// mkvmerge prints "Progress: " ahead of the number.
 static constexpr qsizetype Characters_Before_Percent = 10;
+/// Bytes of a progress chunk that are looked at: no number that a double can hold is longer.
+static constexpr qsizetype Progress_Head = 1024;
 
 /// What a halt does to a child that still prints or is silent.
 enum class On_Halt
@@ -54,9 +57,12 @@ static void Kill_Mkvmerge(Program& program, Child_Process& child, const QString&
     program.Person.Wait_With_Events(Wait_After_Kill);
 }
 
-/// One run of a tool: `take` gets each chunk as text, CR LF at its line ends, just as the reads cut it.
+/// What becomes of a chunk, just as a read delivered it; the text is the run's own.
+using Take_Chunk = std::function<void(QByteArrayView bytes, Console_Text& text)>;
+
+/// One run of a tool, whose output goes to `take`.
 static void Run_Tool(Program& program, const QString& executable, const Command_Line& command, std::size_t most,
-                     On_Halt on_halt, const std::function<void(const QString&)>& take)
+                     On_Halt on_halt, const Take_Chunk& take)
 {
     // An error that unwinds through here kills and reaps the child.
     Child_Process child;
@@ -72,7 +78,7 @@ static void Run_Tool(Program& program, const QString& executable, const Command_
         if (read == Child_Process::Read::Ended)
             break;
         if (read == Child_Process::Read::Data)
-            take(text.Decode(bytes));
+            take(bytes, text);
         // A halt lets a capture end by itself, but a tool that hangs would hold the halt up for ever.
         silent_reads = read == Child_Process::Read::Nothing_Yet && program.Run.Halt_Requested ? silent_reads + 1 : 0;
         if (silent_reads > Silence_After_Halt) {
@@ -101,14 +107,14 @@ static void Run_Tool(Program& program, const QString& executable, const Command_
 void Run_Tool_Capture(Program& program, const QString& executable, const Command_Line& command, QString& output)
 {
     Run_Tool(program, executable, command, Capture_Bytes, On_Halt::Let_It_End,
-             [&output](const QString& chunk) { output += chunk; });
+             [&output](QByteArrayView bytes, Console_Text& text) { output += text.Decode(bytes); });
 }
 
 void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const Command_Line& command, QString& output)
 {
     output.clear();
     Run_Tool(program, executable, command, Fresh_Bytes, On_Halt::Let_It_End,
-             [&output](const QString& chunk) { output += chunk; });
+             [&output](QByteArrayView bytes, Console_Text& text) { output += text.Decode(bytes); });
 }
 
 /// A value of the percentage's 16-bit arithmetic, rounded half to even. Deliberate: the limit of 327 videos ends the
@@ -123,25 +129,46 @@ static int Checked_Percent(const Run_State& run, double value)
     return static_cast<int>(rounded);
 }
 
-/// Keeps a chunk of mkvmerge's output, or drives the percentage with it.
-static void Take_Mkvmerge_Chunk(Program& program, const QString& chunk)
+/// True if the word "progress" stands in the text, in any case. Looks for its rarest letter.
+static bool Holds_Progress(QByteArrayView bytes)
 {
-    const bool is_progress = chunk.contains(u"progress"_s, Qt::CaseInsensitive);
-    // Deliberate: the whole chunk goes, whatever else it holds, if it speaks of progress or names the program's folder;
-    // for a program in "/" that is every chunk. A video called "Work in progress" loses its messages and shows 0 %.
-    if (!is_progress && chunk.size() > Longest_Dropped_Chunk &&
-        !chunk.contains(program.Settings.App_Folder.chopped(program.Settings.App_Folder.isEmpty() ? 0 : 1)))
-        program.Logs.Log_Console.AppendLine(chunk);
-    if (is_progress) {
-        const double percent = Number_Prefix(chunk.mid(Characters_Before_Percent));
+    constexpr QByteArrayView word = "progress";
+    constexpr qsizetype place = 3;
+    for (const char letter : {'g', 'G'})
+        for (qsizetype at = bytes.indexOf(letter); at >= 0; at = bytes.indexOf(letter, at + 1))
+            if (at >= place && at - place + word.size() <= bytes.size() &&
+                bytes.sliced(at - place, word.size()).compare(word, Qt::CaseInsensitive) == 0)
+                return true;
+    return false;
+}
+
+/// Keeps a chunk of mkvmerge's output, or drives the percentage with it. A chunk that isn't kept is never made text of.
+///
+/// Deliberate: the whole chunk goes, whatever else it holds, if it speaks of progress or names the program's folder;
+/// for a program in "/" that is every chunk. A video called "Work in progress" loses its messages and shows 0 %.
+static void Take_Mkvmerge_Chunk(Program& program, const QByteArray& own_folder, QByteArrayView bytes,
+                                Console_Text& text)
+{
+    if (Holds_Progress(bytes)) {
+        const QByteArrayView head = bytes.first(std::min(bytes.size(), Progress_Head));
+        const double percent = Number_Prefix(text.Decode(head).mid(Characters_Before_Percent));
+        text.Skip(bytes.sliced(head.size()));
         Show_Progress(program, Checked_Percent(program.Run, percent), 0);
+    } else if (bytes.contains(own_folder)) {
+        text.Skip(bytes);
+    } else if (const QString& chunk = text.Decode(bytes); chunk.size() > Longest_Dropped_Chunk) {
+        program.Logs.Log_Console.AppendLine(chunk);
     }
 }
 
 void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command)
 {
+    QByteArray own_folder = program.Settings.App_Folder.toUtf8();
+    own_folder.chop(1);
     Run_Tool(program, executable, command, Mkvmerge_Bytes, On_Halt::Kill_It,
-             [&program](const QString& chunk) { Take_Mkvmerge_Chunk(program, chunk); });
+             [&program, &own_folder](QByteArrayView bytes, Console_Text& text) {
+                 Take_Mkvmerge_Chunk(program, own_folder, bytes, text);
+             });
 }
 
 void Show_Progress(Program& program, int percent, int total)

@@ -1,26 +1,47 @@
 #include "support/console_text.h"
 
-#include <algorithm>
+#include <QStringView>
 
 const QString& Console_Text::Decode(QByteArrayView bytes)
 {
     // Both texts keep their memory from chunk to chunk.
     decoded_.resize(decoder_.requiredSpace(bytes.size()));
     const QChar* const begin = decoded_.constData();
-    const QChar* const end = decoder_.appendToBuffer(decoded_.data(), bytes);
+    decoded_.resize(decoder_.appendToBuffer(decoded_.data(), bytes) - begin);
+
+    const QStringView decoded = decoded_;
+    const bool was_after_return = after_return_;
+    if (!decoded.isEmpty())
+        after_return_ = decoded.back() == u'\r';
+    qsizetype feed = decoded.indexOf(u'\n');
+    if (feed < 0)
+        return decoded_;
 
     text_.resize(0);
-    const QChar* from = begin;
-    while (from != end) {
-        const QChar* const feed = std::find(from, end, u'\n');
-        text_.append(from, feed - from);
-        if (feed == end)
-            break;
-        const bool returned = feed == begin ? after_return_ : feed[-1] == u'\r';
-        text_.append(returned ? u"\n" : u"\r\n");
+    qsizetype from = 0;
+    for (; feed >= 0; feed = decoded.indexOf(u'\n', from)) {
+        text_.append(decoded.sliced(from, feed - from));
+        const bool returned = feed == 0 ? was_after_return : decoded[feed - 1] == u'\r';
+        text_.append(returned ? QStringView(u"\n") : QStringView(u"\r\n"));
         from = feed + 1;
     }
-    if (begin != end)
-        after_return_ = end[-1] == u'\r';
+    text_.append(decoded.sliced(from));
     return text_;
+}
+
+void Console_Text::Skip(QByteArrayView bytes)
+{
+    constexpr qsizetype longest_character = 4;
+    if (bytes.size() <= longest_character) {
+        Decode(bytes);
+        return;
+    }
+    // What the next chunk may join lies at the end: a carriage return, or a character that isn't complete. It begins
+    // at the first byte there that doesn't continue another character.
+    QByteArrayView tail = bytes.last(longest_character);
+    while (!tail.isEmpty() && (static_cast<unsigned char>(tail.front()) & 0xC0U) == 0x80U)
+        tail = tail.sliced(1);
+    decoder_.resetState();
+    after_return_ = false;
+    Decode(tail);
 }

@@ -13,8 +13,11 @@ class Console_Text
     /// The text of the next bytes. Valid until the next call.
     const QString& Decode(QByteArrayView bytes);
 
+    /// Takes note of bytes whose text nobody wants, without the cost of making it.
+    void Skip(QByteArrayView bytes);
+
   private:
-    QStringDecoder decoder_{QStringDecoder::Utf8, QStringDecoder::Flag::Default};
+    QStringDecoder decoder_{QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom};
     QString decoded_;
     QString text_;
     bool after_return_ = false;

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -38,17 +38,22 @@ static std::size_t Size_Of(QStringView text)
     return static_cast<std::size_t>(text.size());
 }
 
+static std::size_t Initial_Characters()
+{
+    return Round_To_Pages(Initial_Bytes / sizeof(char16_t));
+}
+
 clsStringBuilder::clsStringBuilder()
 {
-    Allocate_Initial();
+    Reallocate(Initial_Characters());
+    buffer_[0] = 0;
 }
 
 clsStringBuilder::clsStringBuilder(const clsStringBuilder& other)
-    : capacity_(other.capacity_), used_(other.used_), undo_kind_(other.undo_kind_),
-      undo_position_(other.undo_position_), undo_length_(other.undo_length_), undo_text_(other.undo_text_),
-      in_undo_(other.in_undo_)
+    : used_(other.used_), undo_kind_(other.undo_kind_), undo_position_(other.undo_position_),
+      undo_length_(other.undo_length_), undo_text_(other.undo_text_), in_undo_(other.in_undo_)
 {
-    buffer_ = std::make_unique_for_overwrite<char16_t[]>(capacity_);
+    Reallocate(other.capacity_);
     std::copy_n(other.buffer_.get(), used_ + 1, buffer_.get());
 }
 
@@ -59,33 +64,34 @@ clsStringBuilder& clsStringBuilder::operator=(const clsStringBuilder& other)
     return *this;
 }
 
-void clsStringBuilder::Allocate_Initial()
+void clsStringBuilder::Reallocate(std::size_t characters)
 {
-    capacity_ = Round_To_Pages(Initial_Bytes / sizeof(char16_t));
-    buffer_ = std::make_unique_for_overwrite<char16_t[]>(capacity_);
-    used_ = 0;
-    buffer_[0] = 0;
+    char16_t* const old = buffer_.release();
+    void* const memory = std::realloc(old, characters * sizeof(char16_t));
+    if (memory == nullptr) {
+        buffer_.reset(old);
+        throw std::bad_alloc();
+    }
+    buffer_.reset(static_cast<char16_t*>(memory));
+    capacity_ = characters;
 }
 
 void clsStringBuilder::Make_Room(std::size_t added)
 {
-    if (used_ + added + 1 <= capacity_)
-        return;
     // The old capacity times 1.6 plus what is added.
-    capacity_ = Round_To_Pages(capacity_ * 8 / 5 + added + 1);
-    auto grown = std::make_unique_for_overwrite<char16_t[]>(capacity_);
-    std::copy_n(buffer_.get(), used_ + 1, grown.get());
-    buffer_ = std::move(grown);
+    if (used_ + added + 1 > capacity_)
+        Reallocate(Round_To_Pages(capacity_ * 8 / 5 + added));
 }
 
-void clsStringBuilder::Record(Undo_Kind kind, std::size_t position, std::size_t length, QString taken)
+void clsStringBuilder::Record(Undo_Kind kind, std::size_t position, std::size_t length, const QString& taken)
 {
     if (in_undo_)
         return;
     undo_kind_ = kind;
     undo_position_ = position;
     undo_length_ = length;
-    undo_text_ = std::move(taken);
+    if (!undo_text_.isNull() || !taken.isNull())
+        undo_text_ = taken;
 }
 
 QString clsStringBuilder::ToString() const
@@ -117,8 +123,10 @@ QString clsStringBuilder::ToStringRight(std::ptrdiff_t length) const
 
 void clsStringBuilder::Clear()
 {
-    if (capacity_ > Round_To_Pages(Initial_Bytes / sizeof(char16_t)))
-        Allocate_Initial();
+    if (capacity_ > Initial_Characters()) {
+        buffer_.reset();
+        Reallocate(Initial_Characters());
+    }
     used_ = 0;
     buffer_[0] = 0;
     undo_kind_ = Undo_Kind::Nothing;
@@ -137,7 +145,7 @@ void clsStringBuilder::Append(QStringView text)
         return;
     Make_Room(Size_Of(text));
     Copy(buffer_.get() + used_, text.data(), Size_Of(text));
-    Record(Undo_Kind::Append, used_, Size_Of(text), {});
+    Record(Undo_Kind::Append, used_, Size_Of(text));
     used_ += Size_Of(text);
     buffer_[used_] = 0;
 }
@@ -145,7 +153,7 @@ void clsStringBuilder::Append(QStringView text)
 void clsStringBuilder::AppendLine(QStringView text)
 {
     Make_Room(Size_Of(text) + 2);
-    Record(Undo_Kind::Append, used_, Size_Of(text) + 2, {});
+    Record(Undo_Kind::Append, used_, Size_Of(text) + 2);
     Copy(buffer_.get() + used_, text.data(), Size_Of(text));
     used_ += Size_Of(text);
     buffer_[used_++] = u'\r';
@@ -163,7 +171,7 @@ void clsStringBuilder::Insert(std::ptrdiff_t position, QStringView text)
     std::memmove(place + Size_Of(text), place, (used_ - at + 1) * sizeof(char16_t));
     Copy(place, text.data(), Size_Of(text));
     used_ += Size_Of(text);
-    Record(Undo_Kind::Insert, at, Size_Of(text), {});
+    Record(Undo_Kind::Insert, at, Size_Of(text));
 }
 
 void clsStringBuilder::Overwrite(std::ptrdiff_t position, QStringView text)

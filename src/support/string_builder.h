@@ -3,6 +3,7 @@
 #include <QString>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 
 /// A growing text in memory of its own, for long logs and command lines: appending never touches the text that is
@@ -86,14 +87,20 @@ class clsStringBuilder
                         Compare compare = Compare::Exact) const;
 
   private:
-    void Allocate_Initial();
+    void Reallocate(std::size_t characters);
     void Make_Room(std::size_t added);
-    void Record(Undo_Kind kind, std::size_t position, std::size_t length, QString taken);
+    void Record(Undo_Kind kind, std::size_t position, std::size_t length, const QString& taken = {});
     bool Undo_If(Undo_Kind kind);
 
     QStringView View() const { return {buffer_.get(), static_cast<qsizetype>(used_)}; }
 
-    std::unique_ptr<char16_t[]> buffer_;
+    /// Memory that the system can grow in place, which is what keeps long texts cheap.
+    struct Free_Memory
+    {
+        void operator()(char16_t* memory) const { std::free(memory); }
+    };
+
+    std::unique_ptr<char16_t[], Free_Memory> buffer_;
     std::size_t capacity_ = 0; ///< in characters
     std::size_t used_ = 0;     ///< in characters, without the zero at the end
     Undo_Kind undo_kind_ = Undo_Kind::Nothing;

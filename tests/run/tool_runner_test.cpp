@@ -76,6 +76,21 @@ TEST(ToolRunner, ChunksAreKeptOrDroppedWhole)
     }
 }
 
+TEST(ToolRunner, TheWordProgressIsFoundWhereverItStands)
+{
+    for (int ahead = 0; ahead < 20; ++ahead)
+        for (const QByteArray& word : {QByteArray("progress"), QByteArray("PrOgReSs")}) {
+            Test_Program test;
+            EXPECT_EQ(Console_Of(test, "printf '%s' '" + QByteArray(ahead, 'r') + word + "'"), u""_s) << ahead;
+            EXPECT_TRUE(test.Prog.Form.lbl_ProgressFinished.Visible) << ahead;
+        }
+    for (const QByteArray& other :
+         {QByteArray("a very long progres"), QByteArray("rogress is no word"), QByteArray("progprogpro ressgress")}) {
+        Test_Program test;
+        EXPECT_EQ(Console_Of(test, "printf '" + other + "'"), QString::fromUtf8(other) + u"\r\n"_s);
+    }
+}
+
 TEST(ToolRunner, AChunkThatNamesTheProgramsFolderIsDropped)
 {
     Test_Program test;

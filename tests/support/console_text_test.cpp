@@ -20,6 +20,21 @@ TEST(ConsoleText, CharactersAndLineEndsSurviveACutAtAnyPlace)
         }
 }
 
+TEST(ConsoleText, WhatFollowsSkippedBytesIsTheSameAsIfTheyHadBeenRead)
+{
+    const QByteArray bytes = QByteArray("many bytes\r\n\r") + "\né漢😀😀é\r\n\xff\n\x80\x80\x80\x80\x80\n end";
+    for (qsizetype first = 0; first <= bytes.size(); ++first)
+        for (qsizetype second = first; second <= bytes.size(); ++second) {
+            Console_Text read;
+            Console_Text skipped;
+            read.Decode(bytes.left(first));
+            skipped.Decode(bytes.left(first));
+            read.Decode(bytes.mid(first, second - first));
+            skipped.Skip(bytes.mid(first, second - first));
+            ASSERT_EQ(skipped.Decode(bytes.mid(second)), read.Decode(bytes.mid(second))) << first << " " << second;
+        }
+}
+
 TEST(ConsoleText, AnEmptyChunkForgetsNothing)
 {
     Console_Text text;

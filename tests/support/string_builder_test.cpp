@@ -116,9 +116,11 @@ TEST(StringBuilder, EachChangeIsUndoneOnceAndByItsKindOnly)
             EXPECT_EQ(Text_Of(builder), u""_s);
             continue;
         }
-        for (const auto kind : kinds)
-            if (kind != change.Undo_Kind)
-                EXPECT_FALSE((builder.*kind)());
+        for (const auto kind : kinds) {
+            if (kind == change.Undo_Kind)
+                continue;
+            EXPECT_FALSE((builder.*kind)());
+        }
         EXPECT_EQ(Text_Of(builder), change.Result);
         EXPECT_TRUE((builder.*change.Undo_Kind)());
         EXPECT_EQ(Text_Of(builder), u"abcdef"_s);
