@@ -102,7 +102,7 @@ QStringList Read_Log_Lines(const QString& path, int limit)
 
 void Load_vProcessLog(Program& program, frm_ProcessLog& form, int limit, bool& loaded)
 {
-    form.lbl_LoadLog.Visible = true;
+    form.lbl_LoadLog.Visible = true; // Deliberate: it says "Full Log" while the first 500 lines load, too.
     program.Person.Pump_Events();
     form.lst_ProcessLog.clear();
     form.Selected_Row = -1;

@@ -126,6 +126,7 @@ void ViewVFI_btn_Done(Program& program, frm_ViewVFI& form)
         program.Person.Set_Topmost(true);
     program.Settings.ViewVFI_Box = Viewer_Box(form.Place);
     form.Activated = false;
+    // Deliberate: the caption of btn_ShowCodecData stays, as Show_Codec_Private does.
     Enable_Buttons(form, false);
     form.Visible = false;
 }

@@ -66,7 +66,7 @@ static void Drop_On_Main_Folder(Program& program, const Main_Folder& folder, con
         int code = folder.Error_Code;
         Show_Path_Error(program, code);
     }
-    Test_Run_Button(program);
+    Test_Run_Button(program); // Deliberate: though a tool may be missing; the run looks for it again.
     Default_Run(program);
 }
 

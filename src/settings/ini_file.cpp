@@ -95,13 +95,20 @@ void Ini_Document::Index_Keys(Section& section) const
                  });
 }
 
+/// A value on one line, as it is written; a lone CR or a value from elsewhere could hold a line break.
+static QString On_One_Line(const QString& value)
+{
+    QString line = Cut_At_Nul(value);
+    return line.replace(Line_Break, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
+}
+
 static QString Value_As_Read(QByteArrayView bytes)
 {
     QByteArrayView value = bytes.trimmed();
     const bool is_quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'');
     if (is_quoted && value.back() == value.front())
         value = value.sliced(1, value.size() - 2);
-    QString text = Cut_At_Nul(QString::fromUtf8(value));
+    QString text = On_One_Line(QString::fromUtf8(value));
     if (text.size() <= Longest_Value)
         return text;
     return text.left(text.at(Longest_Value - 1).isHighSurrogate() ? Longest_Value - 1 : Longest_Value);
@@ -110,13 +117,6 @@ static QString Value_As_Read(QByteArrayView bytes)
 QString Ini_Value_As_Read(const QString& text)
 {
     return Value_As_Read(text.toUtf8());
-}
-
-/// A value as it is written: on one line.
-static QString Value_As_Written(const QString& value)
-{
-    QString line = Cut_At_Nul(value);
-    return line.replace(Line_Break, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
 }
 
 std::optional<QString> Ini_Document::Value(const QString& section, const QString& key) const
@@ -150,7 +150,7 @@ void Ini_Document::Set_Value(const QString& section, const QString& key, const Q
         found = record->Keys.insert(name, {0, 0, std::nullopt, true});
         record->Added.push_back(key.toUtf8());
     }
-    found->New_Value = Value_As_Written(value);
+    found->New_Value = On_One_Line(value);
 }
 
 void Ini_Document::Delete_Section(const QString& section)

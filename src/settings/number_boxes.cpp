@@ -101,6 +101,8 @@ void txt_AudioDelayValue_Key(Program& program, Number_Key key)
     switch (key) {
     case Number_Key::Escape:
         Set_Text_Caret_Last(box, program.Options.Audio_Delay);
+        // A text that is put there is a change like one that is typed: it is what the next bad key returns to.
+        Apply_Delay_Rule(box, program.Form.Audio_Delay_Last_Good);
         break;
     case Number_Key::Backspace:
         program.Options.Audio_Delay = box.Text;
@@ -149,6 +151,7 @@ void txt_SplitVideosValue_Key(Program& program, Number_Key key)
         if (minutes.isEmpty())
             minutes = u"30"_s;
         Set_Text_Caret_Last(box, minutes);
+        Apply_Split_Rule(box, program.Form.Split_Minutes_Last_Good);
         break;
     case Number_Key::Backspace:
         minutes = box.Text;
@@ -156,6 +159,7 @@ void txt_SplitVideosValue_Key(Program& program, Number_Key key)
     case Number_Key::Enter:
         if (Too_Short(box.Text))
             Set_Text_Caret_Last(box, u"10"_s);
+        Apply_Split_Rule(box, program.Form.Split_Minutes_Last_Good);
         minutes = box.Text;
         break;
     }
@@ -169,6 +173,7 @@ void txt_SplitVideosValue_LostFocus(Program& program)
     minutes = program.Form.txt_SplitVideosValue.Text;
     if (!Too_Short(minutes))
         return;
-    minutes = u"30"_s;
+    minutes = u"30"_s; // Deliberate: with Enter it becomes 10.
     Set_Text_Caret_Last(program.Form.txt_SplitVideosValue, minutes);
+    Apply_Split_Rule(program.Form.txt_SplitVideosValue, program.Form.Split_Minutes_Last_Good);
 }

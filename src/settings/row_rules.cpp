@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 std::optional<QString> On_Off_Text(int value)
 {
+    // Deliberate: a box that a bad word left neither ticked nor unticked has no text, and the writing ends there.
     return Word_Of({u"Off"_s, u"On"_s}, value);
 }
 
@@ -38,6 +39,7 @@ Settings_Row Check_Row(const QString& section, const QString& key, Check_Box Job
 
 Settings_Row Plain_On_Row(const QString& section, const QString& key, Check_Box JobOptions::*box)
 {
+    // Deliberate: a missing key means on here, while the first file says off.
     Settings_Row row = Check_Row(section, key, box, u"on"_s);
     row.Take = [box](Program& program, const QString& text, const QString&) {
         (program.Options.*box).Value = text.toLower() == u"on"_s ? 1 : 0;
@@ -150,6 +152,7 @@ Settings_Row Languages_Row(const QString& section, const QString& key, const QSt
             .Default = u"None"_s,
             .Written =
                 [filter, empty_word](const Program& program) {
+                    // Deliberate: the empty word is NONE for audio and None for subtitles.
                     const QString& languages = (program.Options.*filter).Languages;
                     return languages.isEmpty() ? empty_word : languages;
                 },

@@ -39,6 +39,7 @@ static std::vector<Settings_Row> Menu_And_Path_Rows()
 {
     const QString paths = u"Paths"_s;
     return {
+        // Deliberate: a missing key means on here and for "Delete Processed File", while the first file says off.
         Truth_Row(u"Menu"_s, u"Append Logs"_s, u"True"_s, &JobOptions::mnu_AppendLogs),
         {.Section = u"Menu"_s,
          .Key = u"Log Verbosity "_s, // Deliberate: written with a blank at its end, which no reader minds.

@@ -64,6 +64,7 @@ Write_Outcome Write_Settings_To(Program& program, bool reset_fonts, Ini_Document
         if (row.Section_Starts_Anew)
             Delete_Ini_Section(document, row.Section);
         Write_Ini_Key(document, row.Section, row.Key, *text);
+        // Deliberate: without saving at the end nothing else is saved, when the operator asks for it neither.
         if (row.Number == Row::Save_On_Exit && !program.Settings.Save_On_Exit)
             break;
     }

@@ -18,6 +18,7 @@ TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
                                 "Single='it'\n"
                                 "Half=\"open\n"
                                 "Nested=\"\"a\"\"\n"
+                                "Broken=one\rtwo\n"
                                 "Empty=\n"
                                 ";Hidden=1\n"
                                 "No equals sign\n"
@@ -43,6 +44,7 @@ TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
         {u"Menu"_s, u"Single"_s, u"it"_s},
         {u"Menu"_s, u"Half"_s, u"\"open"_s},
         {u"Menu"_s, u"Nested"_s, u"\"a\""_s},
+        {u"Menu"_s, u"Broken"_s, u"one two"_s},
         {u"Menu"_s, u"Empty"_s, u""_s},
         {u"Menu"_s, u"Missing"_s, std::nullopt},
         {u"Menu"_s, u"Hidden"_s, std::nullopt},

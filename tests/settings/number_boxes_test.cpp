@@ -139,6 +139,33 @@ TEST_F(NumberBoxes, ABadFirstKeyReturnsToTheTextThatWasLoaded)
     EXPECT_EQ(Prog.Form.txt_SplitVideosValue.Caret, 0);
 }
 
+TEST_F(NumberBoxes, ABadKeyReturnsToTheTextThatAKeyOrTheLeavingPutThere)
+{
+    Text_Box& delay = Prog.Form.txt_AudioDelayValue;
+    Prog.Options.Audio_Delay = u"500"_s;
+    Type_Delay(u"12"_s);
+    txt_AudioDelayValue_Key(Prog, Number_Key::Escape);
+    Type_Delay(u"x"_s);
+    EXPECT_EQ(delay.Text, u"500"_s);
+
+    Text_Box& split = Prog.Form.txt_SplitVideosValue;
+    Prog.Options.Split_Minutes = u"45"_s;
+    Type_Split(u"7"_s);
+    txt_SplitVideosValue_Key(Prog, Number_Key::Escape);
+    Type_Split(u"x"_s);
+    EXPECT_EQ(split.Text, u"45"_s);
+    split = {};
+    Type_Split(u"7"_s);
+    txt_SplitVideosValue_Key(Prog, Number_Key::Enter);
+    Type_Split(u"x"_s);
+    EXPECT_EQ(split.Text, u"10"_s);
+    split = {};
+    Type_Split(u"7"_s);
+    txt_SplitVideosValue_LostFocus(Prog);
+    Type_Split(u"x"_s);
+    EXPECT_EQ(split.Text, u"30"_s);
+}
+
 TEST_F(NumberBoxes, KeysOfTheDelayBoxStoreAndRestore)
 {
     Text_Box& box = Prog.Form.txt_AudioDelayValue;

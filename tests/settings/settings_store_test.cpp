@@ -257,6 +257,7 @@ TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
         {u"audio/AUDIO delay= 70 "_s, Override_Result::Taken},
         {u"Subtitles/Set All Subtitle defaults to no/yes=no"_s, Override_Result::Taken},
         {u"Other Options/Set Custom File Title Text=\"a=b/c\""_s, Override_Result::Taken},
+        {u"Other Options/Set Custom Video Title Text=one\ntwo"_s, Override_Result::Taken},
         {u"Menu/Log Verbosity=5"_s, Override_Result::Taken},
         {u"Experimental/Vantorra Run is Default=True"_s, Override_Result::Taken},
         {u"Paths/Last Videos Path=/x/"_s, Override_Result::Without_Effect},
@@ -277,6 +278,7 @@ TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
     EXPECT_EQ(test.Prog.Options.Audio_Delay, u"70"_s);
     EXPECT_EQ(test.Prog.Options.chk_SubDefaults.Tag, u"no"_s);
     EXPECT_EQ(test.Prog.Options.Custom_File_Title, u"a=b/c"_s);
+    EXPECT_EQ(test.Prog.Options.Custom_Video_Title, u"one two"_s);
     EXPECT_EQ(test.Prog.Options.Log_Verbosity, 5);
     EXPECT_EQ(Value_In_Force(*Find_Row(u"Audio"_s, u"Audio Delay"_s), test.Prog), u"70"_s);
 }
