@@ -1,5 +1,7 @@
 #include "headless/batch_options.h"
 
+#include "settings/app_folder.h"
+
 #include <QCommandLineParser>
 #include <QDir>
 #include <QHash>
@@ -11,7 +13,9 @@ static void Describe(QCommandLineParser& parser)
     parser.setApplicationDescription(
         u"Turns every video of a folder into a Matroska file of the same name, with mkvmerge.\n\n"
         "exit status: 0 finished, no failure seen; 1 refused before the loop; 2 finished, some file failed;\n"
-        "             64 bad usage; 70 run-time error; 130 halted (SIGINT, SIGTERM)"_s);
+        "             64 bad usage; 70 run-time error; 130 halted (SIGINT, SIGTERM)\n\n"
+        "The program's folder here, where no --app-folder names another: "_s +
+        Choose_App_Folder(App_Folder_Places_Of_This_Process({})));
     parser.addOptions({
         {u"videos"_s, u"Take the videos from DIR instead of the remembered folder."_s, u"DIR"_s},
         {u"target"_s, u"Put the Matroska files into DIR instead of the remembered folder."_s, u"DIR"_s},

@@ -77,13 +77,16 @@ TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
     }
 }
 
-TEST(Batch_Options, HelpNamesEveryOptionAndStatus)
+TEST(Batch_Options, HelpNamesEveryOptionAndStatusAndTheProgramsFolder)
 {
+    const QByteArray present = qgetenv("VANTORRA_HOME");
+    qputenv("VANTORRA_HOME", "/some/where");
     const Batch_Line help = Parse({u"--help"_s, u"--videos"_s, u"/nowhere"_s});
+    present.isNull() ? qunsetenv("VANTORRA_HOME") : qputenv("VANTORRA_HOME", present);
     EXPECT_FALSE(help.Options);
-    for (const QString& word :
-         {u"--videos"_s, u"--target"_s, u"--app-folder"_s, u"--set"_s, u"--tick"_s, u"--untick"_s, u"--dry-run"_s,
-          u"--json"_s, u"--quiet"_s, u"--version"_s, u"--help"_s, u"settings"_s, u"identify"_s, u"log"_s, u"130"_s})
+    for (const QString& word : {u"--videos"_s, u"--target"_s, u"--app-folder"_s, u"--set"_s, u"--tick"_s, u"--untick"_s,
+                                u"--dry-run"_s, u"--json"_s, u"--quiet"_s, u"--version"_s, u"--help"_s, u"settings"_s,
+                                u"identify"_s, u"log"_s, u"130"_s, u"/some/where/\n"_s})
         EXPECT_TRUE(help.Text.contains(word)) << word.toStdString();
     EXPECT_EQ(Parse({u"--version"_s}).Text, u"vantorra-batch 2.5.5\n"_s);
 }
