@@ -1,0 +1,43 @@
+#include "forms/elided_label.h"
+
+#include <QPainter>
+#include <QStyle>
+
+Elided_Label::Elided_Label(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void Elided_Label::Set_Text(const QString& text)
+{
+    if (text == this->text())
+        return;
+    setText(text);
+    // A tooltip guesses whether its text is markup; a path never is.
+    setToolTip(text.isEmpty() ? QString() : text.toHtmlEscaped().prepend(QStringLiteral("<qt>")));
+    setAccessibleName(text);
+}
+
+QString Elided_Label::Shown_Text() const
+{
+    QString line = text();
+    line.replace(u'\n', u' ').replace(u'\r', u' ');
+    return fontMetrics().elidedText(line, Qt::ElideMiddle, contentsRect().width());
+}
+
+QSize Elided_Label::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 8, fontMetrics().height()};
+}
+
+QSize Elided_Label::sizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 30, fontMetrics().height()};
+}
+
+void Elided_Label::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
+                          isEnabled(), Shown_Text(), foregroundRole());
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label for a path or file name: one line, cut in the middle where the room is too small, with the whole text in
+/// its tooltip. The text is shown as it is, never as markup.
+class Elided_Label : public QLabel
+{
+    Q_OBJECT
+
+  public:
+    explicit Elided_Label(QWidget* parent = nullptr);
+
+    void Set_Text(const QString& text);
+    /// The text as it stands on the form now, cut or not.
+    QString Shown_Text() const;
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,30 @@
+#include "forms/form_registry.h"
+
+#include "forms/about_view.h"
+#include "forms/attachments_view.h"
+#include "forms/custom_title_view.h"
+#include "forms/frame_rate_view.h"
+#include "forms/language_filter_view.h"
+#include "forms/locations_view.h"
+#include "forms/recent_list_view.h"
+#include "forms/video_format_view.h"
+
+using namespace Qt::StringLiterals;
+
+template <typename Form>
+static Program_Dialog* Make(Program& program, Slot_Guard& guard, QWidget* owner)
+{
+    return new Form(program, guard, owner);
+}
+
+const std::map<QString, Form_Maker>& Form_Makers()
+{
+    static const std::map<QString, Form_Maker> makers{
+        {u"frm_Attachments"_s, Make<Attachments_View>},   {u"frm_CustomFilter"_s, Make<Language_Filter_View>},
+        {u"frm_CustomTitle"_s, Make<Custom_Title_View>},  {u"frm_Locations"_s, Make<Locations_View>},
+        {u"frm_SourceMRU"_s, Make<Source_MRU_View>},      {u"frm_Splash"_s, Make<About_View>},
+        {u"frm_TargetMRU"_s, Make<Target_MRU_View>},      {u"frm_VideoFormatOptions"_s, Make<Video_Format_View>},
+        {u"frm_VideoFrameRate"_s, Make<Frame_Rate_View>},
+    };
+    return makers;
+}

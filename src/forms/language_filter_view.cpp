@@ -1,0 +1,111 @@
+#include "forms/language_filter_view.h"
+
+#include "forms/bindings.h"
+#include "forms/screen_place.h"
+#include "program.h"
+#include "ui_language_filter_view.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+
+Language_Filter_View::Language_Filter_View(Program& program, Slot_Guard& guard, QWidget* owner)
+    : Program_Dialog(program, guard, owner), ui_(std::make_unique<Ui::frm_CustomFilter>())
+{
+    ui_->setupUi(this);
+    On_Click(ui_->opt_CustomFilter_0, [this] { opt_CustomFilter_Click(program_, 0); });
+    On_Click(ui_->opt_CustomFilter_1, [this] { opt_CustomFilter_Click(program_, 1); });
+    On_Click(ui_->btn_CustomClear, [this] { btn_CustomClear_Click(program_); });
+    On_Click(ui_->btn_Done, [this] { btn_CustomFilter_Done_Click(program_); });
+    On_Click(ui_->btn_Cancel, [this] { btn_CustomFilter_Cancel_Click(program_); });
+    for (QListWidget* list : {ui_->lst_LanguageList, ui_->lst_LanguageSelection}) {
+        list->installEventFilter(this);
+        connect(list, &QListWidget::clicked, this,
+                [this, list](const QModelIndex& index) { Line_Clicked(list, index.row()); });
+    }
+}
+
+Language_Filter_View::~Language_Filter_View() = default;
+
+void Language_Filter_View::Line_Clicked(const QListWidget* list, int index)
+{
+    guard_.Call([&] {
+        if (list == ui_->lst_LanguageList)
+            lst_LanguageList_Click(program_, index);
+        else
+            lst_LanguageSelection_Click(program_, index);
+    });
+}
+
+bool Language_Filter_View::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* list = qobject_cast<QListWidget*>(watched);
+    if (!list || event->type() != QEvent::KeyPress)
+        return Program_Dialog::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+        return false;
+    if (list->currentRow() >= 0)
+        Line_Clicked(list, list->currentRow());
+    return true;
+}
+
+void Language_Filter_View::Open()
+{
+    const Language_Filter_Form& form = program_.Language_Filter;
+    if (form.Has_Place)
+        setGeometry(Onto_Screen(QRect(form.Place.Left, form.Place.Top, form.Place.Width, form.Place.Height)));
+    else
+        Centre_On_Owner();
+    ui_->lst_LanguageList->setFocus();
+}
+
+/// Rebuilds the list only if it changed; the place in it stays, and no line is marked.
+static void Show_Lines(QListWidget& list, const QStringList& lines)
+{
+    bool same = list.count() == lines.size();
+    for (int i = 0; same && i < list.count(); ++i)
+        same = list.item(i)->text() == lines[i];
+    if (!same) {
+        const int row = list.currentRow();
+        const int scroll = list.verticalScrollBar()->value();
+        list.clear();
+        list.addItems(lines);
+        list.setCurrentRow(std::min(row, list.count() - 1), QItemSelectionModel::NoUpdate);
+        list.verticalScrollBar()->setValue(scroll);
+    }
+    list.clearSelection();
+}
+
+void Language_Filter_View::Render()
+{
+    const Language_Filter_Form& form = program_.Language_Filter;
+    setWindowTitle(form.Caption);
+    ui_->opt_CustomFilter_0->setText(With_Letter(form.opt_CustomFilter_Captions[0], u'F'));
+    ui_->opt_CustomFilter_1->setText(With_Letter(form.opt_CustomFilter_Captions[1], u'K'));
+    ui_->opt_CustomFilter_0->setChecked(form.opt_CustomFilter == 0);
+    ui_->opt_CustomFilter_1->setChecked(form.opt_CustomFilter != 0);
+    Show_Lines(*ui_->lst_LanguageList, form.lst_LanguageList);
+    Show_Lines(*ui_->lst_LanguageSelection, form.lst_LanguageSelection);
+    Show_Label(*ui_->lbl_SelLanguages, form.lbl_SelLanguages);
+    Show_Label(*ui_->lbl_List1Count, form.lbl_List1Count);
+    Show_Label(*ui_->lbl_MaxLanguages, form.lbl_MaxLanguages);
+    Hide_Unless(form.Visible);
+}
+
+void Language_Filter_View::Note_Place()
+{
+    if (isVisible())
+        program_.Language_Filter.Place = {geometry().left(), geometry().top(), width(), height(), 0};
+}
+
+void Language_Filter_View::moveEvent(QMoveEvent* event)
+{
+    Program_Dialog::moveEvent(event);
+    Note_Place();
+}
+
+void Language_Filter_View::resizeEvent(QResizeEvent* event)
+{
+    Program_Dialog::resizeEvent(event);
+    Note_Place();
+}

@@ -1,0 +1,87 @@
+#include "forms/looks.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPainter>
+#include <QPixmap>
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+bool Is_Dark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+static QColor Shade(const QPalette& palette, QRgb on_light, QRgb on_dark)
+{
+    return Is_Dark(palette) ? QColor(on_dark) : QColor(on_light);
+}
+
+QColor Finished_Colour(const QPalette& palette)
+{
+    return Shade(palette, 0xff13722f, 0xff63d683);
+}
+
+QColor Interrupted_Colour(const QPalette& palette)
+{
+    return Shade(palette, 0xffa3108f, 0xffff86f0);
+}
+
+QColor Fault_Colour(const QPalette& palette)
+{
+    return Shade(palette, 0xffb3261e, 0xffff9a8f);
+}
+
+QColor Mark_Colour(const QPalette& palette)
+{
+    return Shade(palette, 0xff8a5200, 0xffffc061);
+}
+
+QIcon Picture(const QString& name, const QPalette& palette)
+{
+    const QIcon drawn(u":/images/"_s + name + u".svg"_s);
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64}) {
+        QPixmap pixmap = drawn.pixmap(QSize(side, side), 1.0);
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), palette.color(QPalette::WindowText));
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+void Tint(QLabel& label, const QColor& colour)
+{
+    QPalette own = QApplication::palette(&label);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
+        own.setColor(role, colour);
+    label.setPalette(own);
+}
+
+/// Relative luminance as the contrast rules of the web define it.
+static double Luminance(const QColor& colour)
+{
+    const auto part = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other)
+{
+    const double a = Luminance(one) + 0.05;
+    const double b = Luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+QColor Under_White_Text(QColor colour)
+{
+    while (Contrast(colour, Qt::white) < 4.5)
+        colour = colour.darker(105);
+    return colour;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QPalette>
+#include <QString>
+
+class QLabel;
+
+/// The few colours that mean something, each in a light and a dark shade so that it reads well on either palette, and
+/// the program's own pictures.
+
+bool Is_Dark(const QPalette& palette);
+QColor Finished_Colour(const QPalette& palette);
+QColor Interrupted_Colour(const QPalette& palette);
+QColor Fault_Colour(const QPalette& palette);
+QColor Mark_Colour(const QPalette& palette);
+
+/// A picture of ours by its file's name; those drawn in one colour take that of the palette's text.
+QIcon Picture(const QString& name, const QPalette& palette);
+
+/// Gives a label's words that colour, on whatever it stands.
+void Tint(QLabel& label, const QColor& colour);
+
+/// From 1 to 21; 4.5 is what small text needs.
+double Contrast(const QColor& one, const QColor& other);
+/// The colour, darkened until white text reads on it.
+QColor Under_White_Text(QColor colour);

@@ -1,0 +1,40 @@
+#include "forms/desktop.h"
+#include "forms/readable_style.h"
+#include "forms/session_end.h"
+#include "settings/app_folder.h"
+#include "settings/instance_lock.h"
+#include "settings/start_up.h"
+
+#include <QApplication>
+#include <QIcon>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"vantorra"_s);
+    QApplication::setApplicationDisplayName(u"Vantorra"_s);
+    QApplication::setApplicationVersion(QStringLiteral(VANTORRA_VERSION));
+    QApplication::setDesktopFileName(u"vantorra"_s);
+    QApplication::setStyle(new Readable_Style);
+    // A box that is answered before the window is seen must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    Desktop desktop;
+    QApplication::setWindowIcon(QIcon(u":/images/vantorra.svg"_s));
+    desktop.Prog.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process({}));
+    desktop.Form.Propose_Place();
+
+    Instance_Lock lock;
+    bool started = false;
+    desktop.Guard.Call([&] { started = Start_Up(desktop.Prog, &lock); });
+    if (desktop.Guard.Ended())
+        return Run_Time_Error_Status;
+    if (!started)
+        return 0;
+
+    const Session_End session(desktop.Prog, desktop.Guard, desktop.Form);
+    desktop.Form.Show_First();
+    return QApplication::exec();
+}

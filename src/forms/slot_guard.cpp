@@ -1,0 +1,36 @@
+#include "forms/slot_guard.h"
+
+#include "forms/window_operator.h"
+#include "logs/last_entry.h"
+#include "program.h"
+#include "support/run_time_error.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+void Slot_Guard::Call(const std::function<void()>& rule)
+{
+    if (ending_)
+        return;
+    try {
+        rule();
+        if (!ending_)
+            render_();
+    } catch (const End_Of_Program&) {
+        return;
+    } catch (const Run_Time_Error& error) {
+        End_Program(error.Message());
+    } catch (const std::exception& error) {
+        End_Program(u"Run-time error: "_s + QString::fromLocal8Bit(error.what()));
+    }
+}
+
+void Slot_Guard::End_Program(const QString& message)
+{
+    ending_ = true; // no slot does anything while the entry is written
+    Write_Last_Entry(program_);
+    ended_ = true;
+    Show_Fatal_Error(message);
+    QCoreApplication::exit(Run_Time_Error_Status);
+}

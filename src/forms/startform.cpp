@@ -1,0 +1,276 @@
+#include "forms/startform.h"
+
+#include "forms/bindings.h"
+#include "forms/looks.h"
+#include "forms/menu_bar.h"
+#include "forms/number_box_view.h"
+#include "forms/options_layout.h"
+#include "forms/popup_menus.h"
+#include "forms/slot_guard.h"
+#include "program.h"
+#include "run/results_digest.h"
+#include "run/run_driver.h"
+#include "settings/click_rules.h"
+#include "settings/folder_changes.h"
+#include "settings/menu_commands.h"
+#include "settings/option_rules.h"
+#include "settings/recent_folders.h"
+#include "settings/start_up.h"
+#include "ui_startform.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+
+using namespace Qt::StringLiterals;
+
+/// Pictures in a library that is linked in whole need a word to be registered.
+static void Load_Pictures()
+{
+    Q_INIT_RESOURCE(forms);
+}
+
+Startform::Startform(Program& program, Slot_Guard& guard)
+    : program_(program), guard_(guard), ui_(std::make_unique<Ui::Startform>())
+{
+    Load_Pictures();
+    ui_->setupUi(this);
+    // No close button: leaving goes through the menu, the quit button or Alt+F4. Some window managers close all the
+    // same; that counts as Alt+F4.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
+    options_ = new Options_Layout(*ui_, this);
+    Connect_Options();
+    Connect_Folders();
+    Connect_Run();
+    Connect_Right_Clicks();
+    Connect_Menus(*this, program_, guard_);
+    Set_Looks();
+    qApp->installEventFilter(this);
+}
+
+Startform::~Startform()
+{
+    guard_.Stop(); // a control that goes may still tell that it lost the focus
+}
+
+void Startform::Connect_Options()
+{
+    for (const Click_Rule& rule : Click_Rules())
+        if (auto* box = findChild<QCheckBox*>(rule.Name))
+            connect(box, &QCheckBox::clicked, this, [this, &rule] { guard_.Call([&] { Click(program_, rule); }); });
+
+    const auto connect_pair = [this](QRadioButton* first, QRadioButton* second, void (*rule)(Program&, int)) {
+        connect(first, &QRadioButton::clicked, this, [=, this] { guard_.Call([&] { rule(program_, 1); }); });
+        connect(second, &QRadioButton::clicked, this, [=, this] { guard_.Call([&] { rule(program_, 2); }); });
+    };
+    connect_pair(ui_->opt_SetFileTitle_1, ui_->opt_SetFileTitle_2, opt_SetFileTitle_Click);
+    connect_pair(ui_->opt_SetVideoTitle_1, ui_->opt_SetVideoTitle_2, opt_SetVideoTitle_Click);
+
+    connect(ui_->lbl_ChapsFormat, &QToolButton::clicked, this,
+            [this] { guard_.Call([this] { lbl_ChapsFormat_Click(program_); }); });
+    number_boxes_ = {
+        new Number_Box_View(program_, guard_, *ui_->txt_AudioDelayValue, program_.Form.txt_AudioDelayValue,
+                            {txt_AudioDelayValue_Change, txt_AudioDelayValue_Key, txt_AudioDelayValue_LostFocus}),
+        new Number_Box_View(program_, guard_, *ui_->txt_SplitVideosValue, program_.Form.txt_SplitVideosValue,
+                            {txt_SplitVideosValue_Change, txt_SplitVideosValue_Key, txt_SplitVideosValue_LostFocus})};
+}
+
+void Startform::Connect_Folders()
+{
+    const auto panel = [this](Drop_Panel* pane, QToolButton* browse, auto drop, auto pick) {
+        connect(pane, &Drop_Panel::Dropped, this,
+                [=, this](const Drop_Data& dropped) { guard_.Call([&] { drop(program_, dropped); }); });
+        connect(browse, &QToolButton::clicked, this, [=, this] { guard_.Call([&] { pick(program_); }); });
+    };
+    panel(ui_->pic_VideosPath, ui_->btn_BrowseVideos, Drop_On_Videos_Panel, mnu_PopupVideoBrowse1_Click);
+    panel(ui_->pic_AudioPath, ui_->btn_BrowseAudio, Drop_On_Audio_Panel, mnu_PopupAudioBrowse1_Click);
+    panel(ui_->pic_SubsPath, ui_->btn_BrowseSubs, Drop_On_Subs_Panel, mnu_PopupSubsBrowse1_Click);
+    panel(ui_->pic_ChaptersPath, ui_->btn_BrowseChapters, Drop_On_Chapters_Panel, mnu_PopupChapsBrowse1_Click);
+    panel(ui_->pic_TargetPath, ui_->btn_BrowseTarget, Drop_On_Target_Panel, mnu_PopupTargetBrowse1_Click);
+
+    const auto arrow = [this](QToolButton* button, auto press, auto click) {
+        connect(button, &QToolButton::pressed, this, [=, this] { guard_.Call([&] { press(program_); }); });
+        connect(button, &QToolButton::clicked, this, [=, this] { guard_.Call([&] { click(program_); }); });
+    };
+    arrow(ui_->img_SourceMRU, img_SourceMRU_MouseDown, img_SourceMRU_Click);
+    arrow(ui_->img_TargetMRU, img_TargetMRU_MouseDown, img_TargetMRU_Click);
+}
+
+void Startform::Connect_Run()
+{
+    connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this,
+            [this](const Mouse_Release& release) { guard_.Call([&] { btn_RunVantorra_MouseUp(program_, release); }); });
+    connect(ui_->img_Quit, &QPushButton::clicked, this, [this] { guard_.Call([this] { img_Quit_Click(program_); }); });
+    connect(ui_->btn_ViewVidInfo, &QPushButton::clicked, this,
+            [this] { guard_.Call([this] { btn_ViewVidInfo_Click(program_); }); });
+    connect(ui_->img_ProcessFailed, &QToolButton::clicked, this,
+            [this] { guard_.Call([this] { Flash_Process_Failed(program_); }); });
+    connect(ui_->btn_Halt, &Release_Button::Released_At, this,
+            [this] { guard_.Call([this] { btn_Halt_MouseUp(program_); }); });
+}
+
+void Startform::Connect_Right_Clicks()
+{
+    Connect_Popups(*this, program_, guard_);
+    for (QCheckBox* box : {ui_->chk_SubDefaults, ui_->chk_SubForces, ui_->chk_AddAttachments})
+        box->installEventFilter(this);
+    ui_->pic_ViewVidInfo->installEventFilter(this);
+}
+
+void Startform::Set_Looks()
+{
+    const QPalette& colours = palette();
+    for (QToolButton* arrow : {ui_->img_SourceMRU, ui_->img_TargetMRU})
+        arrow->setIcon(Picture(u"arrow_down"_s, colours));
+    for (QToolButton* browse : Browse_Buttons())
+        browse->setIcon(Picture(u"folder"_s, colours));
+    ui_->img_ProcessFailed->setIcon(QIcon(u":/images/failed.svg"_s));
+    for (QFrame* box : Path_Boxes())
+        box->setBackgroundRole(QPalette::Base);
+
+    for (QLabel* fault : Fault_Labels())
+        Tint(*fault, Fault_Colour(colours));
+    for (QLabel* mark : {ui_->lbl_AudipPathEmpty, ui_->lbl_SubsPathEmpty, ui_->lbl_ChapsPathEmpty})
+        Tint(*mark, Mark_Colour(colours));
+    ui_->btn_RunVantorra->Set_Colour(Under_White_Text(colours.color(QPalette::Active, QPalette::Highlight)));
+    ui_->btn_Halt->Set_Colour(QColor(0xb7, 0x1c, 0x1c));
+    options_->Measure();
+
+    Measure();
+}
+
+void Startform::Measure()
+{
+    // Nested layouts remember sizes of an earlier font.
+    for (QLayout* nested : findChildren<QLayout*>())
+        nested->invalidate();
+    options_->Measure();
+    // The titles of the folders stand in one column, the boxes in the next.
+    const QList<QLabel*> titles{ui_->lbl_VideosPathTitle, ui_->lbl_AudioPathTitle, ui_->lbl_SubsPathTitle,
+                                ui_->lbl_ChaptersPathTitle, ui_->lbl_TargetPathTitle};
+    int title_width = 0;
+    for (const QLabel* title : titles)
+        title_width = std::max(title_width, title->sizeHint().width());
+    for (QLabel* title : titles)
+        title->setMinimumWidth(title_width);
+    const int row = ui_->txt_AudioDelayValue->sizeHint().height();
+    for (QFrame* box : Path_Boxes())
+        box->setFixedHeight(row);
+    for (QToolButton* button : Browse_Buttons())
+        button->setFixedSize(row + 4, row);
+
+    QFont bold = font();
+    bold.setBold(true);
+    for (QPushButton* button : {ui_->btn_RunVantorra, ui_->btn_Halt}) {
+        button->setFont(bold);
+        button->setMinimumSize(fontMetrics().horizontalAdvance(u"Run Vantorra"_s) * 2, fontMetrics().height() * 5 / 2);
+    }
+    for (QPushButton* button : {ui_->img_Quit, ui_->btn_ViewVidInfo})
+        button->setMinimumHeight(row + 4);
+    ui_->pic_Progress->setFixedHeight(row);
+    ui_->lbl_ProgressFinished->setFont(bold);
+}
+
+QList<QFrame*> Startform::Path_Boxes() const
+{
+    return {ui_->box_VideosPath, ui_->box_AudioPath, ui_->box_SubsPath, ui_->box_ChaptersPath, ui_->box_TargetPath};
+}
+
+QList<QToolButton*> Startform::Browse_Buttons() const
+{
+    return {ui_->btn_BrowseVideos, ui_->btn_BrowseAudio, ui_->btn_BrowseSubs, ui_->btn_BrowseChapters,
+            ui_->btn_BrowseTarget};
+}
+
+QList<QLabel*> Startform::Fault_Labels() const
+{
+    return {ui_->lbl_VideoPathFault, ui_->lbl_AudioPathFault, ui_->lbl_SubsPathFault, ui_->lbl_ChapsPathFault,
+            ui_->lbl_TargetPathFault};
+}
+
+void Startform::Render()
+{
+    const Main_Form& form = program_.Form;
+    setWindowTitle(form.Caption);
+    for (const Click_Rule& rule : Click_Rules())
+        if (auto* box = findChild<QCheckBox*>(rule.Name))
+            Show_Check_Box(*box, program_.Options.*rule.Box);
+    for (const auto& [name, field] : Button_Bindings())
+        if (auto* button = findChild<QAbstractButton*>(QLatin1StringView(name)))
+            Show_Button(*button, form.*field);
+
+    Show_Option_Pair(*ui_->opt_SetFileTitle_1, *ui_->opt_SetFileTitle_2, program_.Options.opt_SetFileTitle);
+    Show_Option_Pair(*ui_->opt_SetVideoTitle_1, *ui_->opt_SetVideoTitle_2, program_.Options.opt_SetVideoTitle);
+    ui_->lbl_ChapsFormat->setText(program_.Options.lbl_ChapsFormat.Caption);
+    ui_->lbl_ChapsFormat->setEnabled(program_.Options.lbl_ChapsFormat.Enabled);
+    for (Number_Box_View* box : number_boxes_)
+        box->Render();
+    for (Tree_Line* line : {ui_->lin_AudioDiagram_1, ui_->lin_AudioDiagram_2})
+        line->Set_On(form.Audio_Diagram_On);
+    for (Tree_Line* line : {ui_->lin_SubsDiagram_1, ui_->lin_SubsDiagram_2})
+        line->Set_On(form.Subs_Diagram_On);
+
+    ui_->btn_RunVantorra->setText(With_Letter(form.btn_RunVantorra.Caption, u'R'));
+    ui_->btn_Halt->setText(With_Letter(form.btn_Halt.Caption, QChar()));
+    ui_->btn_ViewVidInfo->setText(With_Letter(form.btn_ViewVidInfo.Caption, u'I'));
+    Render_Folders();
+    Render_Progress();
+    Render_Menus(*this, program_);
+    Render_Place();
+    Render_Focus();
+}
+
+void Startform::Render_Folders()
+{
+    const Main_Form& form = program_.Form;
+    const int before = ui_->fram_Paths->sizeHint().height();
+    for (const auto& [name, field] : Panel_Bindings())
+        if (auto* panel = findChild<QWidget*>(QLatin1StringView(name))) {
+            panel->setEnabled((form.*field).Enabled);
+            panel->setVisible((form.*field).Visible);
+        }
+    for (const auto& [name, field] : Label_Bindings())
+        if (auto* label = findChild<QLabel*>(QLatin1StringView(name)))
+            Show_Label(*label, form.*field);
+    for (QLabel* fault : Fault_Labels())
+        fault->setVisible(fault->isVisibleTo(fault->parentWidget()) && !fault->text().isEmpty());
+    // A fault that stands alone takes the place of the path.
+    const QList<Elided_Label*> shown{ui_->ulbl_VideosPath, ui_->ulbl_AudioPath, ui_->ulbl_SubsPath,
+                                     ui_->ulbl_ChaptersPath, ui_->ulbl_TargetPath};
+    for (Elided_Label* path : shown)
+        path->setVisible(!path->text().isEmpty() || Fault_Labels()[shown.indexOf(path)]->isHidden());
+
+    ui_->lbl_VideosPathTitle->setText(With_Letter(form.pic_VideosPath.Caption, u'V'));
+    ui_->lbl_AudioPathTitle->setText(With_Letter(form.pic_AudioPath.Caption, u'd'));
+    ui_->lbl_SubsPathTitle->setText(With_Letter(form.pic_SubsPath.Caption, u'b'));
+    ui_->lbl_ChaptersPathTitle->setText(With_Letter(form.pic_ChaptersPath.Caption, u'e'));
+    ui_->lbl_TargetPathTitle->setText(With_Letter(form.pic_TargetPath.Caption, u'T'));
+    ui_->img_SourceMRU->setDown(program_.Source_MRU_Form.Arrow_Pressed);
+    ui_->img_TargetMRU->setDown(program_.Target_MRU_Form.Arrow_Pressed);
+    Fit_Panels(before);
+}
+
+void Startform::Render_Progress()
+{
+    const Main_Form& form = program_.Form;
+    ui_->ulbl_Title1->setVisible(form.ulbl_Title1.Visible && !form.ulbl_Title1.Caption.isEmpty());
+    ui_->pic_Progress->Set_Progress(form.Progress_Fraction, form.Progress);
+    ui_->img_ProcessFailed->setIconSize(form.img_ProcessFailed_Out ? QSize(1, 1) : QSize(32, 32));
+}
+
+void Startform::Render_Focus()
+{
+    QString& name = program_.Form.Focus;
+    if (name.isEmpty())
+        return;
+    // Deliberate: a check box that a key has clicked keeps the focus, or the next key would go nowhere. A click with
+    // the mouse parks it.
+    const bool keep =
+        name == u"btn_NOP" && by_key_ && qobject_cast<QAbstractButton*>(focusWidget()) && focusWidget()->isEnabled();
+    if (!keep) {
+        if (focusWidget() && focusWidget() != ui_->btn_NOP)
+            left_ = focusWidget();
+        Give_Focus(*this, name);
+    }
+    name.clear();
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "forms/form_view.h"
+#include "settings/main_form.h"
+
+#include <QMainWindow>
+#include <memory>
+#include <vector>
+
+class Number_Box_View;
+class QFrame;
+class QLabel;
+class QToolButton;
+class Options_Layout;
+class Slot_Guard;
+struct Program;
+
+namespace Ui {
+class Startform;
+}
+
+/// The main form. Holds no rule: an event calls one, then the records are rendered. Controls carry the names of the
+/// fields that they show.
+class Startform : public QMainWindow, public Form_View
+{
+    Q_OBJECT
+
+  public:
+    Startform(Program& program, Slot_Guard& guard);
+    ~Startform() override;
+
+    void Render() override;
+
+    /// Tells the records the screen's work area and the size that everything fits into, for a first start.
+    void Propose_Place();
+    /// Shows the form where its record says, but always within a screen, and tells the rules of the first activation.
+    void Show_First();
+    void Set_Topmost(bool on);
+
+    /// True once the close query let the form go.
+    bool Unloaded() const { return unloaded_; }
+
+    QSize sizeHint() const override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+  private:
+    void Connect_Options();
+    void Connect_Folders();
+    void Connect_Run();
+    void Connect_Right_Clicks();
+    /// Colours and pictures of the palette in force, then Measure.
+    void Set_Looks();
+    /// The sizes that follow the font in force.
+    void Measure();
+    QList<QFrame*> Path_Boxes() const;
+    QList<QToolButton*> Browse_Buttons() const;
+    QList<QLabel*> Fault_Labels() const;
+    void Render_Folders();
+    void Render_Progress();
+    void Render_Focus();
+    void Render_Place();
+    void Note_Place();
+    /// As large as it takes to show all without scrolling, if the screen has the room.
+    void Make_Room();
+    void Fit_Panels(int panels_before);
+    bool Clicked_Pane(QObject* watched, QEvent* event);
+    bool Right_Click(QObject* watched, QEvent* event);
+
+    Program& program_;
+    Slot_Guard& guard_;
+    std::unique_ptr<Ui::Startform> ui_;
+    Options_Layout* options_ = nullptr;
+    std::vector<Number_Box_View*> number_boxes_;
+    Form_Place shown_place_;  ///< what the window was last told, or last told us
+    QWidget* left_ = nullptr; ///< where Tab goes on from after the focus was parked
+    bool by_key_ = false;     ///< the last input was a key
+    bool shown_ = false;
+    bool unloaded_ = false;
+};

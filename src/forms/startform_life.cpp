@@ -1,0 +1,248 @@
+#include "forms/startform.h"
+
+#include "forms/options_layout.h"
+#include "forms/screen_place.h"
+#include "forms/slot_guard.h"
+#include "inspect/tool_discovery.h"
+#include "program.h"
+#include "settings/menu_commands.h"
+#include "settings/option_rules.h"
+#include "settings/start_up.h"
+#include "ui_startform.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QWindow>
+
+static bool Same_Place(const Form_Place& a, const Form_Place& b)
+{
+    return a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height;
+}
+
+QSize Startform::sizeHint() const
+{
+    // A scroll area never asks for all that it holds.
+    const QMargins edges = ui_->lay_Central->contentsMargins();
+    // The layouts may remember the scroll area as it was with the groups in another order.
+    for (QLayout* stale : findChildren<QLayout*>())
+        stale->invalidate();
+    const QSize options = options_->Whole_Size();
+    const int height = QMainWindow::sizeHint().height() - ui_->scr_Options->sizeHint().height() + options.height();
+    return {std::max(options.width(), ui_->fram_Run->sizeHint().width()) + edges.left() + edges.right(), height};
+}
+
+void Startform::Propose_Place()
+{
+    guard_.Call([this] { Render(); });
+    // A size asked for before the first show must already know the style.
+    for (QWidget* widget : findChildren<QWidget*>())
+        widget->ensurePolished();
+    Measure();
+    const QSize size = sizeHint();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect area = screen ? screen->availableGeometry() : QRect(QPoint(), size);
+    program_.Form.Screen = {area.left(), area.top(), area.width(), area.height(), 0};
+    program_.Form.Place.Width = std::min(size.width(), area.width());
+    program_.Form.Place.Height = std::min(size.height(), area.height());
+}
+
+void Startform::Show_First()
+{
+    guard_.Call([this] { Render(); });
+    show();
+    shown_ = true;
+    // Only a form that is shown knows for sure what its style asks for, and what the window's frame takes.
+    Measure();
+    const bool first = program_.Settings.First_Run;
+    if (first)
+        Make_Room();
+    const QRect frame = frameGeometry();
+    const QRect within = Onto_Screen(frame);
+    if (frame != within)
+        setGeometry(within.marginsRemoved({geometry().left() - frame.left(), geometry().top() - frame.top(),
+                                           frame.right() - geometry().right(), frame.bottom() - geometry().bottom()}));
+    guard_.Call([this] { First_Activation(program_); });
+    if (first)
+        Make_Room(); // what the rules put in view has its size only now
+}
+
+void Startform::Make_Room()
+{
+    const QSize most = screen() ? screen()->availableGeometry().size() : sizeHint();
+    resize(sizeHint().boundedTo(most));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    const QSize lack = options_->Whole_Size() - ui_->scr_Options->contentsRect().size();
+    resize((size() + lack.expandedTo(QSize(0, 0))).boundedTo(most));
+}
+
+void Startform::Set_Topmost(bool on)
+{
+    const Qt::WindowFlags flags = windowFlags().setFlag(Qt::WindowStaysOnTopHint, on);
+    // The window's own handle takes the wish without the window being hidden and shown again.
+    overrideWindowFlags(flags);
+    if (QWindow* handle = windowHandle())
+        handle->setFlag(Qt::WindowStaysOnTopHint, on);
+}
+
+void Startform::Render_Place()
+{
+    const Form_Place& place = program_.Form.Place;
+    if (Same_Place(place, shown_place_) || isMaximized() || isFullScreen() || isMinimized())
+        return;
+    // A settings file may name a place on a screen that is gone, or no size at all.
+    const QSize wanted(place.Width, place.Height);
+    const QSize size = wanted.expandedTo(minimumSizeHint());
+    const QRect on_screen = Onto_Screen(QRect(QPoint(place.Left, place.Top), size));
+    setGeometry(on_screen);
+    shown_place_ = place;
+    Note_Place();
+}
+
+void Startform::Note_Place()
+{
+    if (isMaximized() || isFullScreen() || isMinimized())
+        return;
+    Form_Place& place = program_.Form.Place;
+    place.Left = geometry().left();
+    place.Top = geometry().top();
+    place.Width = geometry().width();
+    place.Height = geometry().height();
+    shown_place_ = place;
+}
+
+void Startform::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    if (shown_)
+        Note_Place();
+}
+
+void Startform::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (shown_)
+        Note_Place();
+}
+
+/// A panel that comes or goes takes its room from the window, not from the options.
+void Startform::Fit_Panels(int height_before)
+{
+    const int more = ui_->fram_Paths->sizeHint().height() - height_before;
+    if (more == 0 || !shown_ || isMaximized() || isFullScreen())
+        return;
+    QRect place = geometry();
+    place.setHeight(place.height() + more);
+    if (const QScreen* on = screen(); on && more > 0) {
+        const QRect area = on->availableGeometry();
+        const int too_low = std::max(0, place.bottom() - std::max(area.bottom(), geometry().bottom()));
+        const int up = std::clamp(place.top() - area.top(), 0, too_low);
+        place.translate(0, -up);
+        place.setHeight(place.height() - (too_low - up));
+    }
+    setGeometry(place);
+}
+
+void Startform::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (unloaded_) {
+        event->accept();
+        return;
+    }
+    guard_.Call([this] {
+        if (program_.Run.Run_In_Progress || !Query_Unload(program_))
+            return;
+        Unload(program_);
+        unloaded_ = true;
+    });
+    if (unloaded_) {
+        event->accept();
+        QCoreApplication::quit();
+    }
+}
+
+static Key_Press Key_Press_Of(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers();
+    const Key code = event.key() == Qt::Key_Escape ? Key::Escape
+                     : event.key() == Qt::Key_F4   ? Key::F4
+                     : event.key() == Qt::Key_F12  ? Key::F12
+                                                   : Key::Other;
+    return {.Code = code,
+            .Modifiers = {.Shift = held.testFlag(Qt::ShiftModifier),
+                          .Control = held.testFlag(Qt::ControlModifier),
+                          .Alt = held.testFlag(Qt::AltModifier)}};
+}
+
+void Startform::keyPressEvent(QKeyEvent* event)
+{
+    guard_.Call([&] { Form_Key_Down(program_, Key_Press_Of(*event)); });
+    QMainWindow::keyPressEvent(event);
+}
+
+void Startform::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange ||
+        event->type() == QEvent::StyleChange)
+        if (options_)
+            Set_Looks();
+}
+
+/// Once the focus was parked, Tab goes on from the control that it was taken from.
+bool Startform::focusNextPrevChild(bool next)
+{
+    if (focusWidget() == ui_->btn_NOP && left_ && left_->isVisible() && left_->isEnabled())
+        left_->setFocus(Qt::OtherFocusReason);
+    return QMainWindow::focusNextPrevChild(next);
+}
+
+bool Startform::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress)
+        by_key_ = true;
+    else if (event->type() == QEvent::MouseButtonPress)
+        by_key_ = false;
+    return Right_Click(watched, event) || Clicked_Pane(watched, event) || QMainWindow::eventFilter(watched, event);
+}
+
+/// The right clicks that do something at once instead of opening a popup; the menu key counts as one.
+bool Startform::Right_Click(QObject* watched, QEvent* event)
+{
+    void (*rule)(Program&) = nullptr;
+    if (watched == ui_->chk_SubDefaults)
+        rule = chk_SubDefaults_Right_Click;
+    else if (watched == ui_->chk_SubForces)
+        rule = chk_SubForces_Right_Click;
+    else if (watched == ui_->chk_AddAttachments)
+        rule = chk_AddAttachments_Right_Click;
+    else
+        return false;
+    const auto* box = static_cast<QWidget*>(watched);
+    if (!box->isEnabled())
+        return false; // a disabled box leaves the click to its panel
+
+    if (event->type() == QEvent::ContextMenu) {
+        if (static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard)
+            guard_.Call([&] { rule(program_); });
+        return true;
+    }
+    if (event->type() != QEvent::MouseButtonRelease)
+        return false;
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() != Qt::RightButton || !box->rect().contains(mouse->position().toPoint()))
+        return false;
+    guard_.Call([&] { rule(program_); });
+    return true;
+}
+
+/// Whoever clicks on the disabled button of the video info viewer is told what it lacks.
+bool Startform::Clicked_Pane(QObject* watched, QEvent* event)
+{
+    if (watched == ui_->pic_ViewVidInfo && event->type() == QEvent::MouseButtonRelease)
+        guard_.Call([this] { pic_ViewVidInfo_Click(program_); });
+    return false;
+}
