@@ -1,0 +1,154 @@
+#include "forms/elided_label.h"
+#include "forms/test_window.h"
+#include "settings/start_up.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QMimeData>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+struct Folder_Panels : testing::Test
+{
+    Test_Window Window;
+
+    void SetUp() override { ASSERT_TRUE(Window.Start()); }
+
+    bool Drop(const char* panel, const QStringList& paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls += QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        return Drop_On(Window.Get(panel), data);
+    }
+
+    QString Shown(const char* label) { return Window.Get<QLabel>(label).text(); }
+};
+
+TEST_F(Folder_Panels, AFolderAFileOrTheFirstOfSeveralSetsThePath)
+{
+    const QString folder = Window.Files.Path(u"videos/"_s);
+    const QString file = Window.Files.Write(u"more/one.mkv"_s);
+    EXPECT_TRUE(Drop("pic_VideosPath", {folder}));
+    EXPECT_EQ(Shown("ulbl_VideosPath"), folder);
+    EXPECT_FALSE(Window.Get("lbl_VideoPathFault").isVisible());
+    EXPECT_TRUE(Drop("pic_VideosPath", {file}));
+    EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"more/"_s));
+
+    QStringList many{folder};
+    for (int i = 0; i < 1000; ++i)
+        many += file;
+    EXPECT_TRUE(Drop("pic_VideosPath", many));
+    EXPECT_EQ(Shown("ulbl_VideosPath"), folder);
+    EXPECT_TRUE(Window.Person.Boxes.empty());
+}
+
+TEST_F(Folder_Panels, WhatIsNoFolderIsToldInTheNumberedBox)
+{
+    QFile::link(Window.Files.Path(u"nowhere"_s), Window.Files.Path(u"dead"_s));
+    QMimeData text;
+    text.setText(u"just words"_s);
+    QMimeData link;
+    link.setUrls({QUrl(u"https://example.org/video.mkv"_s)});
+    QMimeData dead;
+    dead.setUrls({QUrl::fromLocalFile(Window.Files.Path(u"dead"_s))});
+    for (const QMimeData* data : {&text, &link, &dead}) {
+        Drop_On(Window.Get("pic_VideosPath"), *data);
+        Drop_On(Window.Get("pic_TargetPath"), *data);
+    }
+    ASSERT_EQ(Window.Person.Boxes.size(), 6u);
+    EXPECT_EQ(Window.Person.Boxes[0].Title, u"Error #401 - Video Path processing error!");
+    EXPECT_EQ(Window.Person.Boxes[1].Title, u"Error #405 - Target Path processing error!");
+    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"The selected path cannot be found."));
+}
+
+TEST_F(Folder_Panels, APanelComesAndGoesWithItsBoxAndThoseBelowMoveUp)
+{
+    const int target = Window.Get("pic_TargetPath").y();
+    const int height = Window.Form().height();
+    Click_On(Window.Get("chk_AudioPath"));
+    EXPECT_TRUE(Window.Get("pic_AudioPath").isVisible());
+    EXPECT_GT(Window.Get("pic_TargetPath").y(), target);
+    Click_On(Window.Get("chk_SubsPath"));
+    Click_On(Window.Get("chk_ChaptersPath"));
+    EXPECT_LT(Window.Get("pic_AudioPath").y(), Window.Get("pic_SubsPath").y());
+    EXPECT_LT(Window.Get("pic_SubsPath").y(), Window.Get("pic_ChaptersPath").y());
+    EXPECT_LT(Window.Get("pic_ChaptersPath").y(), Window.Get("pic_TargetPath").y());
+    for (const char* box : {"chk_AudioPath", "chk_SubsPath", "chk_ChaptersPath"})
+        Click_On(Window.Get(box));
+    EXPECT_FALSE(Window.Get("pic_SubsPath").isVisible());
+    EXPECT_EQ(Window.Get("pic_TargetPath").y(), target);
+    EXPECT_LE(Window.Form().height(), std::max(height, 800));
+}
+
+TEST_F(Folder_Panels, AnEmptyCompanionFolderIsMarked)
+{
+    QDir().mkpath(Window.Files.Path(u"audio"_s));
+    Click_On(Window.Get("chk_AudioPath"));
+    EXPECT_TRUE(Window.Get("lbl_AudioPathFault").isVisible());
+    Drop("pic_AudioPath", {Window.Files.Path(u"audio"_s)});
+    EXPECT_TRUE(Window.Get("lbl_AudipPathEmpty").isVisible());
+    Window.Files.Write(u"audio/a.mka"_s);
+    Drop("pic_AudioPath", {Window.Files.Path(u"audio"_s)});
+    EXPECT_FALSE(Window.Get("lbl_AudipPathEmpty").isVisible());
+}
+
+TEST_F(Folder_Panels, ALongPathIsCutInItsMiddleAndWholeInItsTooltip)
+{
+    const QString folder = Window.Files.Path(u"<b>"_s + QString(200, u'w') + u'/' + QString(200, u'e') + u'/');
+    QDir().mkpath(folder);
+    Drop("pic_VideosPath", {folder});
+    const auto& label = Window.Get<Elided_Label>("ulbl_VideosPath");
+    EXPECT_EQ(label.text(), folder);
+    EXPECT_TRUE(label.Shown_Text().contains(QChar(0x2026)));
+    EXPECT_TRUE(label.Shown_Text().endsWith(u"eee/"));
+    EXPECT_TRUE(label.toolTip().contains(u"&lt;b&gt;www"));
+}
+
+TEST_F(Folder_Panels, TheBrowseButtonAsksFromTheFolderAndShowsTheAnswer)
+{
+    QString title;
+    Window.Person.On_Form[u"QFileDialog"_s] = [&](QWidget& form) {
+        auto& dialog = static_cast<QFileDialog&>(form);
+        title = dialog.windowTitle();
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+        dialog.selectFile(Window.Files.Path(u"target"_s));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    };
+    Click_On(Window.Get("btn_BrowseTarget"));
+    EXPECT_EQ(title,
+              u"Select a Target Folder to hold your processed files. It CANNOT be the same as the Video Files path.");
+    EXPECT_EQ(Shown("ulbl_TargetPath"), Window.Files.Path(u"target/"_s));
+}
+
+TEST_F(Folder_Panels, TheArrowOffersTheRecentFoldersAndAChoiceSwapsThem)
+{
+    QDir().mkpath(Window.Files.Path(u"older"_s));
+    Drop("pic_VideosPath", {Window.Files.Path(u"older"_s)});
+    Drop("pic_VideosPath", {Window.Files.Path(u"videos"_s)});
+    Window.Person.On_Form[u"frm_SourceMRU"_s] = [&](QWidget& form) {
+        auto* list = form.findChild<QComboBox*>(u"cmbo_MRU"_s);
+        const auto* box = &Window.Get("box_VideosPath");
+        EXPECT_EQ(form.geometry().topLeft(), box->mapToGlobal(QPoint()));
+        EXPECT_EQ(form.width(), box->width());
+        EXPECT_EQ(list->itemText(0), Window.Files.Path(u"older/"_s));
+        list->showPopup();
+        QTest::keyClick(list->view(), Qt::Key_Home);
+        QTest::keyClick(list->view(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+    };
+    Click_On(Window.Get("img_SourceMRU"));
+    EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"older/"_s));
+    EXPECT_EQ(Window.Prog().Settings.Source_MRU.constFirst(), Window.Files.Path(u"videos/"_s));
+    EXPECT_FALSE(Window.Get<QAbstractButton>("img_SourceMRU").isDown());
+
+    Window.Person.On_Form[u"frm_SourceMRU"_s] = [](QWidget& form) { QTest::keyClick(&form, Qt::Key_Escape); };
+    Click_On(Window.Get("img_SourceMRU"));
+    EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"older/"_s));
+}

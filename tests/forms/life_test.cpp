@@ -1,0 +1,163 @@
+#include "forms/test_window.h"
+#include "settings/settings_store.h"
+#include "settings/start_up.h"
+#include "support/run_time_error.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QScreen>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(Window_Life, StartChangeQuitStartAgain)
+{
+    Test_Window window;
+    ASSERT_TRUE(window.Start());
+    Click_On(window.Get("chk_RemoveAllTags"));
+    window.Choose("mnu_Verbosity3");
+    window.Set_Folders();
+    window.Form().setGeometry(30, 40, 700, 600);
+    QCoreApplication::processEvents();
+    window.Quit();
+
+    ASSERT_TRUE(window.Start());
+    EXPECT_TRUE(window.Get<QCheckBox>("chk_RemoveAllTags").isChecked());
+    EXPECT_EQ(window.Get<QLabel>("ulbl_VideosPath").text(), window.Files.Path(u"videos/"_s));
+    EXPECT_EQ(window.Get<QMenu>("mnu_VerbosityStatus").title(), u"Log Verbosity 3 - Include All Active Checkboxes");
+    EXPECT_EQ(window.Form().geometry().topLeft(), QPoint(30, 40));
+    EXPECT_TRUE(window.Get("btn_RunVantorra").isEnabled());
+}
+
+TEST(Window_Life, EachWayOutSavesAndTheCloseBoxIsAltF4)
+{
+    const std::function<void(Test_Window&)> ways[] = {
+        [](Test_Window& w) { w.Choose("mnu_Quit"); },
+        [](Test_Window& w) { Click_On(w.Get("img_Quit")); },
+        [](Test_Window& w) { Press(w.Form(), Qt::Key_F4, Qt::AltModifier); },
+        [](Test_Window& w) { w.Form().close(); },
+    };
+    for (const auto& leave : ways) {
+        Test_Window window;
+        ASSERT_TRUE(window.Start());
+        EXPECT_FALSE(window.Form().windowFlags().testFlag(Qt::WindowCloseButtonHint));
+        Click_On(window.Get("chk_StripChaps"));
+        EXPECT_EQ(window.Prog().Options.chk_StripChaps.Value, 1)
+            << window.Form().width() << "x" << window.Form().height() << " asks for "
+            << window.Form().sizeHint().width() << "x" << window.Form().sizeHint().height() << ", the box is at "
+            << window.Get("chk_StripChaps").mapTo(&window.Form(), QPoint()).y();
+        leave(window);
+        EXPECT_TRUE(window.Form().Unloaded());
+        EXPECT_FALSE(window.Form().isVisible());
+        EXPECT_TRUE(window.Files.Read(u"app/Vantorra.ini"_s).contains("Strip Existing Chapters=On"));
+    }
+}
+
+TEST(Window_Life, ASecondWindowOnTheSameFolderEndsWithoutAWord)
+{
+    Test_Window first;
+    ASSERT_TRUE(first.Start());
+    Desktop second;
+    second.Prog.Settings.App_Folder = first.Files.Path(u"app/"_s);
+    Instance_Lock lock;
+    EXPECT_FALSE(lock.Take(second.Prog.Settings.App_Folder));
+    EXPECT_TRUE(first.Person.Boxes.empty());
+}
+
+TEST(Window_Life, APlaceThatIsNowhereComesBackOntoTheScreen)
+{
+    struct
+    {
+        int Left, Top, Width, Height;
+    } const places[] = {{90000, 90000, 800, 600}, {0, 0, 0, 0}, {100, 100, 90000, 90000}};
+
+    for (const auto& place : places) {
+        Test_Window window;
+        ASSERT_TRUE(window.Start());
+        window.Quit();
+        QByteArray ini = window.Files.Read(u"app/Vantorra.ini"_s);
+        for (const auto& [key, value] : {std::pair("Left=", place.Left), std::pair("Top=", place.Top),
+                                         std::pair("Width=", place.Width), std::pair("Height=", place.Height)}) {
+            const auto at = ini.indexOf(key);
+            ini.replace(at, ini.indexOf('\n', at) - at, QByteArray(key) + QByteArray::number(value));
+        }
+        window.Files.Write(u"app/Vantorra.ini"_s, ini);
+
+        window.Desk = std::make_unique<Desktop>();
+        window.Prog().Settings.App_Folder = window.Files.Path(u"app/"_s);
+        window.Desk->Guard.Call([&] { Load_Settings(window.Prog()); });
+        window.Form().Show_First();
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        const QRect shown = window.Form().geometry();
+        EXPECT_TRUE(area.contains(shown)) << place.Left << " became " << shown.left() << " " << shown.top() << " "
+                                          << shown.width() << " " << shown.height();
+        EXPECT_GE(window.Form().width(), window.Form().minimumSizeHint().width());
+    }
+}
+
+TEST(Window_Life, F12CentresTheForm)
+{
+    Test_Window window;
+    ASSERT_TRUE(window.Start());
+    window.Form().setGeometry(0, 0, 600, 500);
+    QCoreApplication::processEvents();
+    Press(window.Form(), Qt::Key_F12);
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_NEAR(window.Form().geometry().center().x(), area.center().x(), 1);
+    EXPECT_NEAR(window.Form().geometry().center().y(), area.center().y(), 1);
+}
+
+TEST(Window_Life, KeepTopmostStandsBackWhileAFormIsOpen)
+{
+    Test_Window window;
+    ASSERT_TRUE(window.Start());
+    const auto on_top = [&] { return window.Form().windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint); };
+    window.Choose("mnu_KeepTopmost");
+    EXPECT_TRUE(on_top());
+    EXPECT_TRUE(window.Form().isVisible());
+    bool during = true;
+    window.Person.On_Form[u"frm_CustomTitle"_s] = [&](QWidget&) { during = on_top(); };
+    window.Choose("mnu_CustomFileTitle");
+    EXPECT_FALSE(during);
+    EXPECT_TRUE(on_top());
+}
+
+TEST(Window_Life, AnErrorThatCantBeGoneOnFromIsLoggedToldOnceAndEndsTheProgram)
+{
+    Test_Window window;
+    ASSERT_TRUE(window.Start());
+    window.Prog().Logs.Log_Results.AppendLine(u"        -- what was done so far"_s);
+    const QByteArray settings = window.Files.Read(u"app/Vantorra.ini"_s);
+    bool went_on = false;
+    window.Desk->Guard.Call([&] {
+        Raise_Type_Mismatch(u"Reading the delay of"_s, u"a.opt"_s, u"12x"_s);
+        went_on = true;
+    });
+    EXPECT_FALSE(went_on);
+    ASSERT_EQ(window.Person.Boxes.size(), 1u);
+    EXPECT_TRUE(window.Person.Boxes[0].Text.startsWith(u"Run-time error '13': Type mismatch"));
+    EXPECT_TRUE(window.Person.Boxes[0].Text.contains(u"a.opt") && window.Person.Boxes[0].Text.contains(u"12x"));
+    EXPECT_TRUE(window.Files.Read(u"app/Vantorra_Process.log"_s).contains("what was done so far"));
+    EXPECT_TRUE(window.Desk->Guard.Ended());
+    EXPECT_THROW(window.Prog().Person.Pump_Events(), End_Of_Program);
+    window.Desk->Guard.Call([&] { went_on = true; });
+    EXPECT_FALSE(went_on);
+    EXPECT_EQ(window.Files.Read(u"app/Vantorra.ini"_s), settings);
+    // The end of the event loop is asked for; the tests behind this one need one that turns.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    QApplication::exec();
+}
+
+TEST(Window_Life, TheAboutBoxCountsDownAndAClickClosesIt)
+{
+    Test_Window window;
+    ASSERT_TRUE(window.Start());
+    window.Choose("mnu_AboutProgram");
+    auto* about = window.Form().findChild<QWidget*>(u"frm_Splash"_s);
+    ASSERT_TRUE(about && about->isVisible());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_EQ(about->findChild<QLabel*>(u"lbl_Version"_s)->text(), QStringLiteral("Version " VANTORRA_VERSION));
+    EXPECT_TRUE(Wait_Until([&] { return about->findChild<QLabel*>(u"lbl_Countdown"_s)->text() == u"7"; }));
+    Click_On(*about);
+    EXPECT_FALSE(about->isVisible());
+}

@@ -1,0 +1,190 @@
+#include "forms/test_window.h"
+#include "settings/click_rules.h"
+#include "settings/menu_commands.h"
+#include "settings/option_rules.h"
+#include "settings/start_up.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// The window, and a program without one that is handed the same clicks.
+struct Option_Clicks : testing::Test
+{
+    Test_Window Window;
+    Program& Plain = Window.Files.Prog;
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(Window.Start());
+        Load_Settings(Plain);
+        First_Activation(Plain);
+    }
+
+    /// Every box: value, enabled state and caption, as the records have them and as the widgets show them.
+    void Expect_The_Same()
+    {
+        for (const Click_Rule& rule : Click_Rules()) {
+            const Check_Box& plain = Plain.Options.*rule.Box;
+            const Check_Box& record = Window.Prog().Options.*rule.Box;
+            EXPECT_EQ(record.Value, plain.Value) << rule.Name.toStdString();
+            EXPECT_EQ(record.Enabled, plain.Enabled) << rule.Name.toStdString();
+            EXPECT_EQ(record.Caption, plain.Caption) << rule.Name.toStdString();
+            const auto* box = Window.Form().findChild<QCheckBox*>(rule.Name);
+            if (!box)
+                continue;
+            EXPECT_EQ(box->isChecked(), record.Value == 1) << rule.Name.toStdString();
+            EXPECT_EQ(box->isEnabled(), record.Enabled) << rule.Name.toStdString();
+            EXPECT_EQ(box->text(), record.Caption) << rule.Name.toStdString();
+        }
+    }
+};
+
+TEST_F(Option_Clicks, EachBoxActsAsItsRuleTickedAndUnticked)
+{
+    for (const Click_Rule& rule : Click_Rules()) {
+        auto* box = Window.Form().findChild<QCheckBox*>(rule.Name);
+        if (rule.Name == u"chk_UseSubfolders")
+            continue; // stands on frm_Attachments
+        ASSERT_TRUE(box) << rule.Name.toStdString();
+        for (int i = 0; i < 2; ++i) {
+            Click_On(*box);
+            Click(Plain, rule);
+            Expect_The_Same();
+            if (HasFailure())
+                FAIL() << "after click " << i + 1 << " on " << rule.Name.toStdString();
+        }
+        // Left ticked for the boxes behind it, so that they are clicked with and without it.
+        Click_On(*box);
+        Click(Plain, rule);
+    }
+}
+
+TEST_F(Option_Clicks, SpaceTicksABoxAndLeavesTheFocusWhileTheMouseParksIt)
+{
+    auto& box = Window.Get<QCheckBox>("chk_StripChaps");
+    box.setFocus();
+    Press(box, Qt::Key_Space);
+    EXPECT_EQ(Window.Prog().Options.chk_StripChaps.Value, 1);
+    EXPECT_TRUE(box.hasFocus());
+    Click_On(box);
+    EXPECT_EQ(Window.Prog().Options.chk_StripChaps.Value, 0);
+    EXPECT_TRUE(Window.Get("btn_NOP").hasFocus());
+    Press(box, Qt::Key_Tab);
+    EXPECT_TRUE(Window.Get("chk_ChaptersPath").hasFocus());
+}
+
+TEST_F(Option_Clicks, TheOptionButtonsAndTheChapterFormatFollowTheirRecords)
+{
+    Click_On(Window.Get("opt_SetFileTitle_2"));
+    EXPECT_EQ(Window.Prog().Options.opt_SetFileTitle.Selected, 1) << "disabled until Set File Title is ticked";
+    Click_On(Window.Get("chk_SetFileTitle"));
+    Click_On(Window.Get("opt_SetFileTitle_2"));
+    EXPECT_EQ(Window.Prog().Options.opt_SetFileTitle.Selected, 2);
+    EXPECT_TRUE(Window.Get<QRadioButton>("opt_SetFileTitle_2").isChecked());
+
+    Click_On(Window.Get("chk_ReplaceChapters"));
+    Click_On(Window.Get("chk_ConvertTXT"));
+    Click_On(Window.Get("lbl_ChapsFormat"));
+    EXPECT_EQ(Window.Get<QToolButton>("lbl_ChapsFormat").text(), u"HH:MM:SS.hh(h)");
+    EXPECT_EQ(Window.Prog().Options.Chapter_Format_Index, 1);
+}
+
+TEST_F(Option_Clicks, ARightClickOrTheMenuKeyFlipsTheWordOfTheFlagBoxes)
+{
+    auto& box = Window.Get<QCheckBox>("chk_SubDefaults");
+    const QString first = Window.Prog().Options.chk_SubDefaults.Tag;
+    Click_On(box, Qt::RightButton);
+    EXPECT_NE(Window.Prog().Options.chk_SubDefaults.Tag, first);
+    EXPECT_EQ(box.text(), u"Set All Subtitles defaults to \"%1\""_s.arg(Window.Prog().Options.chk_SubDefaults.Tag));
+    EXPECT_EQ(box.isChecked(), Window.Prog().Options.chk_SubDefaults.Value == 1);
+    box.setFocus();
+    QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint(), box.mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(&box, &menu_key);
+    EXPECT_EQ(Window.Prog().Options.chk_SubDefaults.Tag, first);
+    Window.Choose("mnu_FlipSubForces");
+    EXPECT_EQ(Window.Get<QCheckBox>("chk_SubForces").text(),
+              u"Set All Subtitles forces to \"%1\""_s.arg(Window.Prog().Options.chk_SubForces.Tag));
+}
+
+TEST_F(Option_Clicks, EachMenuTickFlipsItsRecordAndShowsIt)
+{
+    for (const Menu_Tick& tick : Menu_Ticks()) {
+        const QByteArray name = tick.Name.toLatin1();
+        const bool before = tick.Ticked(Window.Prog());
+        EXPECT_EQ(Window.Action(name).isChecked(), before) << name.constData();
+        Window.Choose(name);
+        EXPECT_EQ(tick.Ticked(Window.Prog()), !before) << name.constData();
+        EXPECT_EQ(Window.Action(name).isChecked(), !before) << name.constData();
+    }
+}
+
+TEST_F(Option_Clicks, ALevelOfTheLogChangesItsTwoCaptions)
+{
+    Window.Choose("mnu_Verbosity6");
+    EXPECT_EQ(Window.Prog().Options.Log_Verbosity, 6);
+    EXPECT_EQ(Window.Get<QMenu>("mnu_Process_Log").title(), u"&Process_Log v6");
+    EXPECT_EQ(Window.Get<QMenu>("mnu_VerbosityStatus").title(), u"Log Verbosity 6 - Include ALL MKVMerge Reports");
+    EXPECT_TRUE(Window.Action("mnu_Verbosity6").isChecked());
+    EXPECT_FALSE(Window.Action("mnu_Verbosity0").isChecked());
+}
+
+struct Typing
+{
+    const char* Box;
+    const char* Tick;
+    QString Keys;
+    QString Shown;
+};
+
+TEST_F(Option_Clicks, TheNumberBoxesTakeKeysByTheirRules)
+{
+    const Typing typings[] = {
+        {"txt_AudioDelayValue", "chk_AudioDelayAdjust", u"-0"_s, u"-"_s},
+        {"txt_AudioDelayValue", "chk_AudioDelayAdjust", u"00"_s, u"0"_s},
+        {"txt_AudioDelayValue", "chk_AudioDelayAdjust", u"123456"_s, u"12345"_s},
+        {"txt_AudioDelayValue", "chk_AudioDelayAdjust", u"-123456"_s, u"-12345"_s},
+        {"txt_AudioDelayValue", "chk_AudioDelayAdjust", u"12a3"_s, u"123"_s},
+        {"txt_SplitVideosValue", "chk_SplitVideos", u"0"_s, u"1"_s},
+        {"txt_SplitVideosValue", "chk_SplitVideos", u"1234"_s, u"123"_s},
+        {"txt_SplitVideosValue", "chk_SplitVideos", u"4x5"_s, u"45"_s},
+    };
+    Click_On(Window.Get("chk_AudioDelayAdjust"));
+    Click_On(Window.Get("chk_SplitVideos"));
+    for (const Typing& typing : typings) {
+        auto& edit = Window.Get<QLineEdit>(typing.Box);
+        edit.setFocus();
+        edit.selectAll();
+        Press(edit, Qt::Key_Delete);
+        for (const QChar key : typing.Keys)
+            QTest::keyClick(Window.Form().windowHandle(), key.toLatin1());
+        EXPECT_EQ(edit.text(), typing.Shown) << typing.Keys.toStdString();
+    }
+}
+
+TEST_F(Option_Clicks, EnterEscapeAndLeavingEndAnEditOfTheSplitBox)
+{
+    Click_On(Window.Get("chk_SplitVideos"));
+    auto& edit = Window.Get<QLineEdit>("txt_SplitVideosValue");
+    const auto type_seven = [&] {
+        edit.setFocus();
+        edit.selectAll();
+        QTest::keyClick(Window.Form().windowHandle(), '7');
+    };
+    type_seven();
+    Press(edit, Qt::Key_Escape);
+    EXPECT_EQ(edit.text(), u"30");
+    type_seven();
+    Window.Get("chk_StripOrigAudio").setFocus();
+    EXPECT_EQ(edit.text(), u"30");
+    EXPECT_EQ(Window.Prog().Options.Split_Minutes, u"30");
+    type_seven();
+    EXPECT_EQ(edit.text(), u"7");
+    EXPECT_TRUE(edit.hasFocus());
+    Press(edit, Qt::Key_Return);
+    EXPECT_EQ(edit.text(), u"10");
+    EXPECT_EQ(Window.Prog().Options.Split_Minutes, u"10");
+}

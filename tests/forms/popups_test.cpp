@@ -1,0 +1,96 @@
+#include "forms/test_window.h"
+#include "settings/popups.h"
+#include "settings/start_up.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+struct Popup_Menus : testing::Test
+{
+    Test_Window Window;
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(Window.Start());
+        Window.Set_Folders();
+        // All panels are in view, so that each can be clicked.
+        for (const char* box : {"chk_AudioPath", "chk_SubsPath", "chk_ChaptersPath"})
+            Click_On(Window.Get(box));
+        Window.Form().resize(1400, 900);
+        QCoreApplication::processEvents();
+    }
+
+    static void Expect_Open(const Popup& popup, const QString& where)
+    {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu) << "no popup at " << where.toStdString();
+        EXPECT_EQ(menu->objectName(), popup.Menu);
+        ASSERT_EQ(menu->actions().size(), 1);
+        EXPECT_EQ(menu->actions().constFirst()->objectName(), popup.Item);
+        EXPECT_EQ(menu->actions().constFirst()->text(), popup.Caption);
+        menu->close();
+        QCoreApplication::processEvents();
+    }
+};
+
+TEST_F(Popup_Menus, ARightClickOnEachControlAndItsPanelOpensItsPopup)
+{
+    for (const Popup& popup : Popups())
+        for (const QString& name : popup.Controls) {
+            auto* control = Window.Form().findChild<QWidget*>(name);
+            if (!control || !control->isVisible())
+                continue; // pic_AttachmentsPath stands on its form; a fault that is no fault is hidden
+            Click_On(*control, Qt::RightButton);
+            Expect_Open(popup, name);
+        }
+}
+
+TEST_F(Popup_Menus, TheMenuKeyOpensThePopupOfThePanel)
+{
+    auto& browse = Window.Get("btn_BrowseVideos");
+    browse.setFocus();
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, browse.rect().center(), browse.mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(&browse, &key);
+    Expect_Open(*Find_Popup(u"pic_VideosPath"_s), u"btn_BrowseVideos"_s);
+}
+
+TEST_F(Popup_Menus, EachItemOpensItsFormAfterThePopupHasClosed)
+{
+    const std::pair<const char*, const char*> items[] = {
+        {"mnu_PopupCAF1", "frm_CustomFilter"},   {"mnu_PopupCSF1", "frm_CustomFilter"},
+        {"mnu_PopupSFR1", "frm_VideoFrameRate"}, {"mnu_PopupVFO1", "frm_VideoFormatOptions"},
+        {"mnu_PopupCFT1", "frm_CustomTitle"},    {"mnu_PopupCVT1", "frm_CustomTitle"},
+        {"mnu_PopupACA1", "frm_Attachments"},
+    };
+    for (const auto& [item, form] : items) {
+        Window.Person.Forms.clear();
+        Window.Choose(item);
+        EXPECT_EQ(Window.Person.Forms, QStringList{QLatin1StringView(form)}) << item;
+    }
+}
+
+TEST_F(Popup_Menus, ARightClickOnTheEnabledAttachmentsBoxOpensItsFormAtOnce)
+{
+    auto& box = Window.Get("chk_AddAttachments");
+    Click_On(box, Qt::RightButton); // disabled: the panel's popup
+    Expect_Open(*Find_Popup(u"pic_AddAttachments"_s), u"chk_AddAttachments"_s);
+    Window.Prog().Options.chk_AddAttachments.Enabled = true;
+    Window.Form().Render();
+    Click_On(box, Qt::RightButton);
+    EXPECT_EQ(Window.Person.Forms, QStringList{u"frm_Attachments"_s});
+}
+
+TEST_F(Popup_Menus, EveryCommandOfThePopupsStandsInTheMenuBarToo)
+{
+    for (const char* action :
+         {"mnu_BrowseVideos", "mnu_BrowseTarget", "mnu_BrowseAudio", "mnu_BrowseSubs", "mnu_BrowseChapters",
+          "mnu_CustomAudioFilter", "mnu_CustomSubtitleFilter", "mnu_VideoFrameRate", "mnu_VideoFormatOptions",
+          "mnu_CustomFileTitle", "mnu_CustomVideoTitle", "mnu_Attachments", "mnu_AudioOptionsFile",
+          "mnu_SubtitleOptionsFile", "mnu_FlipSubDefaults", "mnu_FlipSubForces", "mnu_RecentSources",
+          "mnu_RecentTargets", "mnu_ViewVidInfo"})
+        EXPECT_TRUE(Window.Action(action).isVisible()) << action;
+}

@@ -1,0 +1,196 @@
+#include "common/media.h"
+#include "common/stand_in_tool.h"
+#include "forms/progress_box.h"
+#include "forms/test_window.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// Runs from the button to their end, with events from the person while they go on.
+struct Window_Run : testing::Test
+{
+    Test_Window Window;
+
+    void Prepare()
+    {
+        ASSERT_TRUE(Window.Start());
+        Window.Set_Folders();
+        ASSERT_TRUE(Window.Get("btn_RunVantorra").isEnabled());
+    }
+
+    /// Done again and again while the run goes on.
+    void While_Running(const std::function<void()>& action)
+    {
+        auto* look = new QTimer(&Window.Form());
+        QObject::connect(look, &QTimer::timeout, look, [this, action] {
+            if (Window.Prog().Run.Run_In_Progress)
+                action();
+        });
+        look->start(5);
+    }
+
+    /// A video whose muxing goes on for long.
+    void Place_Slow_Video()
+    {
+        Place(Window.Files, Short_Video(), u"videos/slow.mkv"_s);
+        Slow_Tool = Write_Stand_In(Window.Files, u"slow/mkvmerge"_s,
+                                   "echo \"mkvmerge v74.0.0 ('You Oughta Know') 64-bit\"\n"
+                                   "[ \"$1\" = -V ] && exit 0\necho 'Progress: 10%'\nsleep 30\n");
+    }
+
+    QString Slow_Tool;
+};
+
+TEST_F(Window_Run, AWholeRunFromTheButtonToFinished)
+{
+    Prepare();
+    Place(Window.Files, Short_Video(), u"videos/one.mkv"_s);
+    Place(Window.Files, Short_Video(u"mp4"_s), u"videos/two.mp4"_s);
+    bool locked = false;
+    bool halt_stood_there = false;
+    const QPoint run_at = Window.Get("btn_RunVantorra").mapToGlobal(QPoint());
+    While_Running([&] {
+        locked =
+            locked || (!Window.Get("fram_WholeForm").isEnabled() &&
+                       !Window.Get<QMenu>("mnu_File").menuAction()->isEnabled() && !Window.Get("img_Quit").isVisible());
+        halt_stood_there =
+            Window.Get("btn_Halt").isVisible() && Window.Get("btn_Halt").mapToGlobal(QPoint()).x() == run_at.x();
+    });
+    Click_On(Window.Get("btn_RunVantorra"));
+    EXPECT_TRUE(locked);
+    EXPECT_TRUE(halt_stood_there);
+    EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"FINISHED");
+    EXPECT_EQ(Window.Get<Progress_Box>("pic_Progress").Look(), Progress_Look::Finished);
+    EXPECT_TRUE(Window.Get("btn_RunVantorra").isVisible());
+    EXPECT_FALSE(Window.Get("btn_Halt").isVisible());
+    EXPECT_TRUE(Window.Get("fram_WholeForm").isEnabled());
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/one.mkv"_s)));
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/two.mkv"_s)));
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"app/Vantorra_Process.log"_s)));
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(Window_Run, OnlyAPlainLeftReleaseOverTheButtonStarts)
+{
+    Prepare();
+    Place(Window.Files, Short_Video(), u"videos/one.mkv"_s);
+    auto& button = Window.Get("btn_RunVantorra");
+    QWindow* window = Window.Form().windowHandle();
+    const QPoint at = button.mapTo(&Window.Form(), button.rect().center());
+    Click_On(button, Qt::RightButton);
+    Click_On(button, Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mousePress(window, Qt::LeftButton, {}, at);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, at - QPoint(0, 200));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/one.mkv"_s)));
+    EXPECT_TRUE(Window.Get("btn_NOP").hasFocus()) << "a release off the button parks the focus";
+    button.setFocus();
+    Press(button, Qt::Key_Space);
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/one.mkv"_s)));
+}
+
+TEST_F(Window_Run, EnterStartsAndAFolderWithoutVideosIsRefused)
+{
+    Prepare();
+    Window.Files.Write(u"videos/notes.txt"_s, "no video");
+    Window.Get("btn_RunVantorra").setFocus();
+    Press(Window.Form(), Qt::Key_Return);
+    EXPECT_EQ(Window.Get<QLabel>("lbl_VideoPathFault").text(), u"NO VIDEO FILES FOUND!");
+    EXPECT_TRUE(Window.Get("lbl_VideoPathFault").isVisible());
+    EXPECT_TRUE(Window.Get("btn_RunVantorra").isVisible());
+}
+
+TEST_F(Window_Run, HaltInTheMiddleOfAFileStopsMkvmerge)
+{
+    Prepare();
+    const QString large = Media_File(u"large.mkv"_s, {u"-f"_s, u"lavfi"_s, u"-i"_s, u"anoisesrc=duration=300"_s,
+                                                      u"-c:a"_s, u"pcm_s32le"_s, u"-ar"_s, u"48000"_s});
+    Place(Window.Files, large, u"videos/large.mkv"_s);
+    // Only this run's own child may go: other tests run mkvmerge too.
+    Window.Prog().Run.Kill_By_Name = false;
+    QString caption;
+    auto* look = new QTimer(&Window.Form());
+    QObject::connect(look, &QTimer::timeout, look, [&] {
+        if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
+            return;
+        look->stop();
+        Click_On(Window.Get("btn_Halt"));
+        caption = Window.Prog().Form.btn_Halt.Caption;
+    });
+    look->start(1);
+    Click_On(Window.Get("btn_RunVantorra"));
+    EXPECT_EQ(caption, u"HALTING");
+    EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"INTERRUPTED");
+    EXPECT_EQ(Window.Get<Progress_Box>("pic_Progress").Look(), Progress_Look::Interrupted);
+    EXPECT_EQ(Window.Get<QAbstractButton>("btn_Halt").text(), u"HALT");
+    EXPECT_EQ(Children_Left(), 0);
+    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/large.mkv"_s)));
+}
+
+TEST_F(Window_Run, WhileAChildIsSilentTheWindowRefusesToCloseTakesNoDropAndObeysEscape)
+{
+    Prepare();
+    Place_Slow_Video();
+    Window.Prog().Tools.System_MKVMerge_Path = Slow_Tool;
+    Window.Prog().Run.Kill_By_Name = false;
+    bool refused = false;
+    bool dropped = true;
+    QElapsedTimer since_escape;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
+            return;
+        look.stop();
+        Window.Form().close();
+        Press(Window.Form(), Qt::Key_F4, Qt::AltModifier);
+        refused = !Window.Form().Unloaded() && Window.Form().isVisible();
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(Window.Files.Path(u"target"_s))});
+        dropped = Drop_On(Window.Get("pic_VideosPath"), data);
+        since_escape.start();
+        Press(Window.Form(), Qt::Key_Escape);
+    });
+    look.start(5);
+    Click_On(Window.Get("btn_RunVantorra"));
+    EXPECT_TRUE(refused);
+    EXPECT_FALSE(dropped);
+    EXPECT_EQ(Window.Get<QLabel>("ulbl_VideosPath").text(), Window.Files.Path(u"videos/"_s));
+    EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"INTERRUPTED");
+    EXPECT_LT(since_escape.elapsed(), 10'000) << "the child would have slept for thirty seconds";
+}
+
+TEST_F(Window_Run, AnErrorInTheMiddleOfARunReapsTheChildAndEndsTheProgram)
+{
+    Prepare();
+    Place_Slow_Video();
+    Window.Prog().Tools.System_MKVMerge_Path = Slow_Tool;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
+            return;
+        look.stop();
+        Window.Desk->Guard.Call([] { throw std::runtime_error("no memory for this"); });
+    });
+    look.start(5);
+    Click_On(Window.Get("btn_RunVantorra"));
+    EXPECT_TRUE(Window.Desk->Guard.Ended());
+    ASSERT_EQ(Window.Person.Boxes.size(), 1u);
+    EXPECT_EQ(Children_Left(), 0);
+    // The end of the event loop is asked for; the tests behind this one need one that turns.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    QApplication::exec();
+}
+
+TEST_F(Window_Run, TheFailurePictureFlashesAndStays)
+{
+    Prepare();
+    Window.Prog().Form.pic_ProcessFailed.Visible = false;
+    Window.Desk->Guard.Call([&] { Window.Prog().Form.pic_ProcessFailed.Visible = true; });
+    EXPECT_TRUE(Window.Get("img_ProcessFailed").isVisible());
+    Window.Desk->Guard.Call([&] { Window.Prog().Form.img_ProcessFailed_Out = true; });
+    EXPECT_LT(Window.Get<QAbstractButton>("img_ProcessFailed").iconSize().width(), 4);
+}
