@@ -47,7 +47,7 @@ struct Program
     Run_State Run;
     Log_Buffers Logs;
     LanguageTable Language_Table;
-    Option_Editor Option_Files; ///< frm_OptionsFiles
+    Option_Editor Option_Files;       ///< frm_OptionsFiles
     Run_Listener* Listener = nullptr; ///< may be null
     std::function<QDateTime()> Now = [] { return QDateTime::currentDateTime(); };
 };

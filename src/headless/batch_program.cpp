@@ -9,6 +9,7 @@
 #include "headless/identify_command.h"
 #include "headless/log_command.h"
 #include "headless/print.h"
+#include "headless/refusal.h"
 #include "headless/settings_command.h"
 #include "logs/last_entry.h"
 #include "program.h"
@@ -34,7 +35,7 @@ static void Set_Up(Program& program, const Batch_Options& options, Batch_Report&
     Click_Boxes(program, options.Clicks);
 }
 
-static int Run_The_Batch(Program& program, Batch_Report& report)
+static int Run_The_Batch(Program& program, const Batch_Options& options, Batch_Report& report)
 {
     switch (btn_RunVantorra_MouseUp(program, {})) {
     case Press_Result::Interrupted:
@@ -46,6 +47,7 @@ static int Run_The_Batch(Program& program, Batch_Report& report)
         return exit;
     }
     default:
+        report.Explain(Explain_Refusal(program, options));
         report.Ended(Batch_End::Refused, Exit_Refused);
         return Exit_Refused;
     }
@@ -59,7 +61,7 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
         Set_Up(program, options, report);
     switch (options.Command) {
     case Batch_Command::Run:
-        return Run_The_Batch(program, report);
+        return Run_The_Batch(program, options, report);
     case Batch_Command::Settings:
         Print_Settings(program, options.Json, out);
         return Exit_Finished;
@@ -95,7 +97,10 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
 
     // The one place where run-time errors end.
     try {
-        return Run_Command(program, *line.Options, *report, out);
+        const int exit = Run_Command(program, *line.Options, *report, out);
+        if (std::ferror(out) != 0 && !stop_requested())
+            Print_Text(err, u"vantorra-batch: standard output could not be written to its end.\n"_s);
+        return exit;
     } catch (const Bad_Usage& mistake) {
         Print_Text(err, u"vantorra-batch: "_s + mistake.Text + u'\n');
         return Exit_Bad_Usage;

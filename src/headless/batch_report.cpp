@@ -35,6 +35,12 @@ void Batch_Report::Warn(const QString& title, const QString& text)
     Tell(0, title, text);
 }
 
+void Batch_Report::Explain(const QString& text)
+{
+    if (!text.isEmpty())
+        Complain(text);
+}
+
 void Batch_Report::Show_Error(const Run_Time_Error& error)
 {
     const QString text = error.Message();

@@ -44,6 +44,8 @@ class Batch_Report : public Run_Listener
     void Show_Message(const Message_Box& box);
     /// Something that the operator should know and that stops nothing.
     void Warn(const QString& title, const QString& text);
+    /// More words about a refusal, for people only; empty ones say nothing.
+    void Explain(const QString& text);
     /// The run-time error that ends the program.
     void Show_Error(const Run_Time_Error& error);
     /// The last thing said. `exit` is the program's exit status.

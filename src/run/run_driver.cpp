@@ -174,6 +174,7 @@ void Reset_Progress(Program& program)
 
 void Show_Finished(Program& program)
 {
+    // Deliberate: a label that the run never showed stays hidden.
     program.Form.lbl_ProgressFinished.Caption = u"FINISHED"_s;
     program.Form.Progress_Fraction = 0;
     program.Form.Progress = Progress_Look::Finished;

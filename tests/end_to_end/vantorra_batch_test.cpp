@@ -112,8 +112,13 @@ TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
         {"all fine", {u"a.mkv!"_s, u"readme.txt"_s}, {}, 0, {}},
         {"a file fails", {u"a.mkv!"_s, u"b.avi"_s}, {}, 2, u"b.avi"_s},
         {"no video", {u"readme.txt"_s}, {}, 1, u"NO VIDEO FILES FOUND!"_s},
-        {"no target", {u"a.mkv!"_s}, {u"--target"_s, u"/nonexistent"_s}, 1, u"The Target path does not exist!"_s},
+        {"no target",
+         {u"a.mkv!"_s},
+         {u"--target"_s, u"/nonexistent"_s},
+         1,
+         u"--target \"/nonexistent\" is no folder"_s},
         {"no videos", {}, {u"--videos"_s, u"/nonexistent"_s}, 1, u"The Video path does not exist!"_s},
+        {"one folder twice", {u"a.mkv!"_s}, {u"--target"_s, u"videos/."_s}, 1, u"is the video folder itself"_s},
         {"no extension", {u"a.mkv!"_s, u"name."_s}, {}, 0, u"#70"_s},
         {"unknown option", {u"a.mkv!"_s}, {u"--vidoes"_s}, 64, u"vidoes"_s},
         {"unknown box", {u"a.mkv!"_s}, {u"--tick"_s, u"chk_Nothing"_s}, 64, u"chk_Nothing"_s},
@@ -133,6 +138,7 @@ TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
             } else {
                 batch.Write(u"videos/"_s + file, "text");
             }
+        batch.Process.setWorkingDirectory(batch.Path());
         const Batch_Result result = batch.Run(more);
         EXPECT_EQ(result.Exit, exit) << result.Err.toStdString();
         EXPECT_TRUE(result.Err.contains(told)) << result.Err.toStdString();

@@ -3,7 +3,6 @@
 #include "headless/batch_options.h"
 #include "headless/batch_report.h"
 #include "headless/memory_stream.h"
-#include "headless/progress_bar.h"
 
 #include <gtest/gtest.h>
 
@@ -114,12 +113,4 @@ TEST(Batch_Report, AMessageNamesTheFileInWork)
     run.Report->Show_Message({.Code = 12, .Title = u"T."_s, .Text = u"Failed."_s});
     run.Report->Show_Message({.Title = u"T."_s, .Text = u"About /v/a.avi"_s});
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: #12 T. Failed. [/v/a.avi]\nvantorra-batch: T. About /v/a.avi\n"_s);
-}
-
-TEST(Batch_Report, TheBarFitsTheTerminal)
-{
-    EXPECT_EQ(Bar_Text(50, u"film"_s, 80), u"[###############               ]  50% film"_s);
-    EXPECT_EQ(Bar_Text(100, u"film"_s, 20).size(), 20);
-    EXPECT_EQ(Bar_Text(-5, {}, 80).count(u'#'), 0);
-    EXPECT_EQ(Bar_Text(1000, {}, 80).count(u'#'), 30);
 }

@@ -39,9 +39,8 @@ struct Driver_Test : Test_Program
     /// What mkvmerge does; its arguments are kept in the file "arguments".
     void Mkvmerge(const QByteArray& body)
     {
-        Prog.Tools.System_MKVMerge_Path =
-            Write_Stand_In(*this, u"tools/mkvmerge"_s,
-                           "echo \"$@\" > '" + Path(u"arguments"_s).toUtf8() + "'\n" + body);
+        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(
+            *this, u"tools/mkvmerge"_s, "echo \"$@\" > '" + Path(u"arguments"_s).toUtf8() + "'\n" + body);
     }
 
     Press_Result Press() { return btn_RunVantorra_MouseUp(Prog, {.X = 5, .Y = 5, .Width = 10, .Height = 10}); }
