@@ -10,9 +10,11 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QStorageInfo>
 #include <QStringDecoder>
 #include <cerrno>
 #include <filesystem>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 namespace fs = std::filesystem;
@@ -95,6 +97,41 @@ static bool Trash_Can_Be_Made()
     return trash.mkpath(u"files"_s) && trash.mkpath(u"info"_s);
 }
 
+/// Where a file of that path may be trashed: the person's own trash, and that of another disk.
+static QStringList Trashes_For(const QString& path)
+{
+    QStringList trashes = {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Trash"_s};
+    const QStorageInfo disk(QFileInfo(path).absolutePath());
+    if (disk != QStorageInfo(QDir::home())) {
+        const QString person = QString::number(::getuid());
+        const QString top = With_Separator(disk.rootPath());
+        trashes << top + u".Trash/"_s + person << top + u".Trash-"_s + person;
+    }
+    return trashes;
+}
+
+/// Qt tries one name after the other, for ever, while it can't make the file that describes what it trashes: where the
+/// name is too long for it, the trash can't be written to, or the disk is full. So that file is tried first.
+static bool Can_Be_Described(const QString& path)
+{
+    constexpr qsizetype longest_name = 255;
+    // With the number of a name that is there already.
+    const QString description = File_Name_Of(path) + u"-0000.trashinfo"_s;
+    if (QFile::encodeName(description).size() > longest_name)
+        return false;
+    for (const QString& trash : Trashes_For(path)) {
+        const QString folder = trash + u"/info"_s;
+        QFile tried(folder + Path_Separator + description);
+        // Where there is no such folder yet Qt makes it, or gives up.
+        if (!QFileInfo(folder).isDir() || tried.exists())
+            continue;
+        if (!tried.open(QIODevice::NewOnly | QIODevice::WriteOnly))
+            return false;
+        tried.remove();
+    }
+    return true;
+}
+
 bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
 {
     // A dangling link exists as a thing to move though it names no file.
@@ -104,7 +141,7 @@ bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
     QString plain = path;
     while (plain.size() > 1 && plain.endsWith(Path_Separator))
         plain.chop(1);
-    if (Trash_Can_Be_Made() && QFile::moveToTrash(plain))
+    if (Trash_Can_Be_Made() && Can_Be_Described(plain) && QFile::moveToTrash(plain))
         return true;
     faults.AppendLine(u"-- Could not be moved to the trash - \""_s + plain + u'"');
     return false;

@@ -3,6 +3,7 @@
 #include "common/stand_in_tool.h"
 
 #include <QDir>
+#include <QFile>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -127,4 +128,24 @@ TEST_F(Deletions, WhatCannotBeMovedToTheTrashStaysAndIsNotCalledDeleted)
     EXPECT_FALSE(Prog.Run.Ancillary_Deleted);
     EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 3);
     EXPECT_EQ(Test.Results().filter(u"DELETED"_s).size(), 0);
+}
+
+TEST_F(Deletions, ATrashThatCannotDescribeWhatItTakesIsNotTriedForEver)
+{
+    // Nobody, root neither, can make a file in there.
+    QDir().mkpath(Test.Path(u"data/Trash/files"_s));
+    ASSERT_TRUE(QFile::link(u"/proc/self"_s, Test.Path(u"data/Trash/info"_s)));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(Test.Path(u"data"_s)));
+    EXPECT_EQ(Run(), All);
+    EXPECT_FALSE(Prog.Run.Source_Deleted);
+    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 1);
+}
+
+TEST_F(Deletions, ANameTooLongForTheTrashStays)
+{
+    const QString longest = QString(251, u'n') + u".mkv"_s;
+    Test.Write(u"videos/"_s + longest, "x");
+    EXPECT_EQ(Run().filter(u".mkv"_s), QStringList{longest});
+    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 1);
+    EXPECT_EQ(Notes(u"-- Source video file"_s), 1);
 }
