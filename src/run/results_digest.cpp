@@ -121,8 +121,8 @@ void Flash_Process_Failed(Program& program)
         return;
     form.pic_ProcessFailed.Visible = true;
     for (int move = 0; move < Flash_Moves; ++move) {
-        form.img_ProcessFailed_Out = !form.img_ProcessFailed_Out;
         program.Person.Wait_With_Events(Flash_Wait);
+        form.img_ProcessFailed_Out = !form.img_ProcessFailed_Out;
     }
     program.Run.Process_Failed = true;
 }

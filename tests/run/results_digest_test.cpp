@@ -112,7 +112,10 @@ TEST(ResultsDigest, TheSeparatorStandsOnceUntilMkvmergeHasSpoken)
 TEST(ResultsDigest, TheFailurePictureFlashesOnceForAFile)
 {
     Test_Program test;
+    QList<bool> out;
+    test.Person.On_Pump = [&] { out += test.Prog.Form.img_ProcessFailed_Out; };
     Flash_Process_Failed(test.Prog);
+    EXPECT_EQ(out, (QList<bool>{false, true, false, true})) << "each move comes behind its wait";
     EXPECT_TRUE(test.Prog.Form.pic_ProcessFailed.Visible);
     EXPECT_FALSE(test.Prog.Form.img_ProcessFailed_Out);
     EXPECT_TRUE(test.Prog.Run.Process_Failed);
