@@ -70,6 +70,8 @@ QStringList Names_In_Trash()
 Test_Program::Test_Program()
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(Data_Home()));
+    // Where a test's files lie on another disk than the home, their trash would be that disk's.
+    qputenv("HOME", QFile::encodeName(Data_Home()));
     for (const QString& folder : {u"app"_s, u"videos"_s, u"target"_s})
         QDir().mkpath(Path(folder));
     Prog.Settings.App_Folder = Path(u"app/"_s);
