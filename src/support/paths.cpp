@@ -110,10 +110,8 @@ bool Same_Folder(const QString& one, const QString& other)
 {
     if (one.isEmpty() || other.isEmpty())
         return one.isEmpty() && other.isEmpty();
-    if (With_Separator(one) == With_Separator(other))
-        return true;
-    const QString canonical = QFileInfo(one).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
+    // By what they are on disk, not only by their names: a folder may be mounted twice, or its name's case not count.
+    return With_Separator(one) == With_Separator(other) || Same_File(one, other);
 }
 
 bool Same_File(const QString& one, const QString& other)

@@ -34,7 +34,7 @@ bool Match_File_Masks(const QString& name, const QString& masks);
 /// `path` if it is a folder; for a file everything up to and including the last separator; else the empty text.
 QString Folder_Of(const QString& path);
 
-/// True if both name the same folder on disk: equal as text with separators added, or equal as canonical paths.
+/// True if both name the same folder: equal as text with separators added, or one folder on disk by whatever name.
 bool Same_Folder(const QString& one, const QString& other);
-/// True if both exist and are one file on disk (same device and inode).
+/// True if both exist and are one file or folder on disk (same device and inode).
 bool Same_File(const QString& one, const QString& other);

@@ -2,6 +2,7 @@
 
 #include "common/test_program.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -54,4 +55,17 @@ TEST(Paths, ARelativePathNeverExists)
     EXPECT_FALSE(Folder_Exists(u"."_s));
     EXPECT_TRUE(Path_Exists(u"."_s));
     EXPECT_FALSE(Path_Exists(u""_s));
+}
+
+TEST(Paths, OneFolderByTwoNamesIsTheSame)
+{
+    const Test_Program test;
+    ASSERT_TRUE(QFile::link(test.Path(u"videos"_s), test.Path(u"link"_s)));
+    const QString videos = test.Path(u"videos"_s);
+    EXPECT_TRUE(Same_Folder(videos, videos + u'/'));
+    EXPECT_TRUE(Same_Folder(videos, test.Path(u"target/../videos/"_s)));
+    EXPECT_TRUE(Same_Folder(videos, test.Path(u"link/"_s)));
+    EXPECT_FALSE(Same_Folder(videos, test.Path(u"target"_s)));
+    EXPECT_FALSE(Same_Folder(videos, u""_s));
+    EXPECT_FALSE(Same_Folder(test.Path(u"gone"_s), test.Path(u"gone too"_s)));
 }
