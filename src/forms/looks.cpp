@@ -40,6 +40,11 @@ QColor Mark_Colour(const QPalette& palette)
     return Shade(palette, 0xff8a5200, 0xffffc061);
 }
 
+QColor Grey_Box_Colour(const QPalette& palette)
+{
+    return Shade(palette, 0xffc0c0c0, 0xff55595e);
+}
+
 QIcon Picture(const QString& name, const QPalette& palette)
 {
     const QIcon drawn(u":/images/"_s + name + u".svg"_s);

@@ -15,6 +15,8 @@ QColor Finished_Colour(const QPalette& palette);
 QColor Interrupted_Colour(const QPalette& palette);
 QColor Fault_Colour(const QPalette& palette);
 QColor Mark_Colour(const QPalette& palette);
+/// The ground of a box that takes no part in what is written.
+QColor Grey_Box_Colour(const QPalette& palette);
 
 /// A picture of ours by its file's name; those drawn in one colour take that of the palette's text.
 QIcon Picture(const QString& name, const QPalette& palette);

@@ -13,6 +13,8 @@ void Place_Viewer(Form_Place& form, const Form_Place& main_form, const WindowBox
         form.Left = saved.Left;
         form.Width = saved.Width;
         form.Height = saved.Height;
+        // Minimised it would be out of sight.
+        form.Window_State = saved.MM == 2 ? 2 : 0;
     }
 }
 

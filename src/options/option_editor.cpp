@@ -1,5 +1,6 @@
 #include "options/option_editor.h"
 
+#include "logs/viewer_text_size.h"
 #include "program.h"
 #include "run/video_batch.h"
 #include "support/paths.h"
@@ -97,6 +98,7 @@ void Activate_Option_Editor(Program& program)
     editor.Selected_Indexes.clear();
     Load_Language_Combos(program);
     Load_The_Boxes(editor);
+    Show_Text_Size(editor.Font_Size, editor.lbl_FontSize);
     Scan_Option_Folder(program);
     editor.Focus = u"btn_Close"_s;
 }
@@ -123,7 +125,8 @@ static QStringList Names_By_Masks(Program& program, const QString& folder, const
 void Scan_Option_Folder(Program& program)
 {
     Option_Editor& editor = program.Option_Files;
-    editor.Rows.clear();
+    // Events have their turn while the folder is listed: the rows change all at once.
+    std::vector<OptionFileRow> rows;
     if (!editor.Folder.isEmpty()) {
         QSet<QString> paired;
         for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Media_Masks)) {
@@ -132,12 +135,13 @@ void Scan_Option_Folder(Program& program)
                 row.OptionFileName = option_name;
                 paired += option_name;
             }
-            editor.Rows.push_back(row);
+            rows.push_back(row);
         }
         for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Option_Masks))
             if (!paired.contains(name))
-                editor.Rows.push_back({{}, name});
+                rows.push_back({{}, name});
     }
+    editor.Rows = std::move(rows);
     Load_lvw_Files(editor);
     Select_lvw_Files(program);
 }
@@ -150,13 +154,18 @@ std::vector<int> MergeSort2(const std::vector<std::array<QString, 2>>& table, st
     return rows;
 }
 
+std::array<QString, 2> Sort_Keys(const OptionFileRow& row)
+{
+    return {row.FileName.isEmpty() ? Missing_Mark + row.OptionFileName : row.FileName,
+            row.OptionFileName.isEmpty() ? Missing_Mark : row.OptionFileName};
+}
+
 void Load_lvw_Files(Option_Editor& editor)
 {
     std::vector<std::array<QString, 2>> table;
     table.reserve(editor.Rows.size());
     for (const OptionFileRow& row : editor.Rows)
-        table.push_back({row.FileName.isEmpty() ? Missing_Mark + row.OptionFileName : row.FileName,
-                         row.OptionFileName.isEmpty() ? Missing_Mark : row.OptionFileName});
+        table.push_back(Sort_Keys(row));
     std::vector<int> order(table.size());
     std::iota(order.begin(), order.end(), 0);
     order = MergeSort2(table, MergeSort2(table, std::move(order), 1), 0);

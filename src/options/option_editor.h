@@ -64,8 +64,9 @@ struct Option_Editor
     QStringList cmbo_Language; ///< one line "Name (code)" a row of the language table
     QStringList cmbo_Default;  ///< "no", "yes"
     QStringList cmbo_Forced;
-    QString Focus; ///< name of the control that the logic gave the focus to
-    int Font_Size = 10;
+    QString Focus;               ///< name of the control that the logic gave the focus to
+    std::int16_t Font_Size = 10; ///< points of the list's and the boxes' text
+    Label lbl_FontSize;
 
     Option_Box& At(Option_Slot slot) { return Boxes[slot]; }
 };
@@ -83,6 +84,8 @@ void Load_Language_Combos(Program& program);
 /// Lists the folder anew: Rows, the list, and the selection as far as its rows are still there. An unset or vanished
 /// folder leaves an empty list.
 void Scan_Option_Folder(Program& program);
+/// What the two columns are sorted by: the row's names, and for a missing one a mark that sorts behind names.
+std::array<QString, 2> Sort_Keys(const OptionFileRow& row);
 /// The list in its order: by media file, then by option file, rows without one of the two behind the others.
 void Load_lvw_Files(Option_Editor& editor);
 /// The row numbers of `table` sorted ascending by one column's texts, by code unit; stable.
@@ -100,6 +103,8 @@ OptionRecord Merge_Selected_Records(const std::vector<OptionRecord>& records);
 void Blank_Boxes(Option_Editor& editor);
 /// Blank_Boxes, then the fields of Current_Options into the boxes that aren't sticky.
 void Show_Option_Record(Option_Editor& editor);
+/// What a grey box says in place of a text: an apply on one row takes it as empty, one on several leaves their values.
+QString Grey_Box_Note(const Option_Editor& editor);
 /// Copies each set box to Current_Options and empties its comments.
 void Read_Boxes(Option_Editor& editor);
 
@@ -112,6 +117,11 @@ void Option_Box_Change(Option_Editor& editor, Option_Slot slot, const QString& t
 void Option_Box_Leave(Option_Editor& editor, Option_Slot slot);
 /// Name of the control that Enter moves to from a box; from the last one none.
 QString Next_Box(Option_Slot slot);
+
+/// The text size: one more, one less, that of the main form.
+void OptionsFiles_img_FontInc(Option_Editor& editor);
+void OptionsFiles_img_FontDec(Option_Editor& editor);
+void OptionsFiles_img_FontReset(Option_Editor& editor);
 
 /// The boxes take the sticky values; boxes that aren't sticky are emptied.
 void Load_The_Boxes(Option_Editor& editor);

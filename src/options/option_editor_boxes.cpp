@@ -1,3 +1,4 @@
+#include "logs/viewer_text_size.h"
 #include "options/option_editor.h"
 #include "support/text.h"
 
@@ -87,6 +88,26 @@ QString Next_Box(Option_Slot slot)
 {
     const std::size_t next = static_cast<std::size_t>(slot) + 1;
     return next < Option_Slot_Count ? QString::fromUtf16(Fields[next].Control) : QString();
+}
+
+QString Grey_Box_Note(const Option_Editor& editor)
+{
+    return editor.Selected_Count == 0 ? QString() : editor.Selected_Count == 1 ? u"(not set)"_s : u"(left as it is)"_s;
+}
+
+void OptionsFiles_img_FontInc(Option_Editor& editor)
+{
+    Increase_Text_Size(editor.Font_Size, editor.lbl_FontSize);
+}
+
+void OptionsFiles_img_FontDec(Option_Editor& editor)
+{
+    Decrease_Text_Size(editor.Font_Size, editor.lbl_FontSize);
+}
+
+void OptionsFiles_img_FontReset(Option_Editor& editor)
+{
+    Reset_Text_Size(editor.Font_Size, editor.lbl_FontSize);
 }
 
 void Load_The_Boxes(Option_Editor& editor)

@@ -1,0 +1,66 @@
+#include "forms/kept_place.h"
+
+#include "forms/screen_place.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <QWidget>
+
+static bool Same(const Form_Place& a, const Form_Place& b)
+{
+    return a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height &&
+           a.Window_State == b.Window_State;
+}
+
+Kept_Place::Kept_Place(QWidget& form, Form_Place& place) : QObject(&form), form_(form), place_(place)
+{
+    form.installEventFilter(this);
+}
+
+void Kept_Place::Propose_Size()
+{
+    if (place_.Width > 0)
+        return;
+    form_.ensurePolished();
+    const QSize size = form_.sizeHint();
+    place_.Width = size.width();
+    place_.Height = size.height();
+}
+
+void Kept_Place::Open()
+{
+    const QSize size = QSize(place_.Width, place_.Height).expandedTo(form_.minimumSizeHint());
+    form_.setWindowState(Qt::WindowNoState);
+    form_.setGeometry(Onto_Screen(QRect(QPoint(place_.Left, place_.Top), size)));
+    if (place_.Window_State == 2)
+        form_.setWindowState(Qt::WindowMaximized);
+    Note();
+}
+
+void Kept_Place::Render()
+{
+    if (form_.isVisible() && !Same(place_, shown_))
+        Open();
+}
+
+void Kept_Place::Note()
+{
+    const bool whole_screen = form_.isMaximized() || form_.isFullScreen();
+    place_.Window_State = whole_screen ? 2 : form_.isMinimized() ? 1 : 0;
+    const QRect normal = place_.Window_State == 0 ? form_.geometry() : form_.normalGeometry();
+    if (normal.isValid()) {
+        place_.Left = normal.left();
+        place_.Top = normal.top();
+        place_.Width = normal.width();
+        place_.Height = normal.height();
+    }
+    shown_ = place_;
+}
+
+bool Kept_Place::eventFilter(QObject*, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if ((type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange) && form_.isVisible())
+        Note();
+    return false;
+}

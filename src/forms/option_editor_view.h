@@ -1,0 +1,66 @@
+#pragma once
+
+#include "forms/kept_place.h"
+#include "forms/option_files_model.h"
+#include "forms/program_dialog.h"
+
+#include <memory>
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+
+namespace Ui {
+class frm_OptionsFiles;
+}
+
+/// frm_OptionsFiles: the table of a folder's audio or subtitle files beside their option files, and the five boxes.
+class Option_Editor_View : public Program_Dialog
+{
+    Q_OBJECT
+
+  public:
+    Option_Editor_View(Program& program, Slot_Guard& guard, QWidget* owner);
+    ~Option_Editor_View() override;
+
+    void Open() override;
+    void Render() override;
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// The window's close box acts as btn_Close.
+    void Leave() override;
+
+  private:
+    /// The controls of one box. A text box is a line or a drop-down.
+    struct Box_Controls
+    {
+        QLineEdit* Line = nullptr;
+        QComboBox* List = nullptr;
+        QCheckBox* Sticky = nullptr;
+
+        QWidget* Widget() const;
+    };
+
+    void Connect_Boxes();
+    void Refresh();
+    void Apply();
+    void Selection_Changed();
+    std::vector<int> Selected_Rows() const;
+    void Changed(Option_Slot slot, const QString& text);
+    bool Key_Between_Boxes(Option_Slot slot, const QKeyEvent& event);
+
+    void Set_Looks();
+    void Render_List();
+    void Render_Box(Option_Slot slot);
+    void Render_Text_Size();
+
+    std::unique_ptr<Ui::frm_OptionsFiles> ui_;
+    Form_Place kept_;
+    Kept_Place place_;
+    Option_Files_Model files_;
+    Option_Files_Order order_;
+    std::array<Box_Controls, Option_Slot_Count> boxes_;
+    bool filling_ = false; ///< the program fills controls, not the operator
+};

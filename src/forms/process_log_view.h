@@ -1,0 +1,36 @@
+#pragma once
+
+#include "forms/kept_place.h"
+#include "forms/program_dialog.h"
+#include "logs/log_viewer.h"
+
+#include <memory>
+
+namespace Ui {
+class frm_ProcessLog;
+}
+
+/// frm_ProcessLog: the process log, one line a row.
+class Process_Log_View : public Program_Dialog
+{
+    Q_OBJECT
+
+  public:
+    Process_Log_View(Program& program, Slot_Guard& guard, QWidget* owner);
+    ~Process_Log_View() override;
+
+    void Open() override;
+    void Render() override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    /// The window's close box acts as btn_Done.
+    void Leave() override;
+
+  private:
+    void Load_Full_Log();
+
+    std::unique_ptr<Ui::frm_ProcessLog> ui_;
+    frm_ProcessLog form_;
+    Kept_Place place_;
+};

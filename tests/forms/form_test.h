@@ -1,0 +1,34 @@
+#pragma once
+
+#include "forms/test_window.h"
+
+#include <gtest/gtest.h>
+
+/// A window whose forms a test opens and works in.
+struct Form_Test : testing::Test
+{
+    Test_Window Window;
+
+    template <typename Widget = QAbstractButton>
+    static Widget& In(QWidget& form, const char* name)
+    {
+        auto* widget = form.findChild<Widget*>(QLatin1StringView(name));
+        if (!widget)
+            qFatal("There is no %s", name);
+        return *widget;
+    }
+
+    static void Push(QWidget& form, const char* name) { Click_On(In(form, name)); }
+
+    /// Chooses the menu item; `person` is what is done in the form that it opens.
+    void Open(const char* action, const char* form, const std::function<void(QWidget&)>& person)
+    {
+        bool met = false;
+        Window.Person.On_Form[QLatin1StringView(form)] = [&](QWidget& widget) {
+            met = true;
+            person(widget);
+        };
+        Window.Choose(action);
+        EXPECT_TRUE(met) << form;
+    }
+};

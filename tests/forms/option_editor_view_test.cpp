@@ -1,0 +1,365 @@
+#include "common/media.h"
+#include "forms/form_test.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QHeaderView>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTableView>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The editor of option files over the test's video folder.
+struct Editor_Form : Form_Test
+{
+    QWidget* Form = nullptr;
+
+    void Start()
+    {
+        ASSERT_TRUE(Window.Start());
+        Window.Set_Folders();
+    }
+
+    void Edit(const std::function<void()>& person, const char* action = "mnu_AudioOptionsFile")
+    {
+        Open(action, "frm_OptionsFiles", [&](QWidget& form) {
+            Form = &form;
+            person();
+        });
+    }
+
+    QTableView& Files() const { return In<QTableView>(*Form, "lvw_Files"); }
+
+    void Click_Row(int row, Qt::KeyboardModifiers keys = {}) const
+    {
+        const QRect cell = Files().visualRect(Files().model()->index(row, 0));
+        Click_On(*Files().viewport(), cell.center(), Qt::LeftButton, keys);
+    }
+
+    /// Goes to a box and types over what it holds.
+    void Type(const char* box, const QString& text) const
+    {
+        auto& widget = In<QWidget>(*Form, box);
+        widget.setFocus();
+        QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+        if (text.isEmpty())
+            QTest::keyClick(&widget, Qt::Key_Delete);
+        else
+            QTest::keyClicks(&widget, text);
+        QCoreApplication::processEvents();
+    }
+
+    /// Chooses a line of a drop-down by its first letter.
+    void Choose_Line(const char* box, Qt::Key letter) const
+    {
+        auto& list = In<QComboBox>(*Form, box);
+        list.setFocus();
+        QTest::keyClick(&list, letter);
+        QCoreApplication::processEvents();
+    }
+
+    QStringList Listed() const
+    {
+        QStringList rows;
+        const QAbstractItemModel& model = *Files().model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            rows += model.index(row, 0).data().toString() + u'|' + model.index(row, 1).data().toString();
+        return rows;
+    }
+
+    /// What the boxes show: a set one's text in square brackets, a grey one's note.
+    QString Boxes() const
+    {
+        QStringList texts;
+        for (const char* name : {"txt_Title", "cmbo_Language", "cmbo_Default", "cmbo_Forced", "txt_Delay"}) {
+            auto& widget = In<QWidget>(*Form, name);
+            auto* list = qobject_cast<QComboBox*>(&widget);
+            auto* line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(&widget);
+            const QString text = line ? line->text() : list->currentText();
+            const bool grey = widget.font().italic();
+            EXPECT_NE(grey, widget.palette().color(QPalette::Base) == Form->palette().color(QPalette::Base));
+            EXPECT_TRUE(!grey || text.isEmpty()) << name;
+            texts += !grey ? u'[' + text + u']' : line ? line->placeholderText() : list->placeholderText();
+        }
+        return texts.join(u'/').replace(u"/ /"_s, u"//"_s).replace(u"/ /"_s, u"//"_s);
+    }
+};
+
+} // namespace
+
+TEST_F(Editor_Form, OpensFromEveryMenuItemForItsKindWithTheMainFormNoLongerOnTop)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Window.Files.Write(u"videos/b.srt"_s);
+    Window.Choose("mnu_KeepTopmost");
+    ASSERT_TRUE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
+
+    struct Case
+    {
+        const char* Action;
+        QString Title;
+        QString Row;
+    };
+
+    const Case cases[] = {
+        {"mnu_AudioOptionsFile", u"Create and Edit Audio Options Files"_s, u"a.mp3|"_s},
+        {"mnu_SubtitleOptionsFile", u"Create and Edit Subtitle Options Files"_s, u"b.srt|"_s},
+        {"mnu_PopupAudioOptions1", u"Create and Edit Audio Options Files"_s, u"a.mp3|"_s},
+        {"mnu_PopupSubsOptions1", u"Create and Edit Subtitle Options Files"_s, u"b.srt|"_s},
+    };
+    for (const Case& one : cases) {
+        if (!Window.Form().findChild<QAction*>(QLatin1StringView(one.Action))) {
+            ADD_FAILURE() << one.Action;
+            continue;
+        }
+        Edit(
+            [&] {
+                EXPECT_EQ(Form->windowTitle(), one.Title);
+                EXPECT_EQ(Listed(), QStringList{one.Row});
+                EXPECT_TRUE(In(*Form, "btn_Close").hasFocus());
+                EXPECT_FALSE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
+                Press(*Form, Qt::Key_Escape);
+                EXPECT_FALSE(Form->isVisible());
+            },
+            one.Action);
+        EXPECT_TRUE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
+    }
+}
+
+TEST_F(Editor_Form, OneRowTakesAllBoxesAndSeveralTheSetOnes)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Window.Files.Write(u"videos/b.mp3"_s);
+    Window.Files.Write(u"videos/b.mp3.opt"_s, "Title=Own\r\nDefault=Yes\r\n");
+    Window.Files.Write(u"videos/c.mp3"_s);
+    Window.Files.Write(u"videos/c.mp3.opt"_s, "Title=Other\r\nDefault=yes\r\n# note\r\n");
+    Window.Files.Write(u"videos/gone.mp3.opt"_s, "Delay=3\r\n");
+    Edit([&] {
+        EXPECT_EQ(Listed(), (QStringList{u"a.mp3|"_s, u"b.mp3|b.mp3.opt"_s, u"c.mp3|c.mp3.opt"_s, u"|gone.mp3.opt"_s}));
+        EXPECT_EQ(Boxes(), u"////");
+        Push(*Form, "btn_Apply"); // nothing is selected
+        EXPECT_FALSE(QFile::exists(Window.Files.Path(u"videos/a.mp3.opt"_s)));
+
+        Click_Row(0);
+        EXPECT_EQ(Boxes(), u"(not set)/(not set)/(not set)/(not set)/(not set)");
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Listed()[0], u"a.mp3|");
+        Type("txt_Title", u"Ünïcode \"quoted\" = 1"_s);
+        Type("txt_Delay", u"-250"_s);
+        Choose_Line("cmbo_Forced", Qt::Key_Y);
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Window.Files.Read(u"videos/a.mp3.opt"_s),
+                  "Title=Ünïcode \"quoted\" = 1\r\nForced=yes\r\nDelay=-250\r\n");
+        EXPECT_EQ(Listed()[0], u"a.mp3|a.mp3.opt");
+        EXPECT_EQ(Boxes(), u"[Ünïcode \"quoted\"]/(not set)/(not set)/[yes]/[-250]")
+            << "a title ends at a second \"=\"";
+        EXPECT_TRUE(In(*Form, "btn_Close").hasFocus());
+
+        Click_Row(1);
+        EXPECT_EQ(Boxes(), u"[Own]/(not set)/[yes]/(not set)/(not set)");
+        Click_Row(2, Qt::ControlModifier);
+        const QString note = u"(left as it is)"_s;
+        EXPECT_EQ(Boxes(), QStringList({note, note, note, note, note}).join(u'/')) << "Yes and yes differ";
+        Type("cmbo_Language", u"German (ger)"_s);
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Window.Files.Read(u"videos/b.mp3.opt"_s), "Title=Own\r\nLanguage=German (ger)\r\nDefault=Yes\r\n");
+        EXPECT_EQ(Window.Files.Read(u"videos/c.mp3.opt"_s), "Title=Other\r\nLanguage=German (ger)\r\nDefault=yes\r\n");
+
+        Click_Row(3);
+        EXPECT_EQ(Boxes(), u"(not set)/(not set)/(not set)/(not set)/[3]");
+        const qsizetype trashed = Names_In_Trash().size();
+        Type("txt_Delay", {});
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Files().model()->rowCount(), 3) << "an orphan without values goes";
+        EXPECT_EQ(Names_In_Trash().size(), trashed + 1);
+    });
+}
+
+TEST_F(Editor_Form, ABoxIsSetByTheOperatorOnlyAndLeavingItEmptyGreysIt)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Edit([&] {
+        Click_Row(0);
+        auto& flag = In<QComboBox>(*Form, "cmbo_Default");
+        ASSERT_EQ(flag.count(), 3);
+        EXPECT_EQ(flag.itemText(0), u"");
+        QWheelEvent wheel(QPointF(5, 5), flag.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&flag, &wheel);
+        EXPECT_EQ(flag.currentIndex(), -1) << "a wheel that passes by";
+
+        Type("txt_Title", u"x"_s);
+        Type("txt_Title", {});
+        EXPECT_TRUE(Boxes().startsWith(u"[]/"_s)) << "emptied, but not left";
+        Press(*Form, Qt::Key_Return);
+        EXPECT_TRUE(In<QWidget>(*Form, "cmbo_Language").hasFocus());
+        EXPECT_TRUE(Boxes().startsWith(u"(not set)/"_s));
+
+        // The language box stays set when it is left empty; a flag box without "no" and "yes" doesn't.
+        Type("cmbo_Language", u"x"_s);
+        Type("cmbo_Language", {});
+        Press(*Form, Qt::Key_Enter, Qt::KeypadModifier);
+        EXPECT_TRUE(flag.hasFocus());
+        Choose_Line("cmbo_Default", Qt::Key_N);
+        QTest::keyClick(&flag, Qt::Key_Home);
+        EXPECT_EQ(Boxes(), u"(not set)/[]/[]/(not set)/(not set)");
+        QTest::keyClick(&flag, Qt::Key_Comma, Qt::KeypadModifier);
+        QTest::keyClick(&In<QWidget>(*Form, "cmbo_Forced"), Qt::Key_Select);
+        EXPECT_TRUE(In<QWidget>(*Form, "txt_Delay").hasFocus());
+        QTest::keyClick(&In<QWidget>(*Form, "txt_Delay"), Qt::Key_Return);
+        EXPECT_TRUE(In<QWidget>(*Form, "txt_Delay").hasFocus()) << "the last one";
+        EXPECT_EQ(Boxes(), u"(not set)/[]/(not set)/(not set)/(not set)");
+        EXPECT_TRUE(Form->isVisible());
+    });
+}
+
+TEST_F(Editor_Form, StickyTextsOutliveTheFormAndComeBackPerKind)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Window.Files.Write(u"videos/a.mp3.opt"_s, "Title=Own\r\nDelay=7\r\n");
+    Edit([&] {
+        Click_Row(0);
+        Push(*Form, "chk_StickyDelay");
+        Push(*Form, "chk_StickyForced"); // nothing in its box: off at the close
+        Form->setGeometry(120, 90, 700, 610);
+        QCoreApplication::processEvents();
+        Form->close();
+        EXPECT_FALSE(Form->isVisible());
+    });
+    EXPECT_EQ(Window.Prog().Settings.Audio_Sticky.Delay, u"7");
+    EXPECT_EQ(Window.Prog().Settings.Audio_Sticky.Sticky_Forced, 0);
+    EXPECT_EQ(Window.Prog().Settings.AudioOptionFiles_Box.Left, 120);
+    EXPECT_EQ(Window.Prog().Settings.AudioOptionFiles_Box.Height, 610);
+    Edit([&] { EXPECT_EQ(Boxes(), u"////") << "the other kind has its own"; }, "mnu_SubtitleOptionsFile");
+    Window.Quit();
+    ASSERT_TRUE(Window.Start());
+    Edit([&] {
+        EXPECT_EQ(Boxes(), u"////[7]");
+        EXPECT_TRUE(In<QCheckBox>(*Form, "chk_StickyDelay").isChecked());
+        EXPECT_EQ(Form->geometry(), QRect(120, 90, 700, 610));
+    });
+}
+
+TEST_F(Editor_Form, ASessionOnAThousandFiles)
+{
+    Start();
+    for (int i = 0; i < 1000; ++i) {
+        const QString name = u"videos/%1.mp3"_s.arg(i, 4, 10, QChar(u'0'));
+        Window.Files.Write(name);
+        if (i % 2 == 0)
+            Window.Files.Write(name + u".opt"_s, "Title=T" + QByteArray::number(i) + "\r\n");
+    }
+    Edit([&] {
+        ASSERT_EQ(Files().model()->rowCount(), 1000);
+        Files().setFocus();
+        Press(*Form, Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(Window.Prog().Option_Files.Selected_Count, 1000);
+        Type("txt_Delay", u"40"_s);
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Window.Files.Read(u"videos/0998.mp3.opt"_s), "Title=T998\r\nDelay=40\r\n");
+        EXPECT_EQ(Window.Files.Read(u"videos/0999.mp3.opt"_s), "Delay=40\r\n");
+        EXPECT_EQ(Files().model()->index(999, 1).data().toString(), u"0999.mp3.opt");
+
+        // A head that is clicked turns the table around, not what a row is.
+        Click_On(*Files().horizontalHeader()->viewport(), QPoint(20, 8), Qt::LeftButton, {});
+        EXPECT_EQ(Files().model()->index(0, 0).data().toString(), u"0999.mp3");
+        Click_Row(1);
+        EXPECT_EQ(Window.Prog().Option_Files.Selected_Rows.front().FileName, u"0998.mp3");
+        EXPECT_EQ(Boxes(), u"[T998]/(not set)/(not set)/(not set)/[40]");
+        Type("txt_Title", u"New"_s);
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Window.Files.Read(u"videos/0998.mp3.opt"_s), "Title=New\r\nDelay=40\r\n");
+        EXPECT_EQ(Window.Prog().Option_Files.Selected_Rows.front().FileName, u"0998.mp3") << "still selected";
+
+        // A click on the label, or its key, lists the folder anew.
+        Window.Files.Write(u"videos/new.mp3"_s);
+        Push(*Form, "lbl_PickFile");
+        EXPECT_EQ(Files().model()->rowCount(), 1001);
+        QFile::remove(Window.Files.Path(u"videos/new.mp3"_s));
+        Press(*Form, Qt::Key_F5);
+        EXPECT_EQ(Files().model()->rowCount(), 1000);
+    });
+}
+
+TEST_F(Editor_Form, TextGrowsToThirtyFivePointsAndBack)
+{
+    Start();
+    Edit([&] {
+        for (int i = 0; i < 30; ++i)
+            Push(*Form, "img_FontInc");
+        EXPECT_EQ(In<QLabel>(*Form, "lbl_FontSize").text(), u"Current Font Size 35");
+        EXPECT_EQ(Files().font().pointSize(), 35);
+        EXPECT_EQ(In<QWidget>(*Form, "txt_Title").font().pointSize(), 35);
+        EXPECT_GE(In<QWidget>(*Form, "txt_Title").height(), In<QWidget>(*Form, "txt_Title").fontMetrics().height());
+        Push(*Form, "img_FontReset");
+        Push(*Form, "img_FontDec");
+        EXPECT_EQ(Files().font().pointSize(), 9);
+    });
+}
+
+TEST_F(Editor_Form, AnOptionFileThatCantBeWrittenEndsTheProgramWithItsName)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Edit([&] {
+        Click_Row(0);
+        Type("txt_Title", u"x"_s);
+        QDir(Window.Files.Path(u"videos"_s)).removeRecursively();
+        Push(*Form, "btn_Apply");
+    });
+    EXPECT_TRUE(Window.Desk->Guard.Ended());
+    ASSERT_EQ(Window.Person.Boxes.size(), 1u);
+    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"a.mp3.opt"_s)) << Window.Person.Boxes[0].Text.toStdString();
+}
+
+TEST_F(Editor_Form, AWholeSeasonIsCaptionedAtOnce)
+{
+    Start();
+    const QString sound = Media_File(u"season.mka"_s, {u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=duration=0.5"_s});
+    constexpr int episodes = 12;
+    for (int i = 1; i <= episodes; ++i) {
+        const QString name = u"videos/Harbour - S01E%1"_s.arg(i, 2, 10, QChar(u'0'));
+        Place(Window.Files, Short_Video(), name + u".mkv"_s);
+        Place(Window.Files, sound, name + u"_c.mka"_s);
+        Window.Files.Write(name + u"_c.mka.opt"_s, "Title=Commentary " + QByteArray::number(i) + "\r\n");
+    }
+    Edit([&] {
+        ASSERT_EQ(Files().model()->rowCount(), episodes);
+        Click_Row(0);
+        Files().scrollToBottom();
+        Click_Row(episodes - 1, Qt::ShiftModifier);
+        Type("cmbo_Language", u"German (ger)"_s);
+        Choose_Line("cmbo_Default", Qt::Key_Y);
+        Push(*Form, "btn_Apply");
+        Push(*Form, "btn_Close");
+    });
+    EXPECT_EQ(Window.Files.Read(u"videos/Harbour - S01E07_c.mka.opt"_s),
+              "Title=Commentary 7\r\nLanguage=German (ger)\r\nDefault=yes\r\n");
+    Click_On(Window.Get("chk_AddAudio"));
+    if (!Window.Get<QCheckBox>("chk_UseAudioOpts").isChecked())
+        Click_On(Window.Get("chk_UseAudioOpts"));
+    Click_On(Window.Get("btn_RunVantorra"));
+    EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"FINISHED");
+    for (int i = 1; i <= episodes; ++i) {
+        const QString output = Window.Files.Path(u"target/Harbour - S01E%1.mkv"_s.arg(i, 2, 10, QChar(u'0')));
+        const QJsonArray tracks = Identify(output)[u"tracks"_s].toArray();
+        QStringList commentary;
+        for (const QJsonValue& track : tracks) {
+            const QJsonObject known = track[u"properties"_s].toObject();
+            if (known[u"language"_s] == u"ger"_s)
+                commentary +=
+                    known[u"track_name"_s].toString() + u' ' + QString::number(known[u"default_track"_s].toBool());
+        }
+        EXPECT_EQ(commentary, QStringList{u"Commentary %1 1"_s.arg(i)}) << output.toStdString();
+    }
+}

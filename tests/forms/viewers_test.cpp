@@ -1,0 +1,326 @@
+#include "common/media.h"
+#include "common/stand_in_tool.h"
+#include "forms/drop_text.h"
+#include "forms/form_test.h"
+#include "forms/text_lines_view.h"
+#include "inspect/tool_discovery.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMimeData>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Log_Form : Form_Test
+{
+    void Start()
+    {
+        ASSERT_TRUE(Window.Start());
+        Window.Form().setGeometry(200, 150, 1300, 800);
+        QCoreApplication::processEvents();
+    }
+
+    void Write_Log(int lines) const
+    {
+        QByteArray log;
+        for (int i = 0; i < lines; ++i)
+            log += "-- line " + QByteArray::number(i) + "\r\n";
+        Window.Files.Write(u"app/Vantorra_Process.log"_s, log);
+    }
+
+    void Look(const std::function<void(QWidget&)>& person) { Open("mnu_ViewLog", "frm_ProcessLog", person); }
+
+    static Text_Lines_View& Lines(QWidget& form) { return In<Text_Lines_View>(form, "lst_ProcessLog"); }
+};
+
+struct Info_Form : Form_Test
+{
+    void Start()
+    {
+        ASSERT_TRUE(Window.Start());
+        Window.Set_Folders();
+        ASSERT_TRUE(Window.Get("btn_ViewVidInfo").isEnabled());
+    }
+
+    /// Opens by the button.
+    void Look(const std::function<void(QWidget&)>& person)
+    {
+        bool met = false;
+        Window.Person.On_Form[u"frm_ViewVFI"_s] = [&](QWidget& form) {
+            met = true;
+            person(form);
+        };
+        Click_On(Window.Get("btn_ViewVidInfo"));
+        EXPECT_TRUE(met);
+    }
+
+    static void Pick(QWidget& form, int row)
+    {
+        auto& list = In<QListView>(form, "lst_VideoFiles");
+        Click_On(*list.viewport(), list.visualRect(list.model()->index(row, 0)).center(), Qt::LeftButton, {});
+    }
+
+    static QString Text(QWidget& form) { return In<Drop_Text>(form, "txt_VideoInfo").toPlainText(); }
+
+    static bool Drop(QWidget& form, const QString& path)
+    {
+        QMimeData data;
+        if (!path.isEmpty())
+            data.setUrls({QUrl::fromLocalFile(path)});
+        return Drop_On(*In<Drop_Text>(form, "txt_VideoInfo").viewport(), data);
+    }
+};
+
+} // namespace
+
+TEST_F(Log_Form, FiveHundredLinesOrAllAndTheModeIsKeptWhileTheProgramRuns)
+{
+    Start();
+    Look([&](QWidget& form) {
+        EXPECT_EQ(form.windowTitle(), u"Vantorra Process Log");
+        EXPECT_EQ(In<QLabel>(form, "lbl_LogLines").text(), u"0 Lines");
+        EXPECT_FALSE(In(form, "btn_LoadFullLog").isEnabled()) << "no log";
+        Press(form, Qt::Key_Return);
+        EXPECT_FALSE(form.isVisible());
+    });
+    Write_Log(1000);
+    Look([&](QWidget& form) {
+        EXPECT_EQ(Lines(form).model()->rowCount(), 500);
+        EXPECT_EQ(Lines(form).currentIndex().row(), 0);
+        EXPECT_EQ(Lines(form).verticalScrollBar()->value(), 0);
+        Push(form, "btn_LoadFullLog");
+        EXPECT_EQ(In<QLabel>(form, "lbl_LogLines").text(), u"1000 Lines");
+        EXPECT_EQ(In(form, "btn_LoadFullLog").text().remove(u'&'), u"Load 500 Lines");
+        EXPECT_FALSE(In<QLabel>(form, "lbl_LoadLog").isVisible());
+        EXPECT_TRUE(In(form, "btn_Done").hasFocus());
+        Lines(form).setFocus();
+        Press(form, Qt::Key_End);
+        EXPECT_EQ(Lines(form).currentIndex().data().toString(), u"-- line 999");
+        Press(form, Qt::Key_Up, Qt::ShiftModifier);
+        Press(form, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), u"-- line 998\n-- line 999");
+        Press(form, Qt::Key_Escape);
+        EXPECT_FALSE(form.isVisible());
+    });
+    Look([&](QWidget& form) {
+        EXPECT_EQ(Lines(form).model()->rowCount(), 1000);
+        Push(form, "btn_LoadFullLog");
+        EXPECT_EQ(Lines(form).model()->rowCount(), 500);
+        EXPECT_EQ(In(form, "btn_LoadFullLog").text().remove(u'&'), u"Load Full Log ");
+    });
+    Window.Choose("mnu_ClearLog");
+    Look([&](QWidget& form) { EXPECT_EQ(Lines(form).model()->rowCount(), 0); });
+}
+
+TEST_F(Log_Form, TheLongestLineCanBeScrolledToItsEndAtEverySize)
+{
+    Start();
+    Window.Files.Write(u"app/Vantorra_Process.log"_s, "short\r\n\r\n" + QByteArray(400, 'w') + "\r\n" +
+                                                          QByteArray("\xE5\xAD\x97").repeated(250) + "\r\n");
+    Look([&](QWidget& form) {
+        EXPECT_EQ(Lines(form).model()->rowCount(), 4);
+        for (const char* step : {"img_FontReset", "img_FontInc", "img_FontInc", "img_FontDec"}) {
+            Push(form, step);
+            QCoreApplication::processEvents();
+            const QFontMetrics metrics(Lines(form).font());
+            const int widest = std::max(metrics.horizontalAdvance(QString(400, u'w')),
+                                        metrics.horizontalAdvance(QString(250, u'\u5B57')));
+            const int reach = Lines(form).viewport()->width() + Lines(form).horizontalScrollBar()->maximum();
+            EXPECT_GE(reach, widest) << step;
+            EXPECT_LE(reach, widest + 40) << step;
+        }
+        EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 11");
+        EXPECT_EQ(Window.Prog().Settings.ProcessLog_Font_Size, 11);
+    });
+}
+
+TEST_F(Log_Form, ItIsCentredOnTheFirstRunEverAndThenWhereItWasLeft)
+{
+    Start();
+    const QPoint centre = Window.Form().geometry().center();
+    const auto is_centred = [&](const QWidget& form) {
+        return (form.geometry().center() - centre).manhattanLength() <= 2;
+    };
+    Look([&](QWidget& form) {
+        EXPECT_TRUE(is_centred(form)) << form.x() << " " << form.y();
+        form.setGeometry(40, 50, 600, 420);
+        QCoreApplication::processEvents();
+    });
+    Look([&](QWidget& form) {
+        EXPECT_EQ(form.geometry(), QRect(40, 50, 600, 420));
+        Press(form, Qt::Key_F12);
+        EXPECT_TRUE(is_centred(form));
+        EXPECT_EQ(form.size(), QSize(600, 420));
+        Press(form, Qt::Key_F12, Qt::ShiftModifier);
+        EXPECT_EQ(form.geometry(), Window.Form().geometry());
+        form.resize(10, 10);
+        QCoreApplication::processEvents();
+        EXPECT_GE(form.height(), form.minimumSizeHint().height());
+        form.setGeometry(60, 70, 610, 430);
+        form.setWindowState(Qt::WindowMaximized);
+        QCoreApplication::processEvents();
+    });
+    EXPECT_EQ(Window.Prog().Settings.ProcessLog_Box.MM, 2);
+    EXPECT_EQ(Window.Prog().Settings.ProcessLog_Box.Width, 610);
+    Window.Quit();
+    Start();
+    Look([&](QWidget& form) {
+        EXPECT_TRUE(form.isMaximized());
+        Press(form, Qt::Key_F12);
+        EXPECT_FALSE(form.isMaximized());
+        EXPECT_EQ(form.size(), QSize(610, 430));
+    });
+    // A place that is on no screen.
+    Window.Prog().Settings.ProcessLog_Box = {.Top = 9000, .Left = -9000, .Width = 600, .Height = 400};
+    Look([&](QWidget& form) { EXPECT_TRUE(form.screen()->availableGeometry().contains(form.geometry())); });
+}
+
+TEST_F(Log_Form, ALogOfTooManyLinesIsTheErrorThatNamesIt)
+{
+    Start();
+    Write_Log(32'768);
+    Look([&](QWidget& form) {
+        EXPECT_EQ(Lines(form).model()->rowCount(), 500);
+        Push(form, "btn_LoadFullLog");
+    });
+    EXPECT_TRUE(Window.Desk->Guard.Ended());
+    ASSERT_EQ(Window.Person.Boxes.size(), 1u);
+    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"Run-time error '6'"_s));
+    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"Vantorra_Process.log"_s));
+}
+
+TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
+{
+    Start();
+    Place(Window.Files, Rich_Video(), u"videos/film.part1.mkv"_s);
+    const QString notes = Window.Files.Write(u"notes.txt"_s, "no video");
+    const QString shown_info = u"film.part1.mkv"_s;
+    Look([&](QWidget& form) {
+        EXPECT_EQ(Text(form), u"");
+        EXPECT_FALSE(In(form, "btn_SaveToFile").isEnabled());
+        EXPECT_FALSE(In(form, "btn_ShowCodecData").isEnabled());
+        EXPECT_TRUE(In(form, "btn_Done").hasFocus());
+        EXPECT_TRUE(QFontInfo(In<QWidget>(form, "txt_VideoInfo").font()).fixedPitch());
+        Pick(form, 0);
+        const QString info = Text(form);
+        EXPECT_TRUE(info.contains(u"film.part1.mkv"_s) && info.contains(u"Track ID 0"_s)) << info.toStdString();
+        EXPECT_FALSE(In<QWidget>(form, "shp_VideoInfo").isVisible());
+        EXPECT_TRUE(In(form, "btn_SaveToFile").isEnabled());
+
+        Push(form, "btn_ShowCodecData");
+        EXPECT_EQ(In(form, "btn_ShowCodecData").text().remove(u'&'), u"Hide Codec Private Data");
+        EXPECT_NE(Text(form), info);
+        Push(form, "btn_ShowCodecData");
+        EXPECT_EQ(Text(form), info);
+
+        Push(form, "btn_SaveToFile");
+        QString saved = QString::fromUtf8(Window.Files.Read(u"videos/film.part1 Video Info.txt"_s));
+        EXPECT_TRUE(saved.contains(u"     \r\n"_s) && saved.endsWith(u"     "_s));
+        EXPECT_EQ(saved.replace(u"\r\n"_s, u"\n"_s), info);
+
+        EXPECT_TRUE(Drop(form, notes)) << "whatever its extension";
+        EXPECT_TRUE(In<QWidget>(form, "shp_VideoInfo").isVisible());
+        EXPECT_EQ(In<QLabel>(form, "lbl_FileName").toolTip(), notes);
+        EXPECT_FALSE(In<QListView>(form, "lst_VideoFiles").selectionModel()->hasSelection());
+        EXPECT_TRUE(Text(form).contains(u"notes.txt"_s));
+        In<QListView>(form, "lst_VideoFiles").setFocus();
+        EXPECT_TRUE(Text(form).contains(u"notes.txt"_s)) << "the focus alone picks nothing";
+        Press(form, Qt::Key_Space);
+        EXPECT_EQ(Text(form), info);
+        EXPECT_FALSE(In<QWidget>(form, "shp_VideoInfo").isVisible());
+        Push(form, "img_FontInc");
+        EXPECT_EQ(In<QWidget>(form, "txt_VideoInfo").font().pointSize(), 11);
+        EXPECT_EQ(In<QWidget>(form, "lst_VideoFiles").font().pointSize(), 11);
+        Press(form, Qt::Key_Return);
+        EXPECT_FALSE(form.isVisible());
+    });
+    Place(Window.Files, Short_Video(), u"videos/another.mkv"_s);
+    Look([&](QWidget& form) {
+        EXPECT_EQ(In<QListView>(form, "lst_VideoFiles").model()->rowCount(), 2);
+        EXPECT_EQ(Text(form), u"");
+        EXPECT_FALSE(In(form, "btn_ShowCodecData").isEnabled());
+    });
+    EXPECT_TRUE(Window.Person.Boxes.empty());
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(Info_Form, WhatIsNoFileIsTheNumberedErrorAndTheTextStays)
+{
+    Start();
+    Place(Window.Files, Short_Video(), u"videos/film.mkv"_s);
+    const QString link = Window.Files.Path(u"dead"_s);
+    ASSERT_TRUE(QFile::link(Window.Files.Path(u"nowhere"_s), link));
+    Look([&](QWidget& form) {
+        Pick(form, 0);
+        const QString info = Text(form);
+        for (const QString& path : {Window.Files.Path(u"videos"_s), link, QString()}) {
+            Window.Person.Boxes.clear();
+            Drop(form, path);
+            ASSERT_EQ(Window.Person.Boxes.size(), 1u) << path.toStdString();
+            EXPECT_EQ(Window.Person.Boxes[0].Title, u"Error #440 - Invalid File Name.");
+            EXPECT_EQ(Text(form), info);
+            EXPECT_TRUE(form.isVisible());
+        }
+    });
+}
+
+TEST_F(Info_Form, NothingElseHappensWhileTheToolIsAsked)
+{
+    Start();
+    Place(Window.Files, Short_Video(), u"videos/film.mkv"_s);
+    Window.Prog().Tools.System_MKVMerge_Path =
+        Write_Stand_In(Window.Files, u"slow/mkvmerge"_s,
+                       "[ \"$1\" = -V ] && echo \"mkvmerge v74.0.0 ('You Oughta Know') 64-bit\" && exit 0\nsleep 0.4\n"
+                       "echo "
+                       "'{\"file_name\":\"film.mkv\",\"container\":{\"type\":\"Matroska\",\"recognized\":true,"
+                       "\"supported\":true}}'\n");
+    Look([&](QWidget& form) {
+        bool stayed = false;
+        QTimer::singleShot(100, &form, [&] {
+            Press(form, Qt::Key_Escape);
+            Push(form, "btn_Done");
+            form.close();
+            stayed = form.isVisible();
+        });
+        Pick(form, 0);
+        EXPECT_TRUE(stayed);
+        EXPECT_TRUE(Text(form).contains(u"Matroska"_s)) << Text(form).toStdString();
+        Push(form, "btn_Done");
+        EXPECT_FALSE(form.isVisible());
+    });
+}
+
+TEST_F(Info_Form, AClickOnTheDisabledButtonTellsWhatItLacks)
+{
+    Start();
+    Window.Choose("mnu_IdentifyWithAnyMkvmerge");
+    ASSERT_FALSE(Window.Get("btn_ViewVidInfo").isEnabled());
+    Click_On(Window.Get("btn_ViewVidInfo"));
+    EXPECT_TRUE(Window.Person.Forms.isEmpty());
+    EXPECT_EQ(Window.Person.Boxes.size(), 1u);
+    Window.Choose("mnu_IdentifyWithAnyMkvmerge");
+    EXPECT_TRUE(Window.Get("btn_ViewVidInfo").isEnabled());
+}
+
+TEST_F(Info_Form, AnInfoTextOfTenMegabytesIsShown)
+{
+    Start();
+    Place(Window.Files, Short_Video(), u"videos/film.mkv"_s);
+    Window.Prog().Tools.Local_MKVMerge_OK = true;
+    Window.Prog().Tools.Local_MKVMerge_Path =
+        Write_Stand_In(Window.Files, u"app/mkvmerge"_s,
+                       "[ \"$1\" = -V ] && echo \"mkvmerge v19.0.0 ('Brave Captain') 64-bit\" && exit 0\n"
+                       "yes 'Track ID 0: video (h264) [language:eng display_dimensions:1920x1080]' | head -c 5000000\n"
+                       "printf '\\nlast [name:'\nhead -c 5000000 /dev/zero | tr '\\0' x\necho ']'\n");
+    Look([&](QWidget& form) {
+        Pick(form, 0);
+        EXPECT_GT(Text(form).size(), 10'000'000);
+        QCoreApplication::processEvents();
+        Press(form, Qt::Key_Escape);
+    });
+}
