@@ -50,8 +50,10 @@ struct Editor_Form : Form_Test
         QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
         if (text.isEmpty())
             QTest::keyClick(&widget, Qt::Key_Delete);
-        else
-            QTest::keyClicks(&widget, text);
+        for (const QChar letter : text) {
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+            QCoreApplication::sendEvent(&widget, &press);
+        }
         QCoreApplication::processEvents();
     }
 
@@ -123,7 +125,7 @@ TEST_F(Editor_Form, OpensFromEveryMenuItemForItsKindWithTheMainFormNoLongerOnTop
             [&] {
                 EXPECT_EQ(Form->windowTitle(), one.Title);
                 EXPECT_EQ(Listed(), QStringList{one.Row});
-                EXPECT_TRUE(In(*Form, "btn_Close").hasFocus());
+                EXPECT_EQ(Form->focusWidget(), &In(*Form, "btn_Close"));
                 EXPECT_FALSE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
                 Press(*Form, Qt::Key_Escape);
                 EXPECT_FALSE(Form->isVisible());

@@ -204,7 +204,7 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
         EXPECT_EQ(Text(form), u"");
         EXPECT_FALSE(In(form, "btn_SaveToFile").isEnabled());
         EXPECT_FALSE(In(form, "btn_ShowCodecData").isEnabled());
-        EXPECT_TRUE(In(form, "btn_Done").hasFocus());
+        EXPECT_EQ(form.focusWidget(), &In(form, "btn_Done"));
         EXPECT_TRUE(QFontInfo(In<QWidget>(form, "txt_VideoInfo").font()).fixedPitch());
         Pick(form, 0);
         const QString info = Text(form);
