@@ -67,14 +67,25 @@ QByteArray Read_File(const QString& path)
     return content;
 }
 
+/// A line without a mark that tells its encoding. Files from a system with an 8-bit code page aren't UTF-8; taken for
+/// U+FFFD their letters would be lost once the file is written again.
+static QString Decoded_Line(const QByteArray& line)
+{
+    return QUtf8StringView(line).isValidUtf8() ? QString::fromUtf8(line) : QString::fromLatin1(line);
+}
+
 QStringList Read_Lines(const QString& path)
 {
-    const QByteArray bytes = Read_File(path);
-    const auto encoding = QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8);
-    QStringDecoder decoder(encoding);
-    QString text = decoder(bytes);
-    text.replace(Line_Break, u"\n"_s).replace(u'\r', u'\n');
-    QStringList lines = text.split(u'\n');
+    QByteArray bytes = Read_File(path);
+    QStringList lines;
+    if (const auto marked = QStringConverter::encodingForData(bytes)) {
+        QStringDecoder decoder(*marked);
+        QString text = decoder(bytes);
+        lines = text.replace(Line_Break, u"\n"_s).replace(u'\r', u'\n').split(u'\n');
+    } else {
+        for (const QByteArray& line : bytes.replace("\r\n", "\n").replace('\r', '\n').split('\n'))
+            lines += Decoded_Line(line);
+    }
     if (lines.constLast().isEmpty())
         lines.removeLast();
     return lines;

@@ -24,8 +24,8 @@ Folder_Counts Count_Folder(const QString& folder);
 
 /// The whole file as bytes; the run-time error of the file operation, naming the file, if it can't be read.
 QByteArray Read_File(const QString& path);
-/// A text file's lines, ended by CR LF, LF or CR alike, the ends cut off; UTF-8 or, with its mark, UTF-16; invalid
-/// bytes become U+FFFD. The last line counts only if it isn't empty. Errors as for Read_File.
+/// A text file's lines, ended by CR LF, LF or CR alike, the ends cut off; UTF-8 or, with its mark, UTF-16. A line that
+/// isn't UTF-8 is read as Latin-1. The last line counts only if it isn't empty. Errors as for Read_File.
 QStringList Read_Lines(const QString& path);
 /// Replaces a file whole or leaves it as it was; the run-time error of the file operation if it can't be written.
 void Write_Whole_File(const QString& path, const QByteArray& content);

@@ -131,11 +131,24 @@ TEST(CommandLine, AValueThatCannotBeGivenAsOneIsLeftOutWithItsOption)
 
 TEST(CommandLine, AShellReadsTheQuotedWordsBackAsTheArguments)
 {
-    const QStringList arguments = {u"plain"_s,      u""_s,         u"a b"_s, u"it's"_s, u"$(x) `y` \"z\" \\"_s,
-                                   u"two\nlines"_s, u"("_s,        u"-*"_s,  u"~"_s,    u"#x"_s,
-                                   u"é"_s,          u"a=b,c:d%s"_s};
+    const QStringList arguments = {u"plain"_s,
+                                   u""_s,
+                                   u"a b"_s,
+                                   u"it's"_s,
+                                   u"$(x) `y` \"z\" \\"_s,
+                                   u"two\nlines"_s,
+                                   u"("_s,
+                                   u"-*"_s,
+                                   u"~"_s,
+                                   u"#x"_s,
+                                   u"é"_s,
+                                   u"a=b,c:d%s"_s,
+                                   u"\x1b[31m'\t\r\x7f\u009b5%\\"_s};
+    const QString words = Shell_Quoted(arguments);
+    for (const QChar letter : words)
+        EXPECT_TRUE(letter.category() != QChar::Other_Control || letter == u'\n') << int{letter.unicode()};
     QProcess shell;
-    shell.start(u"/bin/sh"_s, {u"-c"_s, u"printf '%s\\0' "_s + Shell_Quoted(arguments)});
+    shell.start(u"/bin/sh"_s, {u"-c"_s, u"printf '%s\\0' "_s + words});
     ASSERT_TRUE(shell.waitForFinished());
     QStringList read = QString::fromUtf8(shell.readAllStandardOutput()).split(QChar(u'\0'));
     read.removeLast();

@@ -55,6 +55,7 @@ TEST_F(Option_File, TheRunTakesKeysInAnyCaseAndRefusesAFileWithOneBadLine)
         {"Language=(eng)", u"||||"_s},
         {"Language=Norwegian Nynorsk (nno)", u"|nob|||"_s},
         {"Title=\xc3\x9c\xe6\x97\xa5\r\n", u"Ü日||||"_s},
+        {"Title=Fran\xe7ois\r\nDelay=\xc3\x9c\r\n", u"François||||Ü"_s},
         {"\xef\xbb\xbfTitle=marked\r\n", u"marked||||"_s},
         {QByteArray("\xff\xfeT\0i\0t\0l\0e\0=\0w\0\r\0\n\0", 20), u"w||||"_s},
     };
@@ -155,6 +156,10 @@ TEST_F(Option_File, MergingKeepsTheOtherKeysAndDropsCommentsAndStretch)
     EXPECT_EQ(Read(u"videos/c.mp3.opt"_s), "Title=a\r\nLanguage=German (ger)\r\nDelay=9\r\n");
     EXPECT_EQ(Merge_Option_File(Path(u"videos/new.mp3.opt"_s), values), Option_Write_Status::Written);
     EXPECT_EQ(Read(u"videos/new.mp3.opt"_s), "Language=German (ger)\r\nDelay=9\r\n");
+    // What an 8-bit code page wrote is kept, not made U+FFFD for good.
+    const QString old_path = Write(u"videos/old.mp3.opt"_s, "Title=Fran\xe7ois\r\n");
+    EXPECT_EQ(Merge_Option_File(old_path, values), Option_Write_Status::Written);
+    EXPECT_EQ(Read(u"videos/old.mp3.opt"_s), "Title=Fran\xc3\xa7ois\r\nLanguage=German (ger)\r\nDelay=9\r\n");
 }
 
 TEST_F(Option_File, AFolderThatCanNotBeWrittenIsAnErrorThatNamesTheFile)
