@@ -12,6 +12,8 @@
 #include "support/files.h"
 #include "support/paths.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 
 /// An mkvmerge to work with: the one in use, the one that the system knows, or the local copy. True with no path at
@@ -129,6 +131,11 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     }
     if (release.Button != Mouse_Button::Left || !release.Modifiers.None())
         return Press_Result::Ignored;
+    // The second release of a double click arrives while the tools are tried: it must not run everything twice.
+    if (program.Run.Press_In_Work)
+        return Press_Result::Ignored;
+    program.Run.Press_In_Work = true;
+    const auto done = qScopeGuard([&program] { program.Run.Press_In_Work = false; });
 
     if (!Find_FFProbe(program) || !Ensure_MKVMerge(program) || !Find_Work(program))
         return Press_Result::Refused;

@@ -9,7 +9,7 @@ struct Program;
 /// What became of a press of the run button.
 enum class Press_Result
 {
-    Ignored,    ///< not a plain left click on the button
+    Ignored,    ///< not a plain left click on the button, or the press before it is still at work
     Refused,    ///< a tool, a folder or the videos are missing
     Finished,   ///< the run came to its end, whatever became of its files
     Interrupted ///< the run was halted

@@ -12,6 +12,7 @@ struct Run_State
 {
     bool Halt_Requested = false;
     bool Run_In_Progress = false;
+    bool Press_In_Work = false;             ///< the run button's handler is at work: before, in and behind a run
     QStringList Video_File_List{QString()}; ///< accepted names; an empty first entry: nothing found
 
     std::int16_t Files_Total = 0;

@@ -114,6 +114,9 @@ bool Query_Unload(Program& program, Close_Reason reason)
     // Deliberate: the window's close box does nothing.
     if (reason == Close_Reason::Close_Box || program.Run.Run_In_Progress)
         return false;
+    // A run is about to begin, or just ended: it would go on without a window.
+    if (program.Run.Press_In_Work)
+        return false;
     Write_Settings(program, false);
     program.Person.Pump_Events();
     if (program.Form.Topmost_On)

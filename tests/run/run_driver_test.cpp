@@ -106,6 +106,22 @@ TEST(Run_Driver, OnlyAPlainLeftReleaseOnTheButtonStartsARun)
     }
 }
 
+TEST(Run_Driver, APressWhileThePressBeforeIsAtWorkHasNoEffect)
+{
+    Driver_Test test;
+    test.Mkvmerge("echo run >> '" + test.Path(u"runs"_s).toUtf8() + "'");
+    int nested = 0;
+    test.Person.On_Pump = [&] {
+        ++nested;
+        EXPECT_EQ(test.Press(), Press_Result::Ignored);
+    };
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    EXPECT_GT(nested, 0);
+    EXPECT_EQ(test.Read(u"runs"_s), "run\n");
+    test.Person.On_Pump = nullptr;
+    EXPECT_EQ(test.Press(), Press_Result::Finished) << "the next press counts again";
+}
+
 TEST(Run_Driver, MissingFoldersAndVideosAreRefusedWithOneLineInTheLog)
 {
     const struct

@@ -150,8 +150,11 @@ TEST(ShutDown, TheCloseBoxIsRefusedAndEveryOtherCloseSaves)
     EXPECT_FALSE(Query_Unload(test.Prog, Close_Reason::Close_Box));
     test.Prog.Run.Run_In_Progress = true;
     EXPECT_FALSE(Query_Unload(test.Prog));
-    EXPECT_EQ(title(), u""_s);
     test.Prog.Run.Run_In_Progress = false;
+    test.Prog.Run.Press_In_Work = true;
+    EXPECT_FALSE(Query_Unload(test.Prog)) << "the run about to begin would go on without a window";
+    EXPECT_EQ(title(), u""_s);
+    test.Prog.Run.Press_In_Work = false;
     test.Prog.Form.Topmost_On = test.Person.Topmost = true;
     EXPECT_TRUE(Query_Unload(test.Prog));
     EXPECT_EQ(title(), u"new"_s);
