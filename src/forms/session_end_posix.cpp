@@ -68,7 +68,7 @@ Session_End::~Session_End()
 
 void Session_End::Asked_To_Go()
 {
-    if (!program_.Run.Run_In_Progress) {
+    if (!program_.Run.Run_In_Progress && !program_.Run.Press_In_Work) {
         form_.close();
         return;
     }
