@@ -1,13 +1,14 @@
 #include "forms/drop_text.h"
 
+#include "forms/looks.h"
+
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFontDatabase>
 #include <QMimeData>
 
 Drop_Text::Drop_Text(QWidget* parent) : QPlainTextEdit(parent)
 {
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(Fixed_Font());
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setLineWrapMode(NoWrap);

@@ -17,12 +17,12 @@ Kept_Place::Kept_Place(QWidget& form, Form_Place& place) : QObject(&form), form_
     form.installEventFilter(this);
 }
 
-void Kept_Place::Propose_Size()
+void Kept_Place::Propose_Size(const QSize& usual)
 {
     if (place_.Width > 0)
         return;
     form_.ensurePolished();
-    const QSize size = form_.sizeHint();
+    const QSize size = usual.expandedTo(form_.minimumSizeHint());
     place_.Width = size.width();
     place_.Height = size.height();
 }

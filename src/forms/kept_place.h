@@ -3,6 +3,7 @@
 #include "support/controls.h"
 
 #include <QObject>
+#include <QSize>
 
 class QWidget;
 
@@ -15,8 +16,8 @@ class Kept_Place : public QObject
   public:
     Kept_Place(QWidget& form, Form_Place& place);
 
-    /// Before the rules place the form for the first time: the record takes the layout's own size.
-    void Propose_Size();
+    /// Before the rules place the form for the first time: the record takes this size, or what the layout needs.
+    void Propose_Size(const QSize& usual);
     /// Before the form is seen: puts it where the record says, wholly on the screen.
     void Open();
     /// Moves the form if the rules changed the record.

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QLabel>
 #include <QPainter>
 #include <QPixmap>
@@ -58,6 +60,17 @@ QIcon Picture(const QString& name, const QPalette& palette)
         icon.addPixmap(pixmap);
     }
     return icon;
+}
+
+QFont Fixed_Font()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (!QFontInfo(font).fixedPitch()) {
+        // A desktop without settings of its own names none.
+        font.setFamily(u"monospace"_s);
+        font.setStyleHint(QFont::Monospace);
+    }
+    return font;
 }
 
 void Tint(QLabel& label, const QColor& colour)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QIcon>
 #include <QPalette>
 #include <QString>
@@ -20,6 +21,9 @@ QColor Grey_Box_Colour(const QPalette& palette);
 
 /// A picture of ours by its file's name; those drawn in one colour take that of the palette's text.
 QIcon Picture(const QString& name, const QPalette& palette);
+
+/// The desktop's font of fixed width.
+QFont Fixed_Font();
 
 /// Gives a label's words that colour, on whatever it stands.
 void Tint(QLabel& label, const QColor& colour);

@@ -5,6 +5,7 @@
 #include "forms/looks.h"
 #include "logs/viewer_place.h"
 #include "program.h"
+#include "support/form_placement.h"
 #include "ui_option_editor_view.h"
 
 #include <QCompleter>
@@ -81,8 +82,9 @@ void Option_Editor_View::Open()
     if (editor.Box.HasBox) {
         kept_ = {editor.Box.Left, editor.Box.Top, editor.Box.Width, editor.Box.Height, editor.Box.MM == 2 ? 2 : 0};
     } else {
-        Centre_On_Owner();
-        kept_ = {geometry().left(), geometry().top(), width(), height(), 0};
+        kept_ = {};
+        place_.Propose_Size({760, 600});
+        Place_Form(Placement::Centred, kept_, program_.Form.Place);
     }
     place_.Open();
     ui_->lvw_Files->scrollToTop();

@@ -25,7 +25,7 @@ Process_Log_View::~Process_Log_View() = default;
 void Process_Log_View::Open()
 {
     const Input_Pause pause;
-    place_.Propose_Size();
+    place_.Propose_Size({900, 560});
     ProcessLog_Activate(program_, form_);
     ui_->lst_ProcessLog->Show_Lines(form_.lst_ProcessLog);
     ui_->lst_ProcessLog->Select_Row(form_.Selected_Row);

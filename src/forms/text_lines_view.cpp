@@ -1,9 +1,10 @@
 #include "forms/text_lines_view.h"
 
+#include "forms/looks.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QEvent>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QStyle>
@@ -55,7 +56,7 @@ int Widest_Line(const QStringList& lines, const QFont& font)
 
 Text_Lines_View::Text_Lines_View(QWidget* parent) : QListView(parent)
 {
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(Fixed_Font());
     setModel(&lines_);
     setItemDelegate(new Wide_Rows(*this));
     setUniformItemSizes(true);

@@ -41,7 +41,7 @@ Video_Info_View::~Video_Info_View() = default;
 void Video_Info_View::Open()
 {
     const Input_Pause pause;
-    place_.Propose_Size();
+    place_.Propose_Size({900, 560});
     ViewVFI_Activate(program_, form_);
     place_.Open();
 }

@@ -2,12 +2,27 @@
 
 #include "forms/test_window.h"
 
+#include <QApplication>
+#include <QMessageBox>
 #include <gtest/gtest.h>
 
 /// A window whose forms a test opens and works in.
 struct Form_Test : testing::Test
 {
     Test_Window Window;
+
+    Form_Test()
+    {
+        // What answers forms is busy with the form while a box stands over it.
+        QObject::connect(&boxes_, &QTimer::timeout, &boxes_, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || !box->isVisible())
+                return;
+            Window.Person.Boxes.push_back({box->windowTitle(), box->text()});
+            box->button(QMessageBox::Ok)->click();
+        });
+        boxes_.start(10);
+    }
 
     template <typename Widget = QAbstractButton>
     static Widget& In(QWidget& form, const char* name)
@@ -31,4 +46,7 @@ struct Form_Test : testing::Test
         Window.Choose(action);
         EXPECT_TRUE(met) << form;
     }
+
+  private:
+    QTimer boxes_;
 };

@@ -1,8 +1,10 @@
 #include "common/media.h"
 #include "forms/form_test.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QHeaderView>
@@ -54,6 +56,8 @@ struct Editor_Form : Form_Test
             QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
             QCoreApplication::sendEvent(&widget, &press);
         }
+        if (QWidget* proposals = QApplication::activePopupWidget())
+            proposals->hide();
         QCoreApplication::processEvents();
     }
 

@@ -230,7 +230,7 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
         EXPECT_TRUE(Text(form).contains(u"notes.txt"_s));
         In<QListView>(form, "lst_VideoFiles").setFocus();
         EXPECT_TRUE(Text(form).contains(u"notes.txt"_s)) << "the focus alone picks nothing";
-        Press(form, Qt::Key_Space);
+        Pick(form, 0);
         EXPECT_EQ(Text(form), info);
         EXPECT_FALSE(In<QWidget>(form, "shp_VideoInfo").isVisible());
         Push(form, "img_FontInc");
