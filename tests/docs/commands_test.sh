@@ -5,13 +5,14 @@
 #
 # DOCUMENT lies below SOURCES; PROGRAMS is the folder of vantorra-batch. Blocks fenced with "```sh" are run; those fenced
 # with "```sh by-hand" are not, as they need root, other machines, or minutes. The shell starts in a folder that holds
-# the sample videos in "raw", some of them under hostile names, and an empty folder "mkv".
+# the sample videos in "raw", some of them under hostile names, and an empty folder "mkv"; ~/Videos is that folder.
 set -euo pipefail
 document=$1 sources=$2 programs=$3
 
 sandbox=$(mktemp -d)
 trap 'rm -rf "$sandbox"' EXIT
 mkdir -p "$sandbox/home" "$sandbox/work/mkv"
+ln -s "$sandbox/work" "$sandbox/home/Videos"
 cd "$sandbox/work"
 "$sources/scripts/sample-videos" raw
 for name in "it's \"one\" \$HOME \`id\`; # x" $'two\nlines' '-dash %d {} {1} \n' ':::' '  blanks  '; do
@@ -37,10 +38,10 @@ fail() {
     exit 1
 }
 # What the text promises.
+made=$(find mkv -maxdepth 1 -name '*.mkv' -size +0 -printf x | wc -c)
+[ "$made" -eq "$videos" ] || fail "$videos videos, but $made outputs"
 case $document in
 docs/scaling.md)
-    made=$(find mkv -maxdepth 1 -name '*.mkv' -size +0 -printf x | wc -c)
-    [ "$made" -eq "$videos" ] || fail "$videos videos, but $made outputs"
     [ "$(tr -dc '\0' <commands | wc -c)" -eq "$videos" ] || fail "not a command for each video"
     [ -s mkv/one/clip.mkv ] && [ -s mkv/two/old.mkv ] || fail "the folders of the shows are not done"
     ;;
