@@ -329,6 +329,7 @@ TEST(Vantorra_Batch, ASignalInTheMiddleOfALargeFileEndsTheRunAtOnce)
 
         batch.Start({u"--json"_s});
         ASSERT_TRUE(batch.Read_Until("\"event\":\"command\",\"source\":\"" + batch.Path(u"videos/"_s + last).toUtf8()));
+        ASSERT_GT(batch.Process.processId(), 0);
         // Stopped, mkvmerge stays in the middle of the file for as long as this test takes.
         QList<long> children;
         for (QElapsedTimer clock = {}; children.isEmpty();) {

@@ -27,7 +27,8 @@ TEST(Progress_Bar, DrawsOnATerminalOnlyAndOnlyWhatChanged)
     ASSERT_GE(terminal, 0);
     ASSERT_EQ(::grantpt(terminal), 0);
     ASSERT_EQ(::unlockpt(terminal), 0);
-    std::FILE* const stream = std::fopen(::ptsname(terminal), "w");
+    // Never as the test's own terminal: closing that would end a test that leads a session, as in a container.
+    std::FILE* const stream = ::fdopen(::open(::ptsname(terminal), O_WRONLY | O_NOCTTY), "w");
     ASSERT_NE(stream, nullptr);
     const winsize size{.ws_row = 24, .ws_col = 40, .ws_xpixel = 0, .ws_ypixel = 0};
     ASSERT_EQ(::ioctl(terminal, TIOCSWINSZ, &size), 0);
