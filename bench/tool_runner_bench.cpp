@@ -1,6 +1,7 @@
 #include "run/tool_runner.h"
 
 #include "command/command_line.h"
+#include "nobody.h"
 #include "program.h"
 #include "support/child_process.h"
 
@@ -75,26 +76,6 @@ static std::size_t Plain_Loop(const std::string& line)
 }
 
 namespace {
-
-/// Nobody in front: what a run asks for is passed over.
-struct Nobody : Operator
-{
-    Message_Answer Show_Message(const Message_Box&) override { return Message_Answer::Ok; }
-
-    void Show_Modal(const QString&) override {}
-
-    void Show_Form(const QString&) override {}
-
-    QString Pick_Folder(const QString&, const QString&) override { return {}; }
-
-    QStringList Pick_File(const File_Question&) override { return {}; }
-
-    void Pump_Events() override {}
-
-    void Wait_With_Events(int) override {}
-
-    bool Open_Document(const QString&) override { return false; }
-};
 
 /// Seconds on the clock, and seconds that this process was at work.
 struct Times

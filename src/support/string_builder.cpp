@@ -83,15 +83,23 @@ void clsStringBuilder::Make_Room(std::size_t added)
         Reallocate(Round_To_Pages(capacity_ * 8 / 5 + added));
 }
 
-void clsStringBuilder::Record(Undo_Kind kind, std::size_t position, std::size_t length, const QString& taken)
+void clsStringBuilder::Record(Undo_Kind kind, std::size_t position, std::size_t length)
 {
     if (in_undo_)
         return;
     undo_kind_ = kind;
     undo_position_ = position;
     undo_length_ = length;
-    if (!undo_text_.isNull() || !taken.isNull())
-        undo_text_ = taken;
+    if (!undo_text_.isNull())
+        undo_text_.clear();
+}
+
+void clsStringBuilder::Record(Undo_Kind kind, std::size_t position, std::size_t length, const QString& taken)
+{
+    if (in_undo_)
+        return;
+    Record(kind, position, length);
+    undo_text_ = taken;
 }
 
 QString clsStringBuilder::ToString() const

@@ -89,7 +89,8 @@ class clsStringBuilder
   private:
     void Reallocate(std::size_t characters);
     void Make_Room(std::size_t added);
-    void Record(Undo_Kind kind, std::size_t position, std::size_t length, const QString& taken = {});
+    void Record(Undo_Kind kind, std::size_t position, std::size_t length);
+    void Record(Undo_Kind kind, std::size_t position, std::size_t length, const QString& taken);
     bool Undo_If(Undo_Kind kind);
 
     QStringView View() const { return {buffer_.get(), static_cast<qsizetype>(used_)}; }
