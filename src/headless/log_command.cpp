@@ -6,12 +6,20 @@
 #include "support/run_time_error.h"
 
 #include <QFile>
+#include <algorithm>
 #include <cerrno>
 
 using namespace Qt::StringLiterals;
 
-static void Print(std::FILE* out, const QByteArray& bytes)
+/// A file's name in the log may hold what would play with a terminal. UTF-8 passes.
+static bool Is_Control(char byte)
 {
+    return (byte >= 0 && byte < ' ' && byte != '\n' && byte != '\t') || byte == '\x7f';
+}
+
+static void Print(std::FILE* out, QByteArray bytes)
+{
+    std::replace_if(bytes.begin(), bytes.end(), Is_Control, ' ');
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out);
 }
 

@@ -112,9 +112,9 @@ static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& o
         return After_Entry::Next;
 
     outcome.Output = run.Output_Path;
-    const QString input = Input_That_Is_Output(run.Mkvmerge_Arguments, run.Output_Path);
-    if (!input.isEmpty()) {
-        program.Logs.Log_Faults.AppendLine(Refused_Output(input, run.Output_Path));
+    const QString endangered = File_That_Is_Output(run.Mkvmerge_Arguments, run.Output_Path, options.Path_Videos);
+    if (!endangered.isEmpty()) {
+        program.Logs.Log_Faults.AppendLine(Refused_Output(endangered, run.Output_Path));
         return After_Entry::Next;
     }
     const After_Entry after = Run_Assembled_Command(program, run.Current_Video_Path, outcome);

@@ -119,3 +119,10 @@ bool Same_File(const QString& one, const QString& other)
     std::error_code error;
     return std::filesystem::equivalent(one.toStdU16String(), other.toStdU16String(), error) && !error;
 }
+
+bool Has_Other_Names(const QString& path)
+{
+    const std::filesystem::path file = path.toStdU16String();
+    std::error_code error;
+    return std::filesystem::is_symlink(file, error) || std::filesystem::hard_link_count(file, error) > 1;
+}

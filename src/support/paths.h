@@ -38,3 +38,6 @@ QString Folder_Of(const QString& path);
 bool Same_Folder(const QString& one, const QString& other);
 /// True if both exist and are one file or folder on disk (same device and inode).
 bool Same_File(const QString& one, const QString& other);
+
+/// True if other names may lead to the same file on disk: it is a symbolic link, or has several hard links.
+bool Has_Other_Names(const QString& path);
