@@ -2,6 +2,7 @@
 
 #include "headless/batch_options.h"
 #include "program.h"
+#include "support/files.h"
 #include "support/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -12,13 +13,20 @@ static QString Missing_Folder(const QString& option, const QString& folder)
                             : u"%1 \"%2\" is no folder that can be opened."_s.arg(option, folder);
 }
 
+/// False after a tool was found missing, which has been reported by then: the folders were not looked into.
+static bool Tools_Are_There(const Tool_Paths& tools)
+{
+    return File_Exists(tools.FFProbe_Path) &&
+           (tools.System_MKVMerge_Path.isEmpty() || File_Exists(tools.System_MKVMerge_Path));
+}
+
 QString Explain_Refusal(const Program& program, const Batch_Options& options)
 {
     const QString& videos = program.Options.Path_Videos;
     if (videos.isEmpty())
         return Missing_Folder(u"--videos"_s, options.Videos);
     if (!program.Options.Path_Target.isEmpty())
-        return program.Run.Video_File_List.constFirst().isEmpty()
+        return Tools_Are_There(program.Tools) && program.Run.Video_File_List.constFirst().isEmpty()
                    ? u"\"%1\" holds no file with a video's extension."_s.arg(videos)
                    : QString();
     if (!options.Target.isEmpty() && Same_Folder(videos, options.Target))
