@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/test_program.h" // prints texts as texts
+
 #include <QString>
 #include <QStringList>
 #include <vector>
