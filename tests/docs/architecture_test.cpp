@@ -1,6 +1,5 @@
 #include "docs/manual_page.h"
 
-#include <QDirIterator>
 #include <QRegularExpression>
 #include <gmock/gmock.h>
 #include <map>
@@ -8,18 +7,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Paths of the sources, relative to src, as "room/file.cpp".
-QStringList Source_Files()
-{
-    const QString top = QStringLiteral(VANTORRA_SOURCE_FOLDER "/src/");
-    QStringList files;
-    QDirIterator walk(top, {u"*.cpp"_s, u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
-    while (walk.hasNext())
-        files += walk.next().mid(top.size());
-    files.sort();
-    return files;
-}
 
 QString Room_Of(const QString& path)
 {

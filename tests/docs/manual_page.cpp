@@ -1,5 +1,6 @@
 #include "docs/manual_page.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -10,6 +11,17 @@ QString Source_Text(const QString& path)
     QFile file(QStringLiteral(VANTORRA_SOURCE_FOLDER "/") + path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return QString::fromUtf8(file.readAll());
+}
+
+QStringList Source_Files()
+{
+    const QString top = QStringLiteral(VANTORRA_SOURCE_FOLDER "/src/");
+    QStringList files;
+    QDirIterator walk(top, {u"*.cpp"_s, u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext())
+        files += walk.next().mid(top.size());
+    files.sort();
+    return files;
 }
 
 QString Chapter(const QString& page, const QString& heading)
