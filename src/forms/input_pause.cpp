@@ -1,10 +1,10 @@
 #include "forms/input_pause.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QEvent>
-#include <QGuiApplication>
 
-Input_Pause::Input_Pause()
+Input_Pause::Input_Pause() : modal_(QApplication::activeModalWidget())
 {
     QGuiApplication::setOverrideCursor(QCursor(Qt::BusyCursor));
     QCoreApplication::instance()->installEventFilter(this);
@@ -17,6 +17,8 @@ Input_Pause::~Input_Pause()
 
 bool Input_Pause::eventFilter(QObject*, QEvent* event)
 {
+    if (QApplication::activeModalWidget() != modal_)
+        return false;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
-#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QPainter>
 #include <QPixmap>
@@ -62,14 +62,30 @@ QIcon Picture(const QString& name, const QPalette& palette)
     return icon;
 }
 
+bool Is_Fixed_Width(const QFont& font)
+{
+    // Many a font has letters of one width and doesn't declare it.
+    const QFontMetricsF metrics(font);
+    const double width = metrics.horizontalAdvance(u'i');
+    return width > 0 && width == metrics.horizontalAdvance(u'W') && width == metrics.horizontalAdvance(u' ');
+}
+
 QFont Fixed_Font()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    if (!QFontInfo(font).fixedPitch()) {
-        // A desktop without settings of its own names none.
-        font.setFamily(u"monospace"_s);
-        font.setStyleHint(QFont::Monospace);
+    if (Is_Fixed_Width(font))
+        return font;
+    // A desktop without settings of its own may name none.
+    font.setStyleHint(QFont::Monospace);
+    font.setFamily(u"monospace"_s);
+    if (Is_Fixed_Width(font))
+        return font;
+    for (const QString& family : QFontDatabase::families(QFontDatabase::Latin)) {
+        font.setFamily(family);
+        if (QFontDatabase::isFixedPitch(family) && Is_Fixed_Width(font))
+            return font;
     }
+    font.setFamily(u"monospace"_s);
     return font;
 }
 

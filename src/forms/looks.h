@@ -22,8 +22,10 @@ QColor Grey_Box_Colour(const QPalette& palette);
 /// A picture of ours by its file's name; those drawn in one colour take that of the palette's text.
 QIcon Picture(const QString& name, const QPalette& palette);
 
-/// The desktop's font of fixed width.
+/// The desktop's font of fixed width; where it names none, any that is installed.
 QFont Fixed_Font();
+/// All letters are as wide as each other.
+bool Is_Fixed_Width(const QFont& font);
 
 /// Gives a label's words that colour, on whatever it stands.
 void Tint(QLabel& label, const QColor& colour);

@@ -30,6 +30,7 @@ Option_Editor_View::Option_Editor_View(Program& program, Slot_Guard& guard, QWid
     ui_->lvw_Files->setModel(&order_);
     ui_->lvw_Files->sortByColumn(0, Qt::AscendingOrder);
     ui_->lvw_Files->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    ui_->lvw_Files->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(ui_->lvw_Files->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Option_Editor_View::Selection_Changed);
     Connect_Boxes();
@@ -71,6 +72,8 @@ void Option_Editor_View::Connect_Boxes()
     QCompleter* finder = ui_->cmbo_Language->completer();
     finder->setCompletionMode(QCompleter::PopupCompletion);
     finder->setFilterMode(Qt::MatchContains);
+    proposals_ = finder->popup();
+    proposals_->installEventFilter(this); // behind the finder's own, so that it comes first
 }
 
 void Option_Editor_View::Open()
@@ -150,6 +153,12 @@ bool Option_Editor_View::Key_Between_Boxes(Option_Slot slot, const QKeyEvent& ev
 
 bool Option_Editor_View::eventFilter(QObject* watched, QEvent* event)
 {
+    // A language that is marked in the proposals stands in the box already: the same key goes on.
+    if (watched == proposals_ && event->type() == QEvent::KeyPress &&
+        Key_Between_Boxes(Language_Slot, *static_cast<QKeyEvent*>(event))) {
+        proposals_->hide();
+        return true;
+    }
     for (std::size_t at = 0; at < Option_Slot_Count; ++at) {
         if (watched != boxes_[at].Widget())
             continue;
@@ -169,6 +178,16 @@ bool Option_Editor_View::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return Program_Dialog::eventFilter(watched, event);
+}
+
+/// Enter pushes the button that has the focus.
+void Option_Editor_View::keyPressEvent(QKeyEvent* event)
+{
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        Program_Dialog::keyPressEvent(event);
 }
 
 // ---- What is seen

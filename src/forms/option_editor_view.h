@@ -28,6 +28,7 @@ class Option_Editor_View : public Program_Dialog
 
   protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     /// The window's close box acts as btn_Close.
     void Leave() override;
@@ -62,5 +63,6 @@ class Option_Editor_View : public Program_Dialog
     Option_Files_Model files_;
     Option_Files_Order order_;
     std::array<Box_Controls, Option_Slot_Count> boxes_;
-    bool filling_ = false; ///< the program fills controls, not the operator
+    QWidget* proposals_ = nullptr; ///< the list of languages that drops down under what is typed
+    bool filling_ = false;         ///< the program fills controls, not the operator
 };

@@ -114,7 +114,6 @@ void Startform::Connect_Right_Clicks()
     Connect_Popups(*this, program_, guard_);
     for (QCheckBox* box : {ui_->chk_SubDefaults, ui_->chk_SubForces, ui_->chk_AddAttachments})
         box->installEventFilter(this);
-    ui_->pic_ViewVidInfo->installEventFilter(this);
 }
 
 void Startform::Set_Looks()

@@ -239,10 +239,15 @@ bool Startform::Right_Click(QObject* watched, QEvent* event)
     return true;
 }
 
-/// Whoever clicks on the disabled button of the video info viewer is told what it lacks.
+/// Whoever clicks on the disabled button of the video info viewer is told what it lacks; in a run it lacks nothing. A
+/// disabled button swallows its clicks, so that the pane below it never hears of them.
 bool Startform::Clicked_Pane(QObject* watched, QEvent* event)
 {
-    if (watched == ui_->pic_ViewVidInfo && event->type() == QEvent::MouseButtonRelease)
+    if (watched != ui_->btn_ViewVidInfo || event->type() != QEvent::MouseButtonRelease ||
+        ui_->btn_ViewVidInfo->isEnabled() || program_.Run.Run_In_Progress)
+        return false;
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() == Qt::LeftButton && ui_->btn_ViewVidInfo->rect().contains(mouse->position().toPoint()))
         guard_.Call([this] { pic_ViewVidInfo_Click(program_); });
-    return false;
+    return true;
 }

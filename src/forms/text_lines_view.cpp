@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QEvent>
-#include <QFontInfo>
 #include <QGuiApplication>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -40,7 +39,7 @@ static bool Is_Plain(const QString& line)
 int Widest_Line(const QStringList& lines, const QFont& font)
 {
     const QFontMetrics metrics(font);
-    const bool fixed = QFontInfo(font).fixedPitch();
+    const bool fixed = Is_Fixed_Width(font);
     const int tab = metrics.averageCharWidth() * 16;
     qsizetype most_letters = 0;
     int widest = 0;

@@ -14,8 +14,11 @@ Video_Info_View::Video_Info_View(Program& program, Slot_Guard& guard, QWidget* o
 {
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    ui_->spl_Video->setStretchFactor(1, 1);
+    ui_->spl_Video->setSizes({250, 620}); // names are shorter than what is said about them
     ViewVFI_Load(program_, form_);
     ui_->lst_VideoFiles->setModel(&files_);
+    ui_->lst_VideoFiles->installEventFilter(this);
     ui_->lst_VideoFiles->viewport()->installEventFilter(this);
     // Keys move the row; the mouse picks when its button goes up, also on the row that is picked already.
     connect(ui_->lst_VideoFiles->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
@@ -66,8 +69,22 @@ void Video_Info_View::Pick()
         Identify([this] { ViewVFI_lst_VideoFiles_Click(program_, form_, Selected_Row()); });
 }
 
+/// The list itself knows no row to begin with after a drop, or begins with one that it doesn't pick.
+bool Video_Info_View::Pick_By_Key(const QKeyEvent& event)
+{
+    const int key = event.key();
+    const bool picks = key == Qt::Key_Space || key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Home;
+    if ((!picks && key != Qt::Key_End) || Selected_Row() >= 0 || files_.rowCount() == 0)
+        return false;
+    const QModelIndex row = files_.index(key == Qt::Key_End ? files_.rowCount() - 1 : 0);
+    ui_->lst_VideoFiles->selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect);
+    return true;
+}
+
 bool Video_Info_View::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == ui_->lst_VideoFiles && event->type() == QEvent::KeyPress)
+        return Pick_By_Key(*static_cast<QKeyEvent*>(event));
     if (watched == ui_->lst_VideoFiles->viewport() && event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
         Pick();

@@ -33,6 +33,8 @@ class Video_Info_View : public Program_Dialog
     int Selected_Row() const;
     /// The selected file is shown.
     void Pick();
+    /// A key that moves the row, or picks it, while none is picked.
+    bool Pick_By_Key(const QKeyEvent& event);
     /// A rule that runs the tool, which lets events have their turn.
     void Identify(const std::function<void()>& rule);
 

@@ -68,7 +68,14 @@ auto Window_Operator::Ask(const Question& question)
 {
     Stop_If_Ended();
     Render();
+    // Whoever is asked isn't kept waiting.
+    const QCursor* busy = QGuiApplication::overrideCursor();
+    const Qt::CursorShape shape = busy ? busy->shape() : Qt::ArrowCursor;
+    if (busy)
+        QGuiApplication::restoreOverrideCursor();
     auto answer = question();
+    if (busy)
+        QGuiApplication::setOverrideCursor(shape);
     Stop_If_Ended();
     return answer;
 }

@@ -284,6 +284,23 @@ static void Apply_To_Several(Option_Editor& editor)
     }
 }
 
+/// One row: its option file says what the boxes say, and is gone if they say nothing.
+static void Apply_To_One(Program& program)
+{
+    const Option_Editor& editor = program.Option_Files;
+    const QString path = Option_Path(editor, editor.Selected_Rows.front());
+    const Option_Write_Status status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults);
+    if (status == Option_Write_Status::Nothing_To_Write)
+        return;
+    if (status == Option_Write_Status::Not_Recycled)
+        program.Person.Show_Message({.Title = u"The options file is still there."_s,
+                                     .Text = u"It has nothing to say any more, but the trash didn't take it, so it "
+                                             "stays as it was:\r\n\r\n"_s +
+                                             path + u"\r\n\r\nMake room in the trash and apply again, or delete it."_s,
+                                     .Icon = Message_Icon::Exclamation});
+    Scan_Option_Folder(program);
+}
+
 void btn_Apply_Click(Program& program)
 {
     Option_Editor& editor = program.Option_Files;
@@ -291,10 +308,7 @@ void btn_Apply_Click(Program& program)
         return;
     Read_Boxes(editor);
     if (editor.Selected_Count == 1) {
-        const QString path = Option_Path(editor, editor.Selected_Rows.front());
-        const Option_Write_Status status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults);
-        if (status == Option_Write_Status::Written || status == Option_Write_Status::Recycled)
-            Scan_Option_Folder(program);
+        Apply_To_One(program);
     } else {
         Apply_To_Several(editor);
     }

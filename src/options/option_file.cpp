@@ -141,8 +141,8 @@ Option_Write_Status Write_Option_File(const QString& option_path, const Option_V
     if (All_Empty(values)) {
         if (!File_Exists(option_path))
             return Option_Write_Status::Nothing_To_Write;
-        Delete_To_Recycle(option_path, faults);
-        return Option_Write_Status::Recycled;
+        return Delete_To_Recycle(option_path, faults) ? Option_Write_Status::Recycled
+                                                      : Option_Write_Status::Not_Recycled;
     }
     Write_Values(option_path, values);
     return Option_Write_Status::Written;

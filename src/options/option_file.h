@@ -73,11 +73,12 @@ enum class Option_Write_Status
     Written = -1,
     Nothing_To_Write = 0, ///< all values empty and no file there
     Recycled = 1,         ///< all values empty: the file went to the trash
-    Left_Alone = 2        ///< all values empty: a merge changes nothing
+    Left_Alone = 2,       ///< all values empty: a merge changes nothing
+    Not_Recycled = 3      ///< all values empty, but the trash didn't take the file: it is as it was
 };
 
 /// Writes the five values as they stand; the file is replaced whole, comments and other keys go. All values empty: an
-/// existing file goes to the trash (`faults` hears of it if it can't).
+/// existing file goes to the trash; if it can't, it stays and `faults` hears of it.
 Option_Write_Status Write_Option_File(const QString& option_path, const Option_Values& values,
                                       clsStringBuilder& faults);
 /// Writes the values that aren't empty over those of the existing file, which keeps its other four keys; comments and

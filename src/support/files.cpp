@@ -96,7 +96,7 @@ void Write_Whole_File(const QString& path, const QByteArray& content)
     QSaveFile file(path);
     errno = 0;
     if (!file.open(QIODevice::WriteOnly))
-        Raise_File_Error(u"Opening a file to write it"_s, path, Failure_Number());
+        Raise_File_Error(u"Opening a file to write it"_s, path, QFileInfo(path).isDir() ? EISDIR : Failure_Number());
     if (file.write(content) != content.size() || !file.commit())
         Raise_File_Error(u"Writing a file"_s, path, Failure_Number());
 }

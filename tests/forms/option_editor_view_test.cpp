@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QTableView>
 #include <QWheelEvent>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -56,8 +57,10 @@ struct Editor_Form : Form_Test
             QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
             QCoreApplication::sendEvent(&widget, &press);
         }
-        if (QWidget* proposals = QApplication::activePopupWidget())
+        if (QWidget* proposals = QApplication::activePopupWidget()) {
             proposals->hide();
+            Form->activateWindow(); // no window system does it here
+        }
         QCoreApplication::processEvents();
     }
 
@@ -95,6 +98,26 @@ struct Editor_Form : Form_Test
         }
         return texts.join(u'/').replace(u"/ /"_s, u"//"_s).replace(u"/ /"_s, u"//"_s);
     }
+};
+
+/// What anybody but the file's owner may do, also where the tests run as the one who may do everything.
+class Without_Privileges
+{
+  public:
+    Without_Privileges()
+    {
+        if (was_root_ && ::seteuid(65534) != 0)
+            qFatal("nobody can't be taken on");
+    }
+
+    ~Without_Privileges()
+    {
+        if (was_root_ && ::seteuid(0) != 0)
+            qFatal("nobody can't be put off");
+    }
+
+  private:
+    const bool was_root_ = ::geteuid() == 0;
 };
 
 } // namespace
@@ -189,6 +212,90 @@ TEST_F(Editor_Form, OneRowTakesAllBoxesAndSeveralTheSetOnes)
     });
 }
 
+TEST_F(Editor_Form, ABoxIsSetByTheOperatorOnlyAndLeavingItEmptyGreysIt)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Edit([&] {
+        Click_Row(0);
+        auto& flag = In<QComboBox>(*Form, "cmbo_Default");
+        ASSERT_EQ(flag.count(), 3);
+        EXPECT_EQ(flag.itemText(0), u"");
+        QWheelEvent wheel(QPointF(5, 5), flag.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&flag, &wheel);
+        EXPECT_EQ(flag.currentIndex(), -1) << "a wheel that passes by";
+
+        Type("txt_Title", u"x"_s);
+        Type("txt_Title", {});
+        EXPECT_TRUE(Boxes().startsWith(u"[]/"_s)) << "emptied, but not left";
+        Press(*Form, Qt::Key_Return);
+        EXPECT_TRUE(In<QWidget>(*Form, "cmbo_Language").hasFocus());
+        EXPECT_TRUE(Boxes().startsWith(u"(not set)/"_s));
+
+        // The language box stays set when it is left empty; a flag box without "no" and "yes" doesn't.
+        Type("cmbo_Language", u"x"_s);
+        Type("cmbo_Language", {});
+        Press(*Form, Qt::Key_Enter, Qt::KeypadModifier);
+        EXPECT_TRUE(flag.hasFocus());
+        Choose_Line("cmbo_Default", Qt::Key_N);
+        QTest::keyClick(&flag, Qt::Key_Home);
+        EXPECT_EQ(Boxes(), u"(not set)/[]/[]/(not set)/(not set)");
+        QTest::keyClick(&flag, Qt::Key_Comma, Qt::KeypadModifier);
+        QTest::keyClick(&In<QWidget>(*Form, "cmbo_Forced"), Qt::Key_Select);
+        EXPECT_TRUE(In<QWidget>(*Form, "txt_Delay").hasFocus());
+        QTest::keyClick(&In<QWidget>(*Form, "txt_Delay"), Qt::Key_Return);
+        EXPECT_TRUE(In<QWidget>(*Form, "txt_Delay").hasFocus()) << "the last one";
+        EXPECT_EQ(Boxes(), u"(not set)/[]/(not set)/(not set)/(not set)");
+        EXPECT_TRUE(Form->isVisible());
+    });
+}
+
+TEST_F(Editor_Form, OneKeyGoesOnFromTheLanguageAlsoWhileProposalsHangBelowIt)
+{
+    Start();
+    Window.Files.Write(u"videos/a.mp3"_s);
+    Edit([&] {
+        auto& language = In<QComboBox>(*Form, "cmbo_Language");
+        const auto type = [&](Qt::Key key, Qt::KeyboardModifiers held = {}) {
+            // As a window system does it: an open list gets the keys of the window below it.
+            QWidget* open = QApplication::activePopupWidget();
+            Press(open ? *open : *Form, key, held);
+        };
+        Click_Row(0);
+        for (const auto& [key, held] :
+             {std::pair(Qt::Key_Return, Qt::KeyboardModifiers()), std::pair(Qt::Key_Enter, Qt::KeyboardModifiers()),
+              std::pair(Qt::Key_Select, Qt::KeyboardModifiers()),
+              std::pair(Qt::Key_Comma, Qt::KeyboardModifiers(Qt::KeypadModifier))}) {
+            language.setFocus();
+            type(Qt::Key_A, Qt::ControlModifier);
+            for (const Qt::Key letter : {Qt::Key_K, Qt::Key_O, Qt::Key_R, Qt::Key_E, Qt::Key_A})
+                type(letter);
+            ASSERT_TRUE(QApplication::activePopupWidget()) << key;
+            type(key, held);
+            EXPECT_FALSE(QApplication::activePopupWidget());
+            Form->activateWindow(); // no window system does it here
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(In<QWidget>(*Form, "cmbo_Default").hasFocus()) << key;
+            EXPECT_EQ(Boxes(), u"(not set)/[korea]/(not set)/(not set)/(not set)") << "as it was typed";
+        }
+        language.setFocus();
+        type(Qt::Key_A, Qt::ControlModifier);
+        for (const Qt::Key key : {Qt::Key_K, Qt::Key_O, Qt::Key_R, Qt::Key_E, Qt::Key_A, Qt::Key_Down, Qt::Key_Return})
+            type(key);
+        EXPECT_EQ(Boxes(), u"(not set)/[Korean (kor)]/(not set)/(not set)/(not set)") << "the one marked";
+        Form->activateWindow();
+        QCoreApplication::processEvents();
+        // The buttons are pushed by Enter, too.
+        In(*Form, "btn_Apply").setFocus();
+        Press(*Form, Qt::Key_Enter, Qt::KeypadModifier);
+        EXPECT_EQ(Window.Files.Read(u"videos/a.mp3.opt"_s), "Language=Korean (kor)\r\n");
+        EXPECT_TRUE(In(*Form, "btn_Close").hasFocus());
+        Press(*Form, Qt::Key_Return);
+        EXPECT_FALSE(Form->isVisible());
+    });
+}
+
 TEST_F(Editor_Form, StickyTextsOutliveTheFormAndComeBackPerKind)
 {
     Start();
@@ -274,19 +381,79 @@ TEST_F(Editor_Form, TextGrowsToThirtyFivePointsAndBack)
     });
 }
 
-TEST_F(Editor_Form, AnOptionFileThatCantBeWrittenEndsTheProgramWithItsName)
+TEST_F(Editor_Form, AnOptionFileThatCantBeReadOrWrittenEndsTheProgramWithItsName)
+{
+    const QString folder = Window.Files.Path(u"videos"_s);
+    const QString option_file = Window.Files.Path(u"videos/a.mp3.opt"_s);
+    const auto allow = [](const QString& path, QFile::Permissions more) {
+        EXPECT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner | more));
+    };
+
+    struct Case
+    {
+        const char* Name;
+        std::function<void()> Before; ///< the editor opens
+        std::function<void()> Spoil;  ///< while it is open
+        QByteArray Kept;
+    };
+
+    const Case cases[] = {
+        {"the folder is gone", {}, [&] { QDir(folder).removeRecursively(); }, {}},
+        {"a folder is in the file's place", [&] { QDir().mkdir(option_file); }, [] {}, {}},
+        {"the folder can only be read", [&] { Window.Files.Write(u"videos/a.mp3.opt"_s, "Delay=7\r\n"); },
+         [&] { allow(folder, QFile::ReadOther | QFile::ExeOther); }, "Delay=7\r\n"},
+        {"the file can't be read", [&] { Window.Files.Write(u"videos/a.mp3.opt"_s, "Delay=7\r\n"); },
+         [&] { QFile::setPermissions(option_file, {}); }, "Delay=7\r\n"},
+    };
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.Name);
+        allow(Window.Files.Path(), QFile::WriteOwner | QFile::ReadOther | QFile::ExeOther);
+        QDir(folder).removeRecursively();
+        Window.Files.Write(u"videos/a.mp3"_s);
+        if (one.Before)
+            one.Before();
+        Window.Person.Boxes.clear();
+        Start();
+        allow(Window.Files.Path(u"app"_s), QFile::WriteOwner | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther);
+        QStringList names;
+        Edit([&] {
+            one.Spoil();
+            names = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+            const Without_Privileges nobody;
+            Click_Row(0);
+            if (!Window.Desk->Guard.Ended()) {
+                Type("txt_Title", u"x"_s);
+                Push(*Form, "btn_Apply");
+            }
+        });
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        EXPECT_TRUE(Window.Desk->Guard.Ended());
+        ASSERT_EQ(Window.Person.Boxes.size(), 1u);
+        const QString told = Window.Person.Boxes[0].Text;
+        EXPECT_TRUE(told.startsWith(u"Run-time error"_s) && told.contains(option_file)) << told.toStdString();
+        EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), names) << "nothing half-written";
+        QFile::setPermissions(option_file, QFile::ReadOwner);
+        EXPECT_EQ(Window.Files.Read(u"videos/a.mp3.opt"_s), one.Kept);
+    }
+}
+
+TEST_F(Editor_Form, AnOptionFileThatTheTrashDoesntTakeStaysAndThatIsTold)
 {
     Start();
-    Window.Files.Write(u"videos/a.mp3"_s);
+    const QString name = u"videos/"_s + QString(237, u'n') + u".mp3"_s; // too long to be described in the trash
+    Window.Files.Write(name);
+    Window.Files.Write(name + u".opt"_s, "Title=Own\r\n");
     Edit([&] {
         Click_Row(0);
-        Type("txt_Title", u"x"_s);
-        QDir(Window.Files.Path(u"videos"_s)).removeRecursively();
+        Type("txt_Title", {});
         Push(*Form, "btn_Apply");
+        ASSERT_EQ(Window.Person.Boxes.size(), 1u);
+        EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(Window.Files.Path(name + u".opt"_s)));
+        EXPECT_EQ(Boxes(), u"[Own]/(not set)/(not set)/(not set)/(not set)") << "what the file still says";
+        EXPECT_TRUE(Form->isVisible());
     });
-    EXPECT_TRUE(Window.Desk->Guard.Ended());
-    ASSERT_EQ(Window.Person.Boxes.size(), 1u);
-    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"a.mp3.opt"_s)) << Window.Person.Boxes[0].Text.toStdString();
+    EXPECT_EQ(Window.Files.Read(name + u".opt"_s), "Title=Own\r\n");
+    EXPECT_FALSE(Window.Desk->Guard.Ended());
 }
 
 TEST_F(Editor_Form, AWholeSeasonIsCaptionedAtOnce)

@@ -54,6 +54,9 @@ Test_Window::~Test_Window()
 bool Test_Window::Start()
 {
     Desk = nullptr;
+    // No form can wait for its person after a program that ended, until the application runs again.
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QApplication::exec();
     Desk = std::make_unique<Desktop>();
     Prog().Settings.App_Folder = Files.Path(u"app/"_s);
     Form().Propose_Place();

@@ -2,6 +2,7 @@
 #include "common/stand_in_tool.h"
 #include "forms/drop_text.h"
 #include "forms/form_test.h"
+#include "forms/looks.h"
 #include "forms/text_lines_view.h"
 #include "inspect/tool_discovery.h"
 
@@ -56,6 +57,7 @@ struct Info_Form : Form_Test
             person(form);
         };
         Click_On(Window.Get("btn_ViewVidInfo"));
+        Window.Person.On_Form.erase(u"frm_ViewVFI"_s);
         EXPECT_TRUE(met);
     }
 
@@ -205,6 +207,7 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
         EXPECT_FALSE(In(form, "btn_SaveToFile").isEnabled());
         EXPECT_FALSE(In(form, "btn_ShowCodecData").isEnabled());
         EXPECT_EQ(form.focusWidget(), &In(form, "btn_Done"));
+        EXPECT_TRUE(Is_Fixed_Width(In<QWidget>(form, "txt_VideoInfo").font()));
         Pick(form, 0);
         const QString info = Text(form);
         EXPECT_TRUE(info.contains(u"film.part1.mkv"_s) && info.contains(u"Track ID 0"_s)) << info.toStdString();
@@ -232,6 +235,13 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
         Pick(form, 0);
         EXPECT_EQ(Text(form), info);
         EXPECT_FALSE(In<QWidget>(form, "shp_VideoInfo").isVisible());
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End}) {
+            EXPECT_TRUE(Drop(form, notes));
+            In(form, "btn_Done").setFocus();
+            In<QListView>(form, "lst_VideoFiles").setFocus();
+            Press(form, key);
+            EXPECT_EQ(Text(form), info) << key << " picks the only file";
+        }
         Push(form, "img_FontInc");
         EXPECT_EQ(In<QWidget>(form, "txt_VideoInfo").font().pointSize(), 11);
         EXPECT_EQ(In<QWidget>(form, "lst_VideoFiles").font().pointSize(), 11);
@@ -292,6 +302,18 @@ TEST_F(Info_Form, NothingElseHappensWhileTheToolIsAsked)
         Push(form, "btn_Done");
         EXPECT_FALSE(form.isVisible());
     });
+}
+
+TEST_F(Info_Form, AClickOnTheDisabledButtonTellsWhatItLacks)
+{
+    Start();
+    Window.Choose("mnu_IdentifyWithAnyMkvmerge");
+    ASSERT_FALSE(Window.Get("btn_ViewVidInfo").isEnabled());
+    Click_On(Window.Get("btn_ViewVidInfo"));
+    EXPECT_TRUE(Window.Person.Forms.isEmpty());
+    EXPECT_EQ(Window.Person.Boxes.size(), 1u);
+    Window.Choose("mnu_IdentifyWithAnyMkvmerge");
+    EXPECT_TRUE(Window.Get("btn_ViewVidInfo").isEnabled());
 }
 
 TEST_F(Info_Form, AnInfoTextOfTenMegabytesIsShown)
