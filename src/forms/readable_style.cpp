@@ -24,3 +24,10 @@ void Readable_Style::drawPrimitive(PrimitiveElement element, const QStyleOption*
         painter->drawEllipse(box);
     painter->restore();
 }
+
+QSize Readable_Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                       const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_PushButton ? size + QSize(option->fontMetrics.averageCharWidth() * 2, 0) : size;
+}

@@ -219,6 +219,13 @@ void Startform::Render()
     Render_Focus();
 }
 
+/// A headline stands beside its box. What a run counts stands inside it, so that the boxes stay in line.
+static std::pair<QString, QString> Headline_And_Count(const QString& caption)
+{
+    const qsizetype end = caption.indexOf(u')') + 1;
+    return {caption.left(end).trimmed(), caption.mid(end).trimmed()};
+}
+
 void Startform::Render_Folders()
 {
     const Main_Form& form = program_.Form;
@@ -239,11 +246,17 @@ void Startform::Render_Folders()
     for (Elided_Label* path : shown)
         path->setVisible(!path->text().isEmpty() || Fault_Labels()[shown.indexOf(path)]->isHidden());
 
-    ui_->lbl_VideosPathTitle->setText(With_Letter(form.pic_VideosPath.Caption, u'V'));
+    const auto [videos, found] = Headline_And_Count(form.pic_VideosPath.Caption);
+    const auto [target, done] = Headline_And_Count(form.pic_TargetPath.Caption);
+    ui_->lbl_VideosPathTitle->setText(With_Letter(videos, u'V'));
+    ui_->lbl_VideosPathCount->setText(found);
+    ui_->lbl_VideosPathCount->setVisible(!found.isEmpty());
     ui_->lbl_AudioPathTitle->setText(With_Letter(form.pic_AudioPath.Caption, u'd'));
     ui_->lbl_SubsPathTitle->setText(With_Letter(form.pic_SubsPath.Caption, u'b'));
     ui_->lbl_ChaptersPathTitle->setText(With_Letter(form.pic_ChaptersPath.Caption, u'e'));
-    ui_->lbl_TargetPathTitle->setText(With_Letter(form.pic_TargetPath.Caption, u'T'));
+    ui_->lbl_TargetPathTitle->setText(With_Letter(target, u'T'));
+    ui_->lbl_TargetPathCount->setText(done);
+    ui_->lbl_TargetPathCount->setVisible(!done.isEmpty());
     ui_->img_SourceMRU->setDown(program_.Source_MRU_Form.Arrow_Pressed);
     ui_->img_TargetMRU->setDown(program_.Target_MRU_Form.Arrow_Pressed);
     Fit_Panels(before);

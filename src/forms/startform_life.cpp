@@ -15,6 +15,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QWindow>
 
 static bool Same_Place(const Form_Place& a, const Form_Place& b)
@@ -31,7 +32,9 @@ QSize Startform::sizeHint() const
         stale->invalidate();
     const QSize options = options_->Whole_Size();
     const int height = QMainWindow::sizeHint().height() - ui_->scr_Options->sizeHint().height() + options.height();
-    return {std::max(options.width(), ui_->fram_Run->sizeHint().width()) + edges.left() + edges.right(), height};
+    // Room for a scroll bar, so that one that comes pushes nothing aside.
+    const int width = options.width() + ui_->scr_Options->verticalScrollBar()->sizeHint().width();
+    return {std::max(width, ui_->fram_Run->sizeHint().width()) + edges.left() + edges.right(), height};
 }
 
 void Startform::Propose_Place()

@@ -122,6 +122,7 @@ void Window_Operator::Show_Modal(const QString& name)
         Program_Dialog* form = Form(name);
         if (!form)
             return false;
+        form->Render(); // its words decide its size
         form->Open();
         form->Render();
         form->exec();
@@ -133,9 +134,10 @@ void Window_Operator::Show_Form(const QString& name)
 {
     Stop_If_Ended();
     if (Program_Dialog* form = Form(name)) {
-        form->Open();
         form->Render();
+        form->Open();
         form->show();
+        form->activateWindow();
     }
 }
 
