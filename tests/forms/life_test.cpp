@@ -143,9 +143,6 @@ TEST(Window_Life, AnErrorThatCantBeGoneOnFromIsLoggedToldOnceAndEndsTheProgram)
     window.Desk->Guard.Call([&] { went_on = true; });
     EXPECT_FALSE(went_on);
     EXPECT_EQ(window.Files.Read(u"app/Vantorra.ini"_s), settings);
-    // The end of the event loop is asked for; the tests behind this one need one that turns.
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
-    QApplication::exec();
 }
 
 TEST(Window_Life, TheAboutBoxCountsDownAndAClickClosesIt)

@@ -180,9 +180,6 @@ TEST_F(Window_Run, AnErrorInTheMiddleOfARunReapsTheChildAndEndsTheProgram)
     EXPECT_TRUE(Window.Desk->Guard.Ended());
     ASSERT_EQ(Window.Person.Boxes.size(), 1u);
     EXPECT_EQ(Children_Left(), 0);
-    // The end of the event loop is asked for; the tests behind this one need one that turns.
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
-    QApplication::exec();
 }
 
 TEST_F(Window_Run, TheFailurePictureFlashesAndStays)

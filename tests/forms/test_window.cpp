@@ -47,8 +47,14 @@ Test_Window::Test_Window() = default;
 Test_Window::~Test_Window()
 {
     // A form that a test left open has nothing to save.
-    if (Desk)
-        Desk->Prog.Settings.Save_On_Exit = false;
+    if (!Desk)
+        return;
+    Desk->Prog.Settings.Save_On_Exit = false;
+    if (!Desk->Guard.Ended())
+        return;
+    // The end of the event loop was asked for; the tests behind this one need one that turns.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    QApplication::exec();
 }
 
 bool Test_Window::Start()
