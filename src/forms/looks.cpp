@@ -53,11 +53,14 @@ QIcon Picture(const QString& name, const QPalette& palette)
     QIcon icon;
     for (const int side : {16, 24, 32, 48, 64}) {
         QPixmap pixmap = drawn.pixmap(QSize(side, side), 1.0);
-        QPainter painter(&pixmap);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(pixmap.rect(), palette.color(QPalette::WindowText));
-        painter.end();
-        icon.addPixmap(pixmap);
+        for (const auto& [mode, group] :
+             {std::pair(QIcon::Normal, QPalette::Active), std::pair(QIcon::Disabled, QPalette::Disabled)}) {
+            QPainter painter(&pixmap);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(pixmap.rect(), palette.color(group, QPalette::WindowText));
+            painter.end();
+            icon.addPixmap(pixmap, mode);
+        }
     }
     return icon;
 }

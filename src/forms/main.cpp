@@ -3,7 +3,6 @@
 #include "forms/session_end.h"
 #include "settings/app_folder.h"
 #include "settings/instance_lock.h"
-#include "settings/start_up.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -24,17 +23,10 @@ int main(int argc, char** argv)
     Desktop desktop;
     QApplication::setWindowIcon(QIcon(u":/images/vantorra.svg"_s));
     desktop.Prog.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process({}));
-    desktop.Form.Propose_Place();
 
     Instance_Lock lock;
-    bool started = false;
-    desktop.Guard.Call([&] { started = Start_Up(desktop.Prog, &lock); });
-    if (desktop.Guard.Ended())
-        return Run_Time_Error_Status;
-    if (!started)
-        return 0;
-
+    if (!desktop.Start(&lock))
+        return desktop.Guard.Ended() ? Run_Time_Error_Status : 0;
     const Session_End session(desktop.Prog, desktop.Guard, desktop.Form);
-    desktop.Form.Show_First();
     return QApplication::exec();
 }

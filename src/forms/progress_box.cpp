@@ -9,7 +9,7 @@ Progress_Box::Progress_Box(QWidget* parent) : QFrame(parent)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
+    setBackgroundRole(QPalette::Window);
 }
 
 void Progress_Box::Set_Progress(double fraction, Progress_Look look)
@@ -19,6 +19,8 @@ void Progress_Box::Set_Progress(double fraction, Progress_Look look)
         return;
     fraction_ = fraction;
     look_ = look;
+    // Without a run to tell of it must not look like a box to type in.
+    setBackgroundRole(look == Progress_Look::Idle ? QPalette::Window : QPalette::Base);
     update();
     for (QWidget* child : findChildren<QWidget*>())
         child->update();

@@ -39,6 +39,12 @@ void Recent_List_View::Open()
     const auto* box = parentWidget()->findChild<QWidget*>(QLatin1StringView(parts_.Path_Box));
     setGeometry(QRect(box->mapToGlobal(QPoint()), box->size()));
     cmbo_MRU_->setMinimumHeight(box->height());
+    // It lies over the path box, and looks like it.
+    QPalette like_box = palette();
+    like_box.setBrush(QPalette::Button, like_box.brush(QPalette::Base));
+    for (const QPalette::ColorRole words : {QPalette::ButtonText, QPalette::PlaceholderText})
+        like_box.setBrush(words, like_box.brush(QPalette::Text));
+    cmbo_MRU_->setPalette(like_box);
 }
 
 void Recent_List_View::showEvent(QShowEvent* event)

@@ -42,8 +42,12 @@ Startform::Startform(Program& program, Slot_Guard& guard)
     Connect_Options();
     Connect_Folders();
     Connect_Run();
-    Connect_Right_Clicks();
+    Connect_Popups(*this, program_, guard_);
     Connect_Menus(*this, program_, guard_);
+    // The buttons beside it stay where they are while a run hides it.
+    QSizePolicy kept = ui_->pic_QuitButton->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    ui_->pic_QuitButton->setSizePolicy(kept);
     Set_Looks();
     qApp->installEventFilter(this);
 }
@@ -109,20 +113,15 @@ void Startform::Connect_Run()
             [this] { guard_.Call([this] { btn_Halt_MouseUp(program_); }); });
 }
 
-void Startform::Connect_Right_Clicks()
-{
-    Connect_Popups(*this, program_, guard_);
-    for (QCheckBox* box : {ui_->chk_SubDefaults, ui_->chk_SubForces, ui_->chk_AddAttachments})
-        box->installEventFilter(this);
-}
-
 void Startform::Set_Looks()
 {
     const QPalette& colours = palette();
+    const QIcon down = Picture(u"arrow_down"_s, colours);
     for (QToolButton* arrow : {ui_->img_SourceMRU, ui_->img_TargetMRU})
-        arrow->setIcon(Picture(u"arrow_down"_s, colours));
+        arrow->setIcon(down);
+    const QIcon folder = Picture(u"folder"_s, colours);
     for (QToolButton* browse : Browse_Buttons())
-        browse->setIcon(Picture(u"folder"_s, colours));
+        browse->setIcon(folder);
     ui_->img_ProcessFailed->setIcon(QIcon(u":/images/failed.svg"_s));
     for (QFrame* box : Path_Boxes())
         box->setBackgroundRole(QPalette::Base);
@@ -133,8 +132,6 @@ void Startform::Set_Looks()
         Tint(*mark, Mark_Colour(colours));
     ui_->btn_RunVantorra->Set_Colour(Under_White_Text(colours.color(QPalette::Active, QPalette::Highlight)));
     ui_->btn_Halt->Set_Colour(QColor(0xb7, 0x1c, 0x1c));
-    options_->Measure();
-
     Measure();
 }
 
@@ -168,6 +165,10 @@ void Startform::Measure()
         button->setMinimumHeight(row + 4);
     ui_->pic_Progress->setFixedHeight(row);
     ui_->lbl_ProgressFinished->setFont(bold);
+    // Neither a run that begins nor a file that fails moves what stands above.
+    ui_->fram_Run->setFixedHeight(
+        std::max({ui_->btn_RunVantorra->minimumHeight(), ui_->pic_ProcessFailed->minimumHeight(),
+                  fontMetrics().height() + ui_->lay_Work->spacing() + row}));
 }
 
 QList<QFrame*> Startform::Path_Boxes() const
@@ -210,6 +211,10 @@ void Startform::Render()
         line->Set_On(form.Subs_Diagram_On);
 
     ui_->btn_RunVantorra->setText(With_Letter(form.btn_RunVantorra.Caption, u'R'));
+    ui_->btn_RunVantorra->setToolTip(
+        form.btn_RunVantorra.Enabled
+            ? u"Processes every video of the video folder with the options above."_s
+            : u"A run takes a video folder, another folder as its target, and ffprobe in this program's folder."_s);
     ui_->btn_Halt->setText(With_Letter(form.btn_Halt.Caption, QChar()));
     ui_->btn_ViewVidInfo->setText(With_Letter(form.btn_ViewVidInfo.Caption, u'I'));
     Render_Folders();

@@ -33,8 +33,10 @@ class Startform : public QMainWindow, public Form_View
 
     /// Tells the records the screen's work area and the size that everything fits into, for a first start.
     void Propose_Place();
-    /// Shows the form where its record says, but always within a screen, and tells the rules of the first activation.
+    /// Shows the form where its record says, but always within a screen, and paints it. It takes no input yet.
     void Show_First();
+    /// Tells the rules of the first activation: from now on they act.
+    void Become_Ready();
     void Set_Topmost(bool on);
 
     /// True once the close query let the form go.
@@ -55,7 +57,6 @@ class Startform : public QMainWindow, public Form_View
     void Connect_Options();
     void Connect_Folders();
     void Connect_Run();
-    void Connect_Right_Clicks();
     /// Colours and pictures of the palette in force, then Measure.
     void Set_Looks();
     /// The sizes that follow the font in force.
@@ -71,6 +72,7 @@ class Startform : public QMainWindow, public Form_View
     /// As large as it takes to show all without scrolling, if the screen has the room.
     void Make_Room();
     void Fit_Panels(int panels_before);
+    bool Too_Early(QObject* watched, const QEvent* event) const;
     bool Clicked_Pane(QObject* watched, QEvent* event);
     bool Right_Click(QObject* watched, QEvent* event);
 

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -39,7 +40,7 @@ QSize Startform::sizeHint() const
 
 void Startform::Propose_Place()
 {
-    guard_.Call([this] { Render(); });
+    Render();
     // A size asked for before the first show must already know the style.
     for (QWidget* widget : findChildren<QWidget*>())
         widget->ensurePolished();
@@ -54,19 +55,27 @@ void Startform::Propose_Place()
 
 void Startform::Show_First()
 {
-    guard_.Call([this] { Render(); });
     show();
     shown_ = true;
     // Only a form that is shown knows for sure what its style asks for, and what the window's frame takes.
     Measure();
-    const bool first = program_.Settings.First_Run;
-    if (first)
+    if (program_.Settings.First_Run)
         Make_Room();
     const QRect frame = frameGeometry();
     const QRect within = Onto_Screen(frame);
     if (frame != within)
         setGeometry(within.marginsRemoved({geometry().left() - frame.left(), geometry().top() - frame.top(),
                                            frame.right() - geometry().right(), frame.bottom() - geometry().bottom()}));
+    // A screen that shows nothing, such as a locked one, must not hold up the start.
+    QDeadlineTimer patience(200);
+    while (!windowHandle()->isExposed() && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Startform::Become_Ready()
+{
+    const bool first = program_.Settings.First_Run;
     guard_.Call([this] { First_Activation(program_); });
     if (first)
         Make_Room(); // what the rules put in view has its size only now
@@ -156,7 +165,7 @@ void Startform::closeEvent(QCloseEvent* event)
         return;
     }
     guard_.Call([this] {
-        if (program_.Run.Run_In_Progress || !Query_Unload(program_))
+        if (!program_.Form.Options_Ready || program_.Run.Run_In_Progress || !Query_Unload(program_))
             return;
         Unload(program_);
         unloaded_ = true;
@@ -209,7 +218,28 @@ bool Startform::eventFilter(QObject* watched, QEvent* event)
         by_key_ = true;
     else if (event->type() == QEvent::MouseButtonPress)
         by_key_ = false;
-    return Right_Click(watched, event) || Clicked_Pane(watched, event) || QMainWindow::eventFilter(watched, event);
+    return Too_Early(watched, event) || Right_Click(watched, event) || Clicked_Pane(watched, event) ||
+           QMainWindow::eventFilter(watched, event);
+}
+
+/// Until the form is ready it shows itself, and no more.
+bool Startform::Too_Early(QObject* watched, const QEvent* event) const
+{
+    if (program_.Form.Options_Ready)
+        return false;
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+        return widget && widget->window() == this;
+    default:
+        return false;
+    }
 }
 
 /// The right clicks that do something at once instead of opening a popup; the menu key counts as one.

@@ -6,6 +6,7 @@
 #include "program.h"
 #include "settings/folders.h"
 #include "settings/option_rules.h"
+#include "settings/settings_store.h"
 
 using namespace Qt::StringLiterals;
 
@@ -204,7 +205,9 @@ const std::vector<Menu_Tick>& Menu_Ticks()
          [](const Program& program) { return program.Options.Keep_English_Subs; }, mnu_KeepEnglishTitledSubs_Click},
         {u"mnu_DeleteAncillaryFiles"_s, u"Delete Source Video Ancillary Files"_s,
          [](const Program& program) { return program.Options.Delete_Sundry_Files; }, mnu_DeleteAncillaryFiles_Click},
-        {u"mnu_KeepTopmost"_s, u"Keep This Program Topmost"_s,
+        {u"mnu_SaveOnQuit"_s, u"Save Settings on Exit"_s,
+         [](const Program& program) { return program.Settings.Save_On_Exit; }, mnu_SaveOnQuit_Click},
+        {u"mnu_KeepTopmost"_s, u"Keep this program topmost"_s,
          [](const Program& program) { return program.Form.Topmost_On; }, mnu_KeepTopmost_Click},
         {u"mnu_AppendLogs"_s, u" Append Vantorra Log(s)"_s,
          [](const Program& program) { return program.Options.mnu_AppendLogs; }, mnu_AppendLogs_Click},

@@ -81,7 +81,7 @@ static void Set_Captions(Program& program)
     program.Form.mnu_OSVersion.Caption = u"OS Version - "_s + program.Settings.OS_Version_Text;
 }
 
-bool Start_Up(Program& program, Instance_Lock* lock)
+bool Load_Form(Program& program, Instance_Lock* lock)
 {
     if (lock != nullptr) {
         QDir().mkpath(program.Settings.App_Folder);
@@ -89,15 +89,19 @@ bool Start_Up(Program& program, Instance_Lock* lock)
             return false;
     }
     Load_Settings(program);
-    Discover_Tools(program);
     Check_Paths(program, u"All"_s);
-    // The check may have emptied a folder; a button that a missing tool disabled stays so.
-    if (program.Settings.Extensions.Run_Button_Follows_Folders &&
-        (program.Options.Path_Videos.isEmpty() || program.Options.Path_Target.isEmpty()))
-        program.Form.btn_RunVantorra.Enabled = false;
+    Follow_Folders(program); // the check may have emptied one
     Load_Language_Table(program, u"scrap"_s);
     Show_Folder_Panels(program.Options, program.Form);
     Set_Captions(program);
+    return true;
+}
+
+bool Start_Up(Program& program, Instance_Lock* lock)
+{
+    if (!Load_Form(program, lock))
+        return false;
+    Discover_Tools(program);
     return true;
 }
 

@@ -13,9 +13,12 @@ struct Program;
 /// Run_Time_Error for a settings file that can't be read.
 void Load_Settings(Program& program);
 
-/// Load_Settings and all that follows: tools, folders, languages, captions. `lock` holds App_Folder for one window;
-/// null where several programs may share it. False: another window has the folder, nothing was done, and this program
-/// should end without a word.
+/// Load_Settings and all that follows without a child process: folders, languages, captions. Discover_Tools is to come
+/// next; a window shows itself in between. `lock` holds App_Folder for one window; null where several programs may
+/// share it. False: another window has the folder, nothing was done, and this program should end without a word.
+bool Load_Form(Program& program, Instance_Lock* lock);
+
+/// Load_Form, then Discover_Tools.
 bool Start_Up(Program& program, Instance_Lock* lock);
 
 /// The main form was activated. After a first run it is centred on the screen; from now on the option rules act.

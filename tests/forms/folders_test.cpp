@@ -127,6 +127,33 @@ TEST_F(Folder_Panels, TheBrowseButtonAsksFromTheFolderAndShowsTheAnswer)
     EXPECT_EQ(Shown("ulbl_TargetPath"), Window.Files.Path(u"target/"_s));
 }
 
+TEST_F(Folder_Panels, TheTargetsArrowOffersTheRecentTargets)
+{
+    QDir().mkpath(Window.Files.Path(u"older"_s));
+    Drop("pic_TargetPath", {Window.Files.Path(u"older"_s)});
+    Drop("pic_TargetPath", {Window.Files.Path(u"target"_s)});
+    QStringList offered;
+    Window.Person.On_Form[u"frm_TargetMRU"_s] = [&](QWidget& form) {
+        const auto* list = form.findChild<QComboBox*>(u"cmbo_MRU"_s);
+        for (int i = 0; i < list->count(); ++i)
+            offered += list->itemText(i);
+    };
+    Click_On(Window.Get("img_TargetMRU"));
+    EXPECT_EQ(offered.value(0), Window.Files.Path(u"older/"_s));
+    EXPECT_EQ(Shown("ulbl_TargetPath"), Window.Files.Path(u"target/"_s)) << "closed without a choice";
+}
+
+TEST_F(Folder_Panels, AFolderThatVanishesIsToldAtTheRunAndLosesItsPanelsPath)
+{
+    Window.Set_Folders();
+    QDir(Window.Files.Path(u"target"_s)).removeRecursively();
+    Click_On(Window.Get("btn_RunVantorra"));
+    EXPECT_EQ(Shown("ulbl_TargetPath"), u"");
+    EXPECT_TRUE(Window.Get("lbl_TargetPathFault").isVisible());
+    EXPECT_EQ(Shown("lbl_TargetPathFault"), u"Target Path Not Set");
+    EXPECT_TRUE(Window.Files.Read(u"app/Vantorra_Process.log"_s).contains("The Target path does not exist!"));
+}
+
 TEST_F(Folder_Panels, TheArrowOffersTheRecentFoldersAndAChoiceSwapsThem)
 {
     QDir().mkpath(Window.Files.Path(u"older"_s));

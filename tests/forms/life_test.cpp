@@ -1,3 +1,4 @@
+#include "common/stand_in_tool.h"
 #include "forms/test_window.h"
 #include "settings/settings_store.h"
 #include "settings/start_up.h"
@@ -27,6 +28,29 @@ TEST(Window_Life, StartChangeQuitStartAgain)
     EXPECT_EQ(window.Get<QMenu>("mnu_VerbosityStatus").title(), u"Log Verbosity 3 - Include All Active Checkboxes");
     EXPECT_EQ(window.Form().geometry().topLeft(), QPoint(30, 40));
     EXPECT_TRUE(window.Get("btn_RunVantorra").isEnabled());
+}
+
+TEST(Window_Life, WhileTheToolsAreTriedTheWindowIsSeenAndTakesNoInput)
+{
+    Test_Window window;
+    Write_Stand_In(window.Files, u"app/ffprobe"_s, "sleep 0.4\necho 'ffprobe version 5'\n");
+    int seen = 0;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        if (!window.Desk || !window.Form().isVisible() || window.Prog().Form.Options_Ready || ++seen > 1)
+            return;
+        Click_On(window.Get("chk_StripChaps"));
+        Press(window.Form(), Qt::Key_F4, Qt::AltModifier);
+        window.Form().close();
+    });
+    look.start(5);
+    ASSERT_TRUE(window.Start());
+    EXPECT_GT(seen, 0);
+    EXPECT_FALSE(window.Form().Unloaded());
+    EXPECT_EQ(window.Prog().Options.chk_StripChaps.Value, 0);
+    EXPECT_FALSE(window.Get<QCheckBox>("chk_StripChaps").isChecked());
+    Click_On(window.Get("chk_StripChaps"));
+    EXPECT_EQ(window.Prog().Options.chk_StripChaps.Value, 1);
 }
 
 TEST(Window_Life, EachWayOutSavesAndTheCloseBoxIsAltF4)

@@ -79,12 +79,27 @@ TEST_F(Option_Clicks, SpaceTicksABoxAndLeavesTheFocusWhileTheMouseParksIt)
 
 TEST_F(Option_Clicks, TheOptionButtonsAndTheChapterFormatFollowTheirRecords)
 {
-    Click_On(Window.Get("opt_SetFileTitle_2"));
-    EXPECT_EQ(Window.Prog().Options.opt_SetFileTitle.Selected, 1) << "disabled until Set File Title is ticked";
-    Click_On(Window.Get("chk_SetFileTitle"));
-    Click_On(Window.Get("opt_SetFileTitle_2"));
-    EXPECT_EQ(Window.Prog().Options.opt_SetFileTitle.Selected, 2);
-    EXPECT_TRUE(Window.Get<QRadioButton>("opt_SetFileTitle_2").isChecked());
+    struct
+    {
+        const char* Box;
+        const char* First;
+        const char* Second;
+        const Option_Pair& Pair;
+    } const titles[] = {
+        {"chk_SetFileTitle", "opt_SetFileTitle_1", "opt_SetFileTitle_2", Window.Prog().Options.opt_SetFileTitle},
+        {"chk_SetVideoTitle", "opt_SetVideoTitle_1", "opt_SetVideoTitle_2", Window.Prog().Options.opt_SetVideoTitle},
+    };
+
+    for (const auto& title : titles) {
+        Click_On(Window.Get(title.Second));
+        EXPECT_EQ(title.Pair.Selected, 1) << "disabled until its box is ticked";
+        Click_On(Window.Get(title.Box));
+        Click_On(Window.Get(title.Second));
+        EXPECT_EQ(title.Pair.Selected, 2);
+        EXPECT_TRUE(Window.Get<QRadioButton>(title.Second).isChecked());
+        Click_On(Window.Get(title.First));
+        EXPECT_EQ(title.Pair.Selected, 1);
+    }
 
     Click_On(Window.Get("chk_ReplaceChapters"));
     Click_On(Window.Get("chk_ConvertTXT"));
@@ -116,6 +131,7 @@ TEST_F(Option_Clicks, EachMenuTickFlipsItsRecordAndShowsIt)
         const QByteArray name = tick.Name.toLatin1();
         const bool before = tick.Ticked(Window.Prog());
         EXPECT_EQ(Window.Action(name).isChecked(), before) << name.constData();
+        EXPECT_EQ(Window.Action(name).text().remove(u'&'), tick.Caption);
         Window.Choose(name);
         EXPECT_EQ(tick.Ticked(Window.Prog()), !before) << name.constData();
         EXPECT_EQ(Window.Action(name).isChecked(), !before) << name.constData();
@@ -187,4 +203,30 @@ TEST_F(Option_Clicks, EnterEscapeAndLeavingEndAnEditOfTheSplitBox)
     Press(edit, Qt::Key_Return);
     EXPECT_EQ(edit.text(), u"10");
     EXPECT_EQ(Window.Prog().Options.Split_Minutes, u"10");
+}
+
+TEST_F(Option_Clicks, EscapeEnterAndLeavingEndAnEditOfTheDelayBox)
+{
+    Click_On(Window.Get("chk_AudioDelayAdjust"));
+    auto& edit = Window.Get<QLineEdit>("txt_AudioDelayValue");
+    const auto type = [&](const char* keys) {
+        edit.setFocus();
+        edit.selectAll();
+        Press(edit, Qt::Key_Delete);
+        for (const char* key = keys; *key != 0; ++key)
+            QTest::keyClick(Window.Form().windowHandle(), *key);
+    };
+    type("-120");
+    Press(edit, Qt::Key_Return);
+    EXPECT_EQ(Window.Prog().Options.Audio_Delay, u"-120");
+    EXPECT_FALSE(edit.hasFocus());
+    type("5");
+    Press(edit, Qt::Key_Escape);
+    EXPECT_EQ(edit.text(), u"-120");
+    type("250");
+    Window.Get("chk_StripOrigAudio").setFocus();
+    EXPECT_EQ(Window.Prog().Options.Audio_Delay, u"250");
+    type("");
+    Window.Get("chk_StripOrigAudio").setFocus();
+    EXPECT_EQ(Window.Prog().Options.chk_AudioDelayAdjust.Value, 0) << "no delay is none to apply";
 }

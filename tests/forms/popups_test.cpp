@@ -49,13 +49,33 @@ TEST_F(Popup_Menus, ARightClickOnEachControlAndItsPanelOpensItsPopup)
         }
 }
 
-TEST_F(Popup_Menus, TheMenuKeyOpensThePopupOfThePanel)
+/// What of a panel takes the focus; null: none of it does now.
+static QWidget* Focusable_In(QWidget& panel)
 {
-    auto& browse = Window.Get("btn_BrowseVideos");
-    browse.setFocus();
-    QContextMenuEvent key(QContextMenuEvent::Keyboard, browse.rect().center(), browse.mapToGlobal(QPoint()));
-    QCoreApplication::sendEvent(&browse, &key);
-    Expect_Open(*Find_Popup(u"pic_VideosPath"_s), u"btn_BrowseVideos"_s);
+    for (QWidget* child : panel.findChildren<QWidget*>())
+        if (child->isVisible() && child->isEnabled() && child->focusPolicy() & Qt::TabFocus)
+            return child;
+    return nullptr;
+}
+
+TEST_F(Popup_Menus, TheMenuKeyOpensThePopupOfThePanelThatHasTheFocus)
+{
+    // Those that wait for another option or a setting are in reach by the menu bar meanwhile.
+    Click_On(Window.Get("chk_AddAudio"));
+    Click_On(Window.Get("chk_AddSubs"));
+    int opened = 0;
+    for (const Popup& popup : Popups()) {
+        auto* panel = Window.Form().findChild<QWidget*>(popup.Controls.filter(u"pic_"_s).constFirst());
+        auto* target = panel ? Focusable_In(*panel) : nullptr;
+        if (!target)
+            continue;
+        target->setFocus();
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, target->rect().center(), target->mapToGlobal(QPoint()));
+        QCoreApplication::sendEvent(target, &key);
+        Expect_Open(popup, target->objectName());
+        ++opened;
+    }
+    EXPECT_EQ(opened, 9) << "five folders, two titles, two kinds of option files";
 }
 
 TEST_F(Popup_Menus, EachItemOpensItsFormAfterThePopupHasClosed)

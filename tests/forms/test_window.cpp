@@ -65,13 +65,9 @@ bool Test_Window::Start()
     QApplication::exec();
     Desk = std::make_unique<Desktop>();
     Prog().Settings.App_Folder = Files.Path(u"app/"_s);
-    Form().Propose_Place();
     lock_ = std::make_unique<Instance_Lock>();
-    bool started = false;
-    Desk->Guard.Call([&] { started = Start_Up(Prog(), lock_.get()); });
-    if (!started || Desk->Guard.Ended())
+    if (!Desk->Start(lock_.get()))
         return false;
-    Form().Show_First();
     QCoreApplication::processEvents();
     return true;
 }

@@ -1,0 +1,302 @@
+#include "common/media.h"
+#include "common/stand_in_tool.h"
+#include "forms/form_test.h"
+#include "settings/folders.h"
+#include "settings/help_and_about.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QMimeData>
+
+using namespace Qt::StringLiterals;
+
+/// Each command of the menu bar, each button that opens something, and the words on them.
+struct Commands : Form_Test
+{
+    void SetUp() override
+    {
+        ASSERT_TRUE(Window.Start());
+        Window.Set_Folders();
+        Window.Person.Forms.clear();
+    }
+
+    /// Does what `ask` does, answers the file or folder dialog that it opens by typing `answer`, and returns the
+    /// dialog's title. The dialog may stand over another form.
+    QString Answer_Picker(const QString& answer, const std::function<void()>& ask)
+    {
+        QString title;
+        const auto type = [&](QWidget& form) {
+            if (!title.isEmpty())
+                return;
+            title = form.windowTitle();
+            In<QLineEdit>(form, "fileNameEdit").setText(answer);
+            QMetaObject::invokeMethod(&form, "accept");
+        };
+        Window.Person.On_Form[u"QFileDialog"_s] = type;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                dialog && dialog->isVisible())
+                type(*dialog);
+        });
+        look.start(10);
+        ask();
+        Window.Person.On_Form.erase(u"QFileDialog"_s);
+        return title;
+    }
+};
+
+TEST_F(Commands, TheCaptionsAreTheSystemsWords)
+{
+    const std::pair<const char*, const char*> actions[] = {
+        {"mnu_Quit", "E&xit this program       Alt + F4"},
+        {"mnu_ViewLog", " View the Vantorra log"},
+        {"mnu_AppendLogs", " Append Vantorra Log(s)"},
+        {"mnu_ClearLog", "Clear the Vantorra log"},
+        {"mnu_KeepEnglishTitledAudio", "&Keep English Titled Audio"},
+        {"mnu_KeepEnglishTitledSubs", "Keep English Titled Su&btitles"},
+        {"mnu_DeleteAncillaryFiles", "Delete Source Video Ancillary Fi&les"},
+        {"mnu_KeepTopmost", "Keep this program top&most"},
+        {"mnu_Verbosity0", "0 - Log Process Overview Only"},
+        {"mnu_Verbosity3", "3 - Include Active Checkboxes"},
+        {"mnu_Verbosity7", "7 - Include MKVMerge Command Line"},
+    };
+    for (const auto& [name, caption] : actions)
+        EXPECT_EQ(Window.Action(name).text(), QLatin1StringView(caption));
+    EXPECT_TRUE(Window.Action("mnu_OSVersion").text().startsWith(u"OS Version - "));
+
+    const std::pair<const char*, const char*> boxes[] = {
+        {"chk_StripOrigAudio", "Strip Existing Audio"},
+        {"chk_StripOrigAudioTitle", "Strip Existing Audio Title"},
+        {"chk_CustomAudioFilter", "Apply custom Audio Filter (cut)"},
+        {"chk_EngAudioOnly", "Filter out NON-English Audio"},
+        {"chk_AudioDelayAdjust", "Audio Delay Adjust"},
+        {"chk_AddAudio", "Add Audio Files"},
+        {"chk_UseAudioOpts", "Use Audio \".opt\" files"},
+        {"chk_ApplyDefaultAudioOpts", "Apply Default Audio Options"},
+        {"chk_AudioPath", "Alternate Audio File Path"},
+        {"chk_StripOrigSubs", "Strip Existing Subtitles"},
+        {"chk_StripOrigSubsTitle", "Strip Existing Subtitles Title"},
+        {"chk_CustomSubsFilter", "Apply custom Subtitle Filter (cut)"},
+        {"chk_EngSubsOnly", "Filter out NON-English Subtitles"},
+        {"chk_SubDefaults", "Set All Subtitles defaults to \"no\""},
+        {"chk_SubForces", "Set All Subtitles forces to \"no\""},
+        {"chk_AddSubs", "Add Subtitles"},
+        {"chk_UseSubOpts", "Use Subtitle \".opt\" files"},
+        {"chk_ApplyDefaultSubOpts", "Apply Default Sub Options"},
+        {"chk_SubsPath", "Alternate Subtitle File Path"},
+        {"chk_StripChaps", "Strip Existing Chapters"},
+        {"chk_ReplaceChapters", "Replace With New Chapter File"},
+        {"chk_ConvertTXT", "Convert TXT to XML Chapters"},
+        {"chk_ChaptersPath", "Alternate Chapters File Path"},
+        {"chk_VideoFrameRate", "Set Video Frame Rate"},
+        {"chk_VideoFormatOptions", "Use Video Format Options"},
+        {"chk_SetFileTitle", "Set File Title   "},
+        {"chk_RemoveFileTitle", "Remove File Title"},
+        {"chk_CustomFileTitle", "Set Custom File Title (empty)"},
+        {"chk_SetVideoTitle", "Set Video Title   "},
+        {"chk_RemoveVideoTitle", "Remove Video Title"},
+        {"chk_CustomVideoTitle", "Set Custom Video Title (empty)"},
+        {"opt_SetFileTitle_1", "If Empty  "},
+        {"opt_SetVideoTitle_2", "Always  "},
+        {"chk_RemoveAllTags", "Remove All Original Tags"},
+        {"chk_RemoveAllAttachments", "Remove All Original Attachments"},
+        {"chk_AddAttachments", "Add Attachments (path not set)"},
+        {"chk_SplitVideos", "Split multiple video files (minutes)"},
+        {"chk_RemoveUnicode", "Remove Unicode from Video File Names"},
+        {"chk_DeleteVideoAP", "Delete Source Video After Processing"},
+        {"btn_RunVantorra", "&Run Vantorra"},
+        {"btn_Halt", "HALT"},
+        {"btn_ViewVidInfo", "View Video File &Info"},
+    };
+    for (const auto& [name, caption] : boxes)
+        EXPECT_EQ(Window.Get<QAbstractButton>(name).text(), QLatin1StringView(caption));
+}
+
+TEST_F(Commands, EachItemOfTheMenuBarThatOpensAFormOpensIt)
+{
+    const std::pair<const char*, const char*> items[] = {
+        {"mnu_ViewVidInfo", "frm_ViewVFI"},
+        {"mnu_ViewLog", "frm_ProcessLog"},
+        {"mnu_ExecutablePaths", "frm_Locations"},
+        {"mnu_CustomAudioFilter", "frm_CustomFilter"},
+        {"mnu_CustomSubtitleFilter", "frm_CustomFilter"},
+        {"mnu_AudioOptionsFile", "frm_OptionsFiles"},
+        {"mnu_SubtitleOptionsFile", "frm_OptionsFiles"},
+        {"mnu_VideoFrameRate", "frm_VideoFrameRate"},
+        {"mnu_VideoFormatOptions", "frm_VideoFormatOptions"},
+        {"mnu_CustomFileTitle", "frm_CustomTitle"},
+        {"mnu_CustomVideoTitle", "frm_CustomTitle"},
+        {"mnu_Attachments", "frm_Attachments"},
+        {"mnu_RecentSources", "frm_SourceMRU"},
+        {"mnu_RecentTargets", "frm_TargetMRU"},
+    };
+    for (const auto& [item, form] : items) {
+        Window.Person.Forms.clear();
+        Window.Choose(item);
+        EXPECT_EQ(Window.Person.Forms, QStringList{QLatin1StringView(form)}) << item;
+    }
+}
+
+struct Folder_Command
+{
+    const char* Browse;
+    const char* Menu_Item;
+    const char* Popup_Item;
+    const char* Panel;
+    const char* Label;
+    const char* Tick; ///< brings the panel into view; null: it always is
+    const char* Error;
+    QString Title;
+};
+
+static const Folder_Command Folder_Commands[] = {
+    {"btn_BrowseVideos", "mnu_BrowseVideos", "mnu_PopupVideoBrowse1", "pic_VideosPath", "ulbl_VideosPath", nullptr,
+     "Error #401 - Video Path processing error!",
+     u"Select the folder of Video Files. It CANNOT be the same as the Target path."_s},
+    {"btn_BrowseAudio", "mnu_BrowseAudio", "mnu_PopupAudioBrowse1", "pic_AudioPath", "ulbl_AudioPath", "chk_AudioPath",
+     "Error #402 - Audio Path processing error!", u"Select the folder of Audio Files."_s},
+    {"btn_BrowseSubs", "mnu_BrowseSubs", "mnu_PopupSubsBrowse1", "pic_SubsPath", "ulbl_SubsPath", "chk_SubsPath",
+     "Error #403 - Subtitles Path processing error!", u"Select the folder of Subtitle Files."_s},
+    {"btn_BrowseChapters", "mnu_BrowseChapters", "mnu_PopupChapsBrowse1", "pic_ChaptersPath", "ulbl_ChaptersPath",
+     "chk_ChaptersPath", "Error #404 - Chapters Path processing error!", u"Select the folder of Chapter Files."_s},
+    {"btn_BrowseTarget", "mnu_BrowseTarget", "mnu_PopupTargetBrowse1", "pic_TargetPath", "ulbl_TargetPath", nullptr,
+     "Error #405 - Target Path processing error!",
+     u"Select a Target Folder to hold your processed files. It CANNOT be the same as the Video Files path."_s},
+};
+
+TEST_F(Commands, EachFolderIsSetByItsButtonItsMenuItemItsPopupAndADrop)
+{
+    for (const Folder_Command& row : Folder_Commands) {
+        if (row.Tick)
+            Click_On(Window.Get(row.Tick));
+        const std::function<void()> ways[] = {
+            [&] { Click_On(Window.Get(row.Browse)); },
+            [&] { Window.Choose(row.Menu_Item); },
+            [&] { Window.Choose(row.Popup_Item); },
+        };
+        int way = 0;
+        for (const auto& ask : ways) {
+            const QString folder = Window.Files.Path(u"%1 %2/"_s.arg(QLatin1StringView(row.Label)).arg(way++));
+            QDir().mkpath(folder);
+            EXPECT_EQ(Answer_Picker(folder, ask), row.Title);
+            EXPECT_EQ(Window.Get<QLabel>(row.Label).text(), folder) << row.Label << " way " << way;
+        }
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(Window.Files.Write(u"drop/%1/a.mkv"_s.arg(QLatin1StringView(row.Label))))});
+        Drop_On(Window.Get(row.Panel), data);
+        EXPECT_EQ(Window.Get<QLabel>(row.Label).text(),
+                  Window.Files.Path(u"drop/%1/"_s.arg(QLatin1StringView(row.Label))));
+
+        Window.Person.Boxes.clear();
+        QMimeData nowhere;
+        nowhere.setUrls({QUrl::fromLocalFile(Window.Files.Path(u"nowhere"_s))});
+        Drop_On(Window.Get(row.Panel), nowhere);
+        ASSERT_EQ(Window.Person.Boxes.size(), 1U) << row.Panel;
+        EXPECT_EQ(Window.Person.Boxes[0].Title, QLatin1StringView(row.Error));
+    }
+}
+
+TEST_F(Commands, ACancelledPickerLeavesTheFolder)
+{
+    for (const Folder_Command& row : Folder_Commands) {
+        const QString before = Window.Get<QLabel>(row.Label).text();
+        Window.Person.On_Form[u"QFileDialog"_s] = [](QWidget& form) { Press(form, Qt::Key_Escape); };
+        Window.Choose(row.Menu_Item);
+        EXPECT_EQ(Window.Get<QLabel>(row.Label).text(), before) << row.Label;
+    }
+}
+
+TEST_F(Commands, SaveNowWritesAtOnceAndSaveOnExitOnlyFlips)
+{
+    const auto saved = [this] { return Window.Files.Read(u"app/Vantorra.ini"_s); };
+    Click_On(Window.Get("chk_RemoveAllTags"));
+    EXPECT_TRUE(saved().contains("Remove All Original Tags=Off"));
+    Window.Choose("mnu_SaveNow");
+    EXPECT_TRUE(saved().contains("Remove All Original Tags=On"));
+
+    Window.Choose("mnu_SaveOnQuit");
+    EXPECT_FALSE(Window.Action("mnu_SaveOnQuit").isChecked());
+    EXPECT_TRUE(saved().contains("Save Settings on Exit=True"));
+    Click_On(Window.Get("chk_RemoveAllTags"));
+    Window.Quit();
+    EXPECT_TRUE(saved().contains("Save Settings on Exit=False"));
+    EXPECT_TRUE(saved().contains("Remove All Original Tags=On"));
+}
+
+TEST_F(Commands, HelpThatIsNotThereIsSaid)
+{
+    if (QFile::exists(Find_Help_File(Window.Prog().Settings.App_Folder, {QCoreApplication::applicationDirPath()})))
+        GTEST_SKIP() << "the help file lies beside the tests, and would be opened";
+    Window.Choose("mnu_Help");
+    ASSERT_EQ(Window.Person.Boxes.size(), 1U);
+    EXPECT_EQ(Window.Person.Boxes[0].Title, u"Can't find the current Help File!");
+}
+
+TEST_F(Commands, ClearTheLogSetsItAside)
+{
+    Window.Files.Write(u"app/Vantorra_Process.log"_s, "an entry\r\n");
+    Window.Choose("mnu_ClearLog");
+    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"app/Vantorra_Process.log"_s)));
+    EXPECT_EQ(Window.Files.Read(u"app/Vantorra_ProcessA.log"_s), "an entry\r\n");
+}
+
+TEST_F(Commands, AClickOnTheDisabledInfoButtonSaysWhatItLacks)
+{
+    Window.Choose("mnu_IdentifyWithAnyMkvmerge");
+    ASSERT_FALSE(Window.Get("btn_ViewVidInfo").isEnabled());
+    Click_On(Window.Get("btn_ViewVidInfo"));
+    ASSERT_EQ(Window.Person.Boxes.size(), 1U);
+    EXPECT_EQ(Window.Person.Boxes[0].Title, u"The 'local' mkvmerge.exe copy was not found!");
+    EXPECT_TRUE(Window.Person.Forms.isEmpty());
+}
+
+TEST_F(Commands, TheMkvmergeInUseIsReadPickedOrRefused)
+{
+    const QString mkvmerge = Tool_In_Path(u"mkvmerge"_s);
+    const QString other = Window.Files.Write(u"other/tool"_s);
+    Open("mnu_ExecutablePaths", "frm_Locations", [&](QWidget& form) {
+        EXPECT_EQ(In<QLabel>(form, "lbl_ffprobe_Loc").text(), u"ffprobe.exe path (cannot change)");
+        Push(form, "btn_Clear");
+        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_PathFault").text(), u"MKVMerge.exe Path Not set");
+        Push(form, "btn_PathFromRegistry");
+        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_Path").text(), mkvmerge);
+        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_Choose").text(), u"Read from Registry");
+        EXPECT_FALSE(In(form, "btn_PathFromRegistry").isEnabled());
+
+        EXPECT_EQ(Answer_Picker(other, [&] { Push(form, "btn_BrowseMKVMerge"); }),
+                  u"Find and select the mkvmerge.exe file.");
+        EXPECT_EQ(Window.Prog().Tools.System_MKVMerge_Path, mkvmerge);
+        auto& panel = In<QWidget>(form, "pic_MKVMerge_Path");
+        Click_On(In<QLabel>(form, "lbl_MKVMerge_Path"), Qt::RightButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        EXPECT_EQ(menu->actions().constFirst()->objectName(), u"mnu_PopupMKVMergeBrowse1");
+        menu->close();
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(other)});
+        Drop_On(panel, data);
+        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_PathFault").text(),
+                  u"mkvmerge.exe can not be found at the given path!");
+        Answer_Picker(mkvmerge, [&] { Push(form, "btn_BrowseMKVMerge"); });
+    });
+    EXPECT_EQ(Window.Prog().Tools.System_MKVMerge_Path, mkvmerge);
+    ASSERT_EQ(Window.Person.Boxes.size(), 1U);
+    EXPECT_EQ(Window.Person.Boxes[0].Text, u"mkvmerge.exe was not the file selected");
+}
+
+TEST_F(Commands, TheAttachmentFolderIsPickedByItsButtonAndItsPopup)
+{
+    const QString folder = Window.Files.Path(u"fonts/"_s);
+    QDir().mkpath(folder);
+    Open("mnu_Attachments", "frm_Attachments", [&](QWidget& form) {
+        EXPECT_EQ(Answer_Picker(folder, [&] { Push(form, "btn_BrowseAttachments"); }),
+                  u"Select the Attachment folder.");
+        EXPECT_EQ(In<QLabel>(form, "lbl_AttachmentsPath").text(), folder);
+        Click_On(In<QWidget>(form, "lbl_AttachmentsPath"), Qt::RightButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        EXPECT_EQ(menu->actions().constFirst()->text(), u"Browse for Attachment Folder");
+        menu->close();
+    });
+}
