@@ -5,8 +5,8 @@
 /// The desktop's style, with some mends. On a dark palette some styles draw the frame of an empty check box or option
 /// button in a shade that can't be told from the window: it gets a frame that can. The words of a push button get some
 /// room at their sides. A list drops below its box, so that what is chosen stays in view, and its lines stand apart.
-/// What is disabled stands on the ground of all else, which some desktops' palettes forget, and can be read there: a run
-/// disables nearly everything.
+/// What is disabled stands on the ground of all else, which some desktops' palettes forget, and can be read there: a
+/// run disables nearly everything.
 class Readable_Style : public QProxyStyle
 {
     Q_OBJECT

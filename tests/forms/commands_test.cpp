@@ -241,16 +241,6 @@ TEST_F(Commands, ClearTheLogSetsItAside)
     EXPECT_EQ(Window.Files.Read(u"app/Vantorra_ProcessA.log"_s), "an entry\r\n");
 }
 
-TEST_F(Commands, AClickOnTheDisabledInfoButtonSaysWhatItLacks)
-{
-    Window.Choose("mnu_IdentifyWithAnyMkvmerge");
-    ASSERT_FALSE(Window.Get("btn_ViewVidInfo").isEnabled());
-    Click_On(Window.Get("btn_ViewVidInfo"));
-    ASSERT_EQ(Window.Person.Boxes.size(), 1U);
-    EXPECT_EQ(Window.Person.Boxes[0].Title, u"The 'local' mkvmerge.exe copy was not found!");
-    EXPECT_TRUE(Window.Person.Forms.isEmpty());
-}
-
 TEST_F(Commands, TheMkvmergeInUseIsReadPickedOrRefused)
 {
     const QString mkvmerge = Tool_In_Path(u"mkvmerge"_s);
