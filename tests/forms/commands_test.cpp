@@ -4,6 +4,7 @@
 #include "settings/folders.h"
 #include "settings/help_and_about.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileDialog>
 #include <QMimeData>
@@ -29,6 +30,8 @@ struct Commands : Form_Test
             if (!title.isEmpty())
                 return;
             title = form.windowTitle();
+            if (auto* list = form.findChild<QAbstractItemView*>(u"listView"_s))
+                list->clearSelection();
             In<QLineEdit>(form, "fileNameEdit").setText(answer);
             QMetaObject::invokeMethod(&form, "accept");
         };
