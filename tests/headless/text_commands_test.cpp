@@ -26,7 +26,8 @@ TEST(Log_Command, PrintsTheNewestFiveHundredLinesOrAllOfThemWithPlainLineEnds)
     EXPECT_EQ(Log_Of(test, false) + Log_Of(test, true), QString()) << "no log is no error";
 
     // More than the viewer can count, and a CR LF that lies across the pieces in which it is read.
-    QByteArray log = QByteArray((1 << 20) - 1, 'x') + "\r\n" + QByteArray("line\r\n").repeated(40'000) + "a\rb\x1b[2J\r";
+    QByteArray log =
+        QByteArray((1 << 20) - 1, 'x') + "\r\n" + QByteArray("line\r\n").repeated(40'000) + "a\rb\x1b[2J\r";
     test.Write(u"app/Vantorra_Process.log"_s, log);
     EXPECT_EQ(Log_Of(test, false).count(u'\n'), 500);
     EXPECT_EQ(Log_Of(test, true).toUtf8(), log.replace("\r\n", "\n").replace("a\rb\x1b[2J\r", "a b [2J "));
