@@ -103,6 +103,11 @@ struct Level
     QByteArray Good;
 };
 
+void PrintTo(const Level& level, std::ostream* out)
+{
+    *out << "level " << level.Number;
+}
+
 const Level Levels[] = {
     {0, "", "", ""},
     {1, "", Bad_Faults + Bad_Added + Mkvmerge_Head, Good_Faults + Mkvmerge_Head + Good_Took},
