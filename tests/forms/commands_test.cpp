@@ -2,14 +2,28 @@
 #include "common/stand_in_tool.h"
 #include "forms/form_test.h"
 #include "settings/folders.h"
-#include "settings/help_and_about.h"
 
 #include <QAbstractItemView>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QMimeData>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
+
+/// Stands in for the desktop's program for documents.
+class Document_Opener : public QObject
+{
+    Q_OBJECT
+
+  public:
+    QUrl Opened;
+
+  public slots:
+
+    void Open(const QUrl& url) { Opened = url; }
+};
 
 /// Each command of the menu bar, each button that opens something, and the words on them.
 struct Commands : Form_Test
@@ -227,13 +241,15 @@ TEST_F(Commands, SaveNowWritesAtOnceAndSaveOnExitOnlyFlips)
     EXPECT_TRUE(saved().contains("Remove All Original Tags=On"));
 }
 
-TEST_F(Commands, HelpThatIsNotThereIsSaid)
+TEST_F(Commands, HelpOpensTheHelpFile)
 {
-    if (QFile::exists(Find_Help_File(Window.Prog().Settings.App_Folder, {QCoreApplication::applicationDirPath()})))
-        GTEST_SKIP() << "the help file lies beside the tests, and would be opened";
+    const QString help = Window.Files.Write(u"app/Vantorra 2.5.5 Help.html"_s, "help");
+    Document_Opener desktop;
+    QDesktopServices::setUrlHandler(u"file"_s, &desktop, "Open");
     Window.Choose("mnu_Help");
-    ASSERT_EQ(Window.Person.Boxes.size(), 1U);
-    EXPECT_EQ(Window.Person.Boxes[0].Title, u"Can't find the current Help File!");
+    QDesktopServices::unsetUrlHandler(u"file"_s);
+    EXPECT_EQ(desktop.Opened.toLocalFile(), help);
+    EXPECT_TRUE(Window.Person.Boxes.empty());
 }
 
 TEST_F(Commands, ClearTheLogSetsItAside)
@@ -293,3 +309,5 @@ TEST_F(Commands, TheAttachmentFolderIsPickedByItsButtonAndItsPopup)
         menu->close();
     });
 }
+
+#include "commands_test.moc"
