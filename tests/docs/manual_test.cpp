@@ -91,20 +91,21 @@ TEST_F(Manual, EachNumberedReportAndPathErrorIsExplained)
         EXPECT_TRUE(messages.contains(title)) << "Not explained: " << title.toStdString();
 }
 
-TEST_F(Manual, EachLineOfFaultsAndEachPlaceOfAnErrorIsExplained)
+TEST_F(Manual, EachBoxEachLineOfFaultsAndEachPlaceOfAnErrorIsExplained)
 {
     // What the sources say literally, up to the first value that is put in: the words are looked for, not the rest.
     const QRegularExpression line(u"u\" *((?:\\*\\*\\*|--) [A-Z][^\"\\\\{]*)"_s);
     const QRegularExpression place(
         u"u\"((?:Reading|Counting|Working out|Looking up|Writing|Locking|Opening|Renaming|Replacing) "
         "[^\"\\\\(]*)"_s);
+    const QRegularExpression box(u"Show_Message\\(\\s*\\{[^}]*?\\.Title = u\"([^\"]+)"_s);
     const QString messages = Chapter(Page, u"Messages and what to do"_s);
     int found = 0;
     for (const QString& file : Source_Files()) {
         if (file == u"logs/log_sections.cpp"_s) // what was ticked, in the words of the boxes
             continue;
         const QString source = Source_Text(u"src/"_s + file);
-        for (const QRegularExpression& expression : {line, place})
+        for (const QRegularExpression& expression : {line, place, box})
             for (const auto& match : expression.globalMatch(source)) {
                 ++found;
                 QString words = match.captured(1).section(u". "_s, 0, 0).trimmed();
