@@ -3,6 +3,9 @@
 #include "inspect/tool_discovery.h"
 #include "settings/start_up.h"
 
+#include <QApplication>
+#include <QIcon>
+
 bool Desktop::Start(Instance_Lock* lock)
 {
     Form.Propose_Place();
@@ -11,6 +14,8 @@ bool Desktop::Start(Instance_Lock* lock)
     if (!loaded || Guard.Ended())
         return false;
     Form.Show_First();
+    // Drawn at all its sizes it takes a while; nobody misses it meanwhile.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/vantorra.svg")));
     Guard.Call([&] { Discover_Tools(Prog); });
     Form.Become_Ready();
     return !Guard.Ended();

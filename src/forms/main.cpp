@@ -5,7 +5,6 @@
 #include "settings/instance_lock.h"
 
 #include <QApplication>
-#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +20,6 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     Desktop desktop;
-    QApplication::setWindowIcon(QIcon(u":/images/vantorra.svg"_s));
     desktop.Prog.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process({}));
 
     Instance_Lock lock;

@@ -10,6 +10,7 @@
 using namespace Qt::StringLiterals;
 
 constexpr int Row_Gap = 2;
+constexpr int Scroll_Bar_Gap = 6;
 
 /// What the widest item of a column of a grid wants.
 static int Column_Width(const QGridLayout& grid, int column)
@@ -85,10 +86,15 @@ QSize Options_Layout::Whole_Size() const
                                ui_.fram_Other->sizeHint().height())};
 }
 
+int Options_Layout::Scroll_Bar_Room() const
+{
+    return ui_.scr_Options->verticalScrollBar()->sizeHint().width() + Scroll_Bar_Gap;
+}
+
 Options_Layout::Shape Options_Layout::Shape_For_Room() const
 {
     const QSize room = ui_.scr_Options->contentsRect().size();
-    const int bar = ui_.scr_Options->verticalScrollBar()->sizeHint().width();
+    const int bar = Scroll_Bar_Room();
     const QSize whole = Whole_Size();
     if (room.width() >= whole.width() + (room.height() < whole.height() ? bar : 0))
         return Shape::Wide;
@@ -133,7 +139,10 @@ void Options_Layout::Arrange(Shape shape)
 
 bool Options_Layout::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize) {
         Arrange(Shape_For_Room());
+        const bool scrolls = ui_.scr_Options->verticalScrollBar()->isVisible();
+        ui_.lay_Options->setContentsMargins(0, 0, scrolls ? Scroll_Bar_Gap : 0, 0);
+    }
     return QObject::eventFilter(watched, event);
 }

@@ -21,6 +21,8 @@ class Options_Layout : public QObject
 
     /// The size in which nothing has to scroll, with the groups side by side.
     QSize Whole_Size() const;
+    /// The width that a scroll bar takes, with its distance from the groups.
+    int Scroll_Bar_Room() const;
     /// After a change of font or style.
     void Measure();
 

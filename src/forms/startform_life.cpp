@@ -5,9 +5,11 @@
 #include "forms/slot_guard.h"
 #include "inspect/tool_discovery.h"
 #include "program.h"
+#include "settings/app_folder.h"
 #include "settings/menu_commands.h"
 #include "settings/option_rules.h"
 #include "settings/start_up.h"
+#include "support/paths.h"
 #include "ui_startform.h"
 
 #include <QApplication>
@@ -16,7 +18,6 @@
 #include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QScrollBar>
 #include <QWindow>
 
 static bool Same_Place(const Form_Place& a, const Form_Place& b)
@@ -34,23 +35,25 @@ QSize Startform::sizeHint() const
     const QSize options = options_->Whole_Size();
     const int height = QMainWindow::sizeHint().height() - ui_->scr_Options->sizeHint().height() + options.height();
     // Room for a scroll bar, so that one that comes pushes nothing aside.
-    const int width = options.width() + ui_->scr_Options->verticalScrollBar()->sizeHint().width();
+    const int width = options.width() + options_->Scroll_Bar_Room();
     return {std::max(width, ui_->fram_Run->sizeHint().width()) + edges.left() + edges.right(), height};
 }
 
 void Startform::Propose_Place()
 {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect area = screen ? screen->availableGeometry() : QRect(QPoint(), sizeHint());
+    program_.Form.Screen = {area.left(), area.top(), area.width(), area.height(), 0};
+    if (File_Exists(With_Separator(program_.Settings.App_Folder) + Settings_File_Name))
+        return; // it knows the place
     Render();
     // A size asked for before the first show must already know the style.
     for (QWidget* widget : findChildren<QWidget*>())
         widget->ensurePolished();
     Measure();
-    const QSize size = sizeHint();
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect area = screen ? screen->availableGeometry() : QRect(QPoint(), size);
-    program_.Form.Screen = {area.left(), area.top(), area.width(), area.height(), 0};
-    program_.Form.Place.Width = std::min(size.width(), area.width());
-    program_.Form.Place.Height = std::min(size.height(), area.height());
+    const QSize size = sizeHint().boundedTo(area.size());
+    program_.Form.Place.Width = size.width();
+    program_.Form.Place.Height = size.height();
 }
 
 void Startform::Show_First()
@@ -86,7 +89,8 @@ void Startform::Make_Room()
     const QSize most = screen() ? screen()->availableGeometry().size() : sizeHint();
     resize(sizeHint().boundedTo(most));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    const QSize lack = options_->Whole_Size() - ui_->scr_Options->contentsRect().size();
+    // A screen too narrow for all groups in a row may have the height for two.
+    const QSize lack = ui_->fram_Options->sizeHint() - ui_->scr_Options->contentsRect().size();
     resize((size() + lack.expandedTo(QSize(0, 0))).boundedTo(most));
 }
 
