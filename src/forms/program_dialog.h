@@ -18,7 +18,7 @@ class Program_Dialog : public QDialog, public Form_View
     Program_Dialog(Program& program, Slot_Guard& guard, QWidget* owner);
 
     /// What the view does at each opening, before it is seen. The rules have filled the record by then.
-    virtual void Open() { Centre_On_Owner(); }
+    virtual void Open() { Centre_On_Owner(); } // NOLINT(bugprone-virtual-near-miss): QDialog::open shows it
 
   protected:
     /// A click on the button calls the rule.

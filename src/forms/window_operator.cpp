@@ -195,7 +195,10 @@ void Window_Operator::Wait_With_Events(int milliseconds)
     Stop_If_Ended();
     Render();
     QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer clock;
+    clock.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&clock, &QTimer::timeout, &loop, &QEventLoop::quit);
+    clock.start(milliseconds);
     loop.exec();
     Stop_If_Ended();
 }

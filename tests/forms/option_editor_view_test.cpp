@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QStyleHints>
 #include <QTableView>
 #include <QWheelEvent>
 #include <unistd.h>
@@ -69,6 +70,8 @@ struct Editor_Form : Form_Test
     {
         auto& list = In<QComboBox>(*Form, box);
         list.setFocus();
+        // Letters that follow each other at once are looked for as one word.
+        QTest::qWait(QGuiApplication::styleHints()->keyboardInputInterval() + 50);
         QTest::keyClick(&list, letter);
         QCoreApplication::processEvents();
     }
@@ -357,11 +360,58 @@ TEST_F(Editor_Form, ASessionOnAThousandFiles)
 
         // A click on the label, or its key, lists the folder anew.
         Window.Files.Write(u"videos/new.mp3"_s);
-        Push(*Form, "lbl_PickFile");
+        In(*Form, "lbl_PickFile").setFocus();
+        Press(*Form, Qt::Key_Return);
         EXPECT_EQ(Files().model()->rowCount(), 1001);
         QFile::remove(Window.Files.Path(u"videos/new.mp3"_s));
         Press(*Form, Qt::Key_F5);
         EXPECT_EQ(Files().model()->rowCount(), 1000);
+    });
+}
+
+TEST_F(Editor_Form, NamesThatDifferInCaseAreFilesOfTheirOwn)
+{
+    Start();
+    for (const char* name : {"a.mp3", "A.mp3", "a.MP3"})
+        Window.Files.Write(u"videos/"_s + QString::fromLatin1(name));
+    Window.Files.Write(u"videos/a.mp3.opt"_s, "Delay=1\r\n");
+    Window.Files.Write(u"videos/a.mp3.OPT"_s, "Delay=2\r\n");
+    Edit([&] {
+        EXPECT_EQ(Listed(), (QStringList{u"A.mp3|"_s, u"a.MP3|"_s, u"a.mp3|a.mp3.opt"_s, u"|a.mp3.OPT"_s}));
+        Click_Row(3);
+        EXPECT_EQ(Boxes(), u"(not set)/(not set)/(not set)/(not set)/[2]");
+        Type("txt_Delay", u"3"_s);
+        Push(*Form, "btn_Apply");
+        Click_Row(0);
+        Type("txt_Delay", u"4"_s);
+        Push(*Form, "btn_Apply");
+        EXPECT_EQ(Window.Files.Read(u"videos/a.mp3.OPT"_s), "Delay=3\r\n");
+        EXPECT_EQ(Window.Files.Read(u"videos/A.mp3.opt"_s), "Delay=4\r\n");
+        EXPECT_EQ(Window.Files.Read(u"videos/a.mp3.opt"_s), "Delay=1\r\n");
+    });
+}
+
+TEST_F(Editor_Form, TwentyThousandRowsAreListedSortedAndSelected)
+{
+    Start();
+    constexpr int rows = 20'000;
+    for (int i = 0; i < rows; ++i)
+        Window.Files.Write(u"videos/%1.mp3"_s.arg(i, 5, 10, QChar(u'0')) + (i % 1000 == 0 ? u".opt"_s : QString()));
+    Edit([&] {
+        ASSERT_EQ(Files().model()->rowCount(), rows);
+        EXPECT_EQ(Listed()[0], u"00001.mp3|");
+        EXPECT_EQ(Listed()[rows - 1], u"|19000.mp3.opt");
+        // The second head sorts rows without an option file behind the others, in the order of their files.
+        QHeaderView& heads = *Files().horizontalHeader();
+        Click_On(*heads.viewport(), QPoint(heads.sectionViewportPosition(1) + 20, 8), Qt::LeftButton, {});
+        EXPECT_EQ(Listed()[0], u"|00000.mp3.opt");
+        EXPECT_EQ(Listed()[20], u"00001.mp3|");
+        Files().setFocus();
+        Press(*Form, Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(Window.Prog().Option_Files.Selected_Count, rows);
+        EXPECT_EQ(Boxes().count(u"(left as it is)"_s), 5);
+        Push(*Form, "btn_Apply"); // nothing is set
+        EXPECT_FALSE(QFile::exists(Window.Files.Path(u"videos/00001.mp3.opt"_s)));
     });
 }
 
@@ -461,40 +511,53 @@ TEST_F(Editor_Form, AWholeSeasonIsCaptionedAtOnce)
     Start();
     const QString sound = Media_File(u"season.mka"_s, {u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=duration=0.5"_s});
     constexpr int episodes = 12;
+    const auto episode = [](const QString& folder, int number) {
+        return folder + u"/Harbour - S01E%1"_s.arg(number, 2, 10, QChar(u'0'));
+    };
     for (int i = 1; i <= episodes; ++i) {
-        const QString name = u"videos/Harbour - S01E%1"_s.arg(i, 2, 10, QChar(u'0'));
+        const QString name = episode(u"videos"_s, i);
         Place(Window.Files, Short_Video(), name + u".mkv"_s);
         Place(Window.Files, sound, name + u"_c.mka"_s);
         Window.Files.Write(name + u"_c.mka.opt"_s, "Title=Commentary " + QByteArray::number(i) + "\r\n");
+        Window.Files.Write(name + u".srt"_s, "1\r\n00:00:00,000 --> 00:00:01,000\r\nHallo\r\n");
+        Window.Files.Write(name + u".srt.opt"_s, "Title=Untertitel " + QByteArray::number(i) + "\r\n");
     }
-    Edit([&] {
-        ASSERT_EQ(Files().model()->rowCount(), episodes);
-        Click_Row(0);
-        Files().scrollToBottom();
-        Click_Row(episodes - 1, Qt::ShiftModifier);
-        Type("cmbo_Language", u"German (ger)"_s);
-        Choose_Line("cmbo_Default", Qt::Key_Y);
-        Push(*Form, "btn_Apply");
-        Push(*Form, "btn_Close");
-    });
-    EXPECT_EQ(Window.Files.Read(u"videos/Harbour - S01E07_c.mka.opt"_s),
+    for (const char* kind : {"mnu_AudioOptionsFile", "mnu_SubtitleOptionsFile"})
+        Edit(
+            [&] {
+                ASSERT_EQ(Files().model()->rowCount(), episodes);
+                Click_Row(0);
+                Files().scrollToBottom();
+                Click_Row(episodes - 1, Qt::ShiftModifier);
+                Type("cmbo_Language", u"German (ger)"_s);
+                Choose_Line("cmbo_Default", Qt::Key_Y);
+                Push(*Form, "btn_Apply");
+                Push(*Form, "btn_Close");
+            },
+            kind);
+    EXPECT_EQ(Window.Files.Read(episode(u"videos"_s, 7) + u"_c.mka.opt"_s),
               "Title=Commentary 7\r\nLanguage=German (ger)\r\nDefault=yes\r\n");
-    Click_On(Window.Get("chk_AddAudio"));
-    if (!Window.Get<QCheckBox>("chk_UseAudioOpts").isChecked())
-        Click_On(Window.Get("chk_UseAudioOpts"));
+    EXPECT_EQ(Window.Files.Read(episode(u"videos"_s, 12) + u".srt.opt"_s),
+              "Title=Untertitel 12\r\nLanguage=German (ger)\r\nDefault=yes\r\n");
+    for (const auto& [add, use] :
+         {std::pair("chk_AddAudio", "chk_UseAudioOpts"), std::pair("chk_AddSubs", "chk_UseSubOpts")}) {
+        Click_On(Window.Get(add));
+        if (!Window.Get<QCheckBox>(use).isChecked())
+            Click_On(Window.Get(use));
+    }
     Click_On(Window.Get("btn_RunVantorra"));
     EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"FINISHED");
     for (int i = 1; i <= episodes; ++i) {
-        const QString output = Window.Files.Path(u"target/Harbour - S01E%1.mkv"_s.arg(i, 2, 10, QChar(u'0')));
+        const QString output = Window.Files.Path(episode(u"target"_s, i) + u".mkv"_s);
+        QStringList added;
         const QJsonArray tracks = Identify(output)[u"tracks"_s].toArray();
-        QStringList commentary;
-        for (const QJsonValue& track : tracks) {
+        for (const auto& track : tracks) {
             const QJsonObject known = track[u"properties"_s].toObject();
             if (known[u"language"_s] == u"ger"_s)
-                commentary +=
-                    known[u"track_name"_s].toString() + u' ' + QString::number(known[u"default_track"_s].toBool());
+                added += known[u"track_name"_s].toString() + u' ' + QString::number(known[u"default_track"_s].toBool());
         }
-        // A default claimed by an option file is written as "no" for all added audio.
-        EXPECT_EQ(commentary, QStringList{u"Commentary %1 0"_s.arg(i)}) << output.toStdString();
+        // A default claimed by an option file is written as "no" for all added audio; subtitles take it as it stands.
+        EXPECT_EQ(added, QStringList({u"Commentary %1 0"_s.arg(i), u"Untertitel %1 1"_s.arg(i)}))
+            << output.toStdString();
     }
 }

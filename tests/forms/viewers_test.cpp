@@ -182,6 +182,88 @@ TEST_F(Log_Form, ItIsCentredOnTheFirstRunEverAndThenWhereItWasLeft)
     Look([&](QWidget& form) { EXPECT_TRUE(form.screen()->availableGeometry().contains(form.geometry())); });
 }
 
+TEST_F(Log_Form, LoadingIsToldWhileTheFullLogLoads)
+{
+    struct Seen : QObject
+    {
+        QStringList Painted;
+
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint)
+                Painted += static_cast<QLabel*>(watched)->text();
+            return false;
+        }
+    };
+
+    Start();
+    Write_Log(600);
+    Look([&](QWidget& form) {
+        Seen seen;
+        In<QLabel>(form, "lbl_LoadLog").installEventFilter(&seen);
+        QTest::qWait(20); // repainting is held to sixty times a second
+        Push(form, "btn_LoadFullLog");
+        EXPECT_TRUE(seen.Painted.contains(u"Loading Full Log"_s));
+        EXPECT_FALSE(In<QLabel>(form, "lbl_LoadLog").isVisible());
+    });
+}
+
+TEST_F(Info_Form, BothViewersCloseByTheSameKeysArePlacedByF12AndGiveTheTopBack)
+{
+    struct Case
+    {
+        const char* Name;
+        const char* Form;
+        std::vector<const char*> Where; ///< has the focus when the key comes
+    };
+
+    const Case cases[] = {
+        {"mnu_ViewLog", "frm_ProcessLog", {"btn_Done", "lst_ProcessLog", "btn_LoadFullLog", "img_FontInc"}},
+        {"mnu_ViewVidInfo", "frm_ViewVFI", {"btn_Done", "lst_VideoFiles", "txt_VideoInfo", "btn_SaveToFile"}},
+    };
+    Start();
+    Window.Form().setGeometry(200, 150, 1300, 800);
+    Window.Files.Write(u"app/Vantorra_Process.log"_s, QByteArray("line\r\n").repeated(600));
+    Place(Window.Files, Short_Video(), u"videos/film.mkv"_s);
+    Window.Choose("mnu_KeepTopmost");
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.Form);
+        for (const char* where : one.Where)
+            for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
+                Open(one.Name, one.Form, [&](QWidget& form) {
+                    EXPECT_FALSE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
+                    if (form.objectName() == u"frm_ViewVFI")
+                        Pick(form, 0); // its buttons are enabled
+                    In<QWidget>(form, where).setFocus();
+                    Press(form, key);
+                    EXPECT_FALSE(form.isVisible()) << where << key;
+                });
+        EXPECT_TRUE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
+        Open(one.Name, one.Form, [&](QWidget& form) {
+            const QPoint centre = Window.Form().geometry().center();
+            form.setGeometry(40, 50, 660, 430);
+            QCoreApplication::processEvents();
+            Press(form, Qt::Key_F12);
+            EXPECT_LE((form.geometry().center() - centre).manhattanLength(), 2);
+            EXPECT_EQ(form.size(), QSize(660, 430));
+            Press(form, Qt::Key_F12, Qt::ShiftModifier);
+            EXPECT_EQ(form.geometry(), Window.Form().geometry());
+            form.setGeometry(40, 50, 660, 430);
+            QCoreApplication::processEvents();
+            for (int i = 0; i < 30; ++i)
+                Push(form, "img_FontInc");
+            EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 35");
+            for (int i = 0; i < 40; ++i)
+                Push(form, "img_FontDec");
+            EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 4");
+            Push(form, "img_FontReset");
+            EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 10");
+            form.close();
+        });
+        Open(one.Name, one.Form, [&](QWidget& form) { EXPECT_EQ(form.geometry(), QRect(40, 50, 660, 430)); });
+    }
+}
+
 TEST_F(Log_Form, ALogOfTooManyLinesIsTheErrorThatNamesIt)
 {
     Start();
@@ -290,12 +372,15 @@ TEST_F(Info_Form, NothingElseHappensWhileTheToolIsAsked)
                        "\"supported\":true}}'\n");
     Look([&](QWidget& form) {
         bool stayed = false;
-        QTimer::singleShot(100, &form, [&] {
+        QTimer later;
+        later.setSingleShot(true);
+        QObject::connect(&later, &QTimer::timeout, &form, [&] {
             Press(form, Qt::Key_Escape);
             Push(form, "btn_Done");
             form.close();
             stayed = form.isVisible();
         });
+        later.start(100);
         Pick(form, 0);
         EXPECT_TRUE(stayed);
         EXPECT_TRUE(Text(form).contains(u"Matroska"_s)) << Text(form).toStdString();
