@@ -241,14 +241,14 @@ TEST_F(Info_Form, BothViewersCloseByTheSameKeysArePlacedByF12AndGiveTheTopBack)
         EXPECT_TRUE(Window.Form().windowFlags() & Qt::WindowStaysOnTopHint);
         Open(one.Name, one.Form, [&](QWidget& form) {
             const QPoint centre = Window.Form().geometry().center();
-            form.setGeometry(40, 50, 660, 430);
+            form.setGeometry(40, 50, 760, 430);
             QCoreApplication::processEvents();
             Press(form, Qt::Key_F12);
             EXPECT_LE((form.geometry().center() - centre).manhattanLength(), 2);
-            EXPECT_EQ(form.size(), QSize(660, 430));
+            EXPECT_EQ(form.size(), QSize(760, 430));
             Press(form, Qt::Key_F12, Qt::ShiftModifier);
             EXPECT_EQ(form.geometry(), Window.Form().geometry());
-            form.setGeometry(40, 50, 660, 430);
+            form.setGeometry(40, 50, 760, 430);
             QCoreApplication::processEvents();
             for (int i = 0; i < 30; ++i)
                 Push(form, "img_FontInc");
@@ -260,7 +260,7 @@ TEST_F(Info_Form, BothViewersCloseByTheSameKeysArePlacedByF12AndGiveTheTopBack)
             EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 10");
             form.close();
         });
-        Open(one.Name, one.Form, [&](QWidget& form) { EXPECT_EQ(form.geometry(), QRect(40, 50, 660, 430)); });
+        Open(one.Name, one.Form, [&](QWidget& form) { EXPECT_EQ(form.geometry(), QRect(40, 50, 760, 430)); });
     }
 }
 
