@@ -1,5 +1,5 @@
 #include "common/media.h"
-#include "forms/test_window.h"
+#include "forms/form_test.h"
 #include "forms/window_operator.h"
 
 #include <QAbstractButton>
@@ -13,31 +13,9 @@
 using namespace Qt::StringLiterals;
 
 /// What a person does in the small forms.
-struct Dialogs : testing::Test
+struct Dialogs : Form_Test
 {
-    Test_Window Window;
-
     void SetUp() override { ASSERT_TRUE(Window.Start()); }
-
-    template <typename Widget = QAbstractButton>
-    static Widget& In(QWidget& form, const char* name)
-    {
-        auto* widget = form.findChild<Widget*>(QLatin1StringView(name));
-        if (!widget)
-            qFatal("There is no %s", name);
-        return *widget;
-    }
-
-    void Open(const char* action, const char* form, const std::function<void(QWidget&)>& person)
-    {
-        bool met = false;
-        Window.Person.On_Form[QLatin1StringView(form)] = [&](QWidget& widget) {
-            met = true;
-            person(widget);
-        };
-        Window.Choose(action);
-        EXPECT_TRUE(met) << form;
-    }
 };
 
 TEST_F(Dialogs, ATypedTitleReachesTheOptionAndItsCaptionAndClearTakesItBack)

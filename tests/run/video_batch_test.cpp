@@ -27,6 +27,13 @@ const QByteArray Merge = "echo 'mkvmerge v74.0.0'; echo 'The file has been opene
                          "sleep 0.05; printf 'Progress: 100%%\\r'; sleep 0.05\n"
                          "echo done > \"$4\"; echo 'Multiplexing took 0 seconds.'\n";
 
+/// Gives the file a second name, by a symbolic link or by a hard one.
+bool Link(const QString& file, const QString& name, bool symbolic)
+{
+    return symbolic ? QFile::link(file, name)
+                    : ::link(QFile::encodeName(file).constData(), QFile::encodeName(name).constData()) == 0;
+}
+
 /// Keeps what a driver would hear.
 struct Recorder : Run_Listener
 {
@@ -278,10 +285,7 @@ TEST_F(VideoBatch, AnOutputThatIsItsOwnSourceOrCompanionIsNotWritten)
     for (const bool symbolic : {true, false}) {
         const QString output = Test.Path(u"target/a.mkv"_s);
         QFile::remove(output);
-        if (symbolic)
-            ASSERT_TRUE(QFile::link(source, output));
-        else
-            ASSERT_EQ(::link(QFile::encodeName(source).constData(), QFile::encodeName(output).constData()), 0);
+        ASSERT_TRUE(Link(source, output, symbolic));
         Prog.Options.Delete_Video_After = true;
         EXPECT_TRUE(Run());
         EXPECT_EQ(Test.Read(u"videos/a.mkv"_s), "precious");
@@ -298,10 +302,7 @@ TEST_F(VideoBatch, AnOutputThatIsAnotherVideoOfTheFolderIsNotWritten)
         const QString other = Test.Write(u"videos/a.mkv_kept"_s, "precious");
         const QString output = Test.Path(u"target/a.mkv"_s);
         QFile::remove(output);
-        if (symbolic)
-            ASSERT_TRUE(QFile::link(other, output));
-        else
-            ASSERT_EQ(::link(QFile::encodeName(other).constData(), QFile::encodeName(output).constData()), 0);
+        ASSERT_TRUE(Link(other, output, symbolic));
         EXPECT_TRUE(Run());
         EXPECT_EQ(Test.Read(u"videos/a.mkv_kept"_s), "precious");
         EXPECT_EQ(Heard.Outcomes.back().Status, File_Outcome::Kind::Failed);
