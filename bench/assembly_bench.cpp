@@ -5,7 +5,7 @@
 #include "compare.h"
 #include "inspect/stream_parser.h"
 #include "nobody.h"
-#include "program.h"
+#include "state/program.h"
 
 #include <array>
 #include <string>

@@ -5,9 +5,9 @@
 #include "compare.h"
 #include "inspect/identification.h"
 #include "inspect/identification_json.h"
-#include "logs/log_viewer.h"
 #include "logs/log_work_file.h"
-#include "logs/video_info_viewer.h"
+#include "workbenches/log_viewer.h"
+#include "workbenches/video_info_viewer.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -5,8 +5,8 @@
 // doesn't know; half of them stand in a section that it does know.
 #include "compare.h"
 #include "nobody.h"
-#include "program.h"
 #include "settings/settings_store.h"
+#include "state/program.h"
 
 #include <QSaveFile>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
-#include "run/tool_runner.h"
+#include "tools/tool_runner.h"
 
-#include "command/command_line.h"
 #include "nobody.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/child_process.h"
+#include "support/command_line.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

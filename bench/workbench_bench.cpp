@@ -6,12 +6,12 @@
 #include "forms/drop_text.h"
 #include "forms/text_lines_view.h"
 #include "inspect/identification.h"
-#include "logs/log_viewer.h"
-#include "logs/video_info_viewer.h"
 #include "nobody.h"
-#include "options/option_editor.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/files.h"
+#include "workbenches/log_viewer.h"
+#include "workbenches/option_editor.h"
+#include "workbenches/video_info_viewer.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "command/chapters.h"
 
 #include "command/chapter_text.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"

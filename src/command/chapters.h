@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/job_options.h"
+#include "state/job_options.h"
 
 #include <QString>
 #include <cstdint>

@@ -10,7 +10,7 @@
 #include "command/track_order.h"
 #include "command/video_block.h"
 #include "inspect/stream_parser.h"
-#include "program.h"
+#include "state/program.h"
 
 using namespace Qt::StringLiterals;
 

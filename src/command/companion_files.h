@@ -1,8 +1,8 @@
 #pragma once
 
-#include "command/companions.h"
 #include "options/option_file.h"
-#include "settings/settings_state.h"
+#include "state/companions.h"
+#include "state/settings_state.h"
 
 #include <QString>
 #include <QStringList>

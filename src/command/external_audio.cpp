@@ -2,7 +2,7 @@
 
 #include "command/companion_files.h"
 #include "inspect/external_probe.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/paths.h"
 #include "support/text.h"
 
@@ -61,7 +61,7 @@ void Find_External_Audio(Program& program, const QString& folder, const QString&
     program.Person.Pump_Events();
 }
 
-static QString Nothing_Found_Line(const JobOptions& options)
+static QString No_Audio_Found_Line(const JobOptions& options)
 {
     QString none = u"-- Adding audio track(s), but none were found."_s;
     if (options.chk_ApplyDefaultAudioOpts.Value == 1)
@@ -87,7 +87,7 @@ void Log_External_Audio(const ExternalTrackList& list, const JobOptions& options
     if (options.chk_AddAudio.Value != 1 || options.Log_Verbosity == 0)
         return;
     if (!list.front().InUse) {
-        faults.AppendLine(Nothing_Found_Line(options));
+        faults.AppendLine(No_Audio_Found_Line(options));
         return;
     }
     if (options.Log_Verbosity == 1)

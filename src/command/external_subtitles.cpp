@@ -3,8 +3,8 @@
 #include "command/companion_files.h"
 #include "command/joined_names.h"
 #include "inspect/external_probe.h"
-#include "program.h"
-#include "run/results_digest.h"
+#include "logs/results_digest.h"
+#include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
@@ -132,7 +132,7 @@ bool Read_Idx_File(const QString& folder, const QString& file_name, bool use_opt
     return true;
 }
 
-static QString Nothing_Found_Line(const JobOptions& options)
+static QString No_Subtitle_Found_Line(const JobOptions& options)
 {
     QString none = u"-- Adding subtitle track(s), but none were found."_s;
     if (options.chk_ApplyDefaultSubOpts.Value == 1)
@@ -166,7 +166,7 @@ void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackLi
         return;
     const bool brief = options.Log_Verbosity == 1;
     if (!list.front().InUse)
-        faults.AppendLine(Nothing_Found_Line(options));
+        faults.AppendLine(No_Subtitle_Found_Line(options));
     else if (!brief)
         Log_Files(list, options, table, faults);
     if (!unpaired.front().InUse)

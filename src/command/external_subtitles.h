@@ -1,9 +1,9 @@
 #pragma once
 
-#include "command/command_line.h"
-#include "command/companions.h"
 #include "options/language_table.h"
-#include "settings/job_options.h"
+#include "state/companions.h"
+#include "state/job_options.h"
+#include "support/command_line.h"
 
 #include <QString>
 #include <cstdint>

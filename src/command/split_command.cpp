@@ -3,7 +3,7 @@
 #include "command/source_names.h"
 #include "command/track_order.h"
 #include "inspect/stream_parser.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/text.h"
 
 using namespace Qt::StringLiterals;

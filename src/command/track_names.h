@@ -1,9 +1,9 @@
 #pragma once
 
-#include "command/command_line.h"
 #include "command/source_names.h"
-#include "inspect/media_state.h"
-#include "settings/job_options.h"
+#include "state/job_options.h"
+#include "state/media_state.h"
+#include "support/command_line.h"
 
 #include <QString>
 

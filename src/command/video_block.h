@@ -1,8 +1,8 @@
 #pragma once
 
-#include "command/command_line.h"
-#include "inspect/media_state.h"
-#include "settings/job_options.h"
+#include "state/job_options.h"
+#include "state/media_state.h"
+#include "support/command_line.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "forms/about_view.h"
 
 #include "forms/bindings.h"
-#include "program.h"
-#include "settings/help_and_about.h"
+#include "life/help_and_about.h"
+#include "state/program.h"
 #include "ui_about_view.h"
 
 #include <QIcon>

@@ -3,7 +3,8 @@
 #include "forms/bindings.h"
 #include "forms/looks.h"
 #include "forms/popup_menus.h"
-#include "program.h"
+#include "rules/attachments_dialog.h"
+#include "state/program.h"
 #include "ui_attachments_view.h"
 
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "settings/job_options.h"
-#include "settings/main_form.h"
+#include "state/job_options.h"
+#include "state/main_form.h"
 
 #include <QList>
 #include <QPair>

@@ -1,7 +1,8 @@
 #include "forms/custom_title_view.h"
 
 #include "forms/bindings.h"
-#include "program.h"
+#include "rules/custom_title.h"
+#include "state/program.h"
 #include "ui_custom_title_view.h"
 
 Custom_Title_View::Custom_Title_View(Program& program, Slot_Guard& guard, QWidget* owner)

@@ -1,7 +1,7 @@
 #include "forms/desktop.h"
 
-#include "inspect/tool_discovery.h"
-#include "settings/start_up.h"
+#include "life/start_up.h"
+#include "tools/tool_discovery.h"
 
 #include <QApplication>
 #include <QIcon>

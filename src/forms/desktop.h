@@ -3,7 +3,7 @@
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
 #include "forms/window_operator.h"
-#include "program.h"
+#include "state/program.h"
 
 class Instance_Lock;
 

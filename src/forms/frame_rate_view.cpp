@@ -1,7 +1,8 @@
 #include "forms/frame_rate_view.h"
 
 #include "forms/bindings.h"
-#include "program.h"
+#include "rules/frame_rate_dialog.h"
+#include "state/program.h"
 #include "ui_frame_rate_view.h"
 
 Frame_Rate_View::Frame_Rate_View(Program& program, Slot_Guard& guard, QWidget* owner)

@@ -2,7 +2,8 @@
 
 #include "forms/bindings.h"
 #include "forms/screen_place.h"
-#include "program.h"
+#include "rules/language_filter.h"
+#include "state/program.h"
 #include "ui_language_filter_view.h"
 
 #include <QKeyEvent>

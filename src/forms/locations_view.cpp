@@ -3,7 +3,7 @@
 #include "forms/bindings.h"
 #include "forms/looks.h"
 #include "forms/screen_place.h"
-#include "program.h"
+#include "state/program.h"
 #include "ui_locations_view.h"
 
 #include <QKeyEvent>

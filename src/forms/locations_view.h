@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/program_dialog.h"
-#include "inspect/locations.h"
+#include "rules/locations.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #include "forms/desktop.h"
 #include "forms/readable_style.h"
 #include "forms/session_end.h"
-#include "settings/app_folder.h"
-#include "settings/instance_lock.h"
+#include "life/app_folder.h"
+#include "life/instance_lock.h"
 
 #include <QApplication>
 

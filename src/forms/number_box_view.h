@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/number_boxes.h"
+#include "rules/number_boxes.h"
 
 #include <QObject>
 

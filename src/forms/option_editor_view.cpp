@@ -3,10 +3,11 @@
 #include "forms/bindings.h"
 #include "forms/input_pause.h"
 #include "forms/looks.h"
-#include "logs/viewer_place.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/form_placement.h"
 #include "ui_option_editor_view.h"
+#include "workbenches/option_editor.h"
+#include "workbenches/viewer_place.h"
 
 #include <QCompleter>
 #include <QKeyEvent>

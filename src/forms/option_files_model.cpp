@@ -1,4 +1,5 @@
 #include "forms/option_files_model.h"
+#include "workbenches/option_editor.h"
 
 #include <QObject>
 

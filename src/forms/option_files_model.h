@@ -1,6 +1,6 @@
 #pragma once
 
-#include "options/option_editor.h"
+#include "workbenches/option_editor.h"
 
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>

@@ -1,8 +1,8 @@
 #include "forms/popup_menus.h"
 
 #include "forms/slot_guard.h"
-#include "program.h"
-#include "settings/popups.h"
+#include "life/popups.h"
+#include "state/program.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>

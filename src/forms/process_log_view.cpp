@@ -3,7 +3,7 @@
 #include "forms/bindings.h"
 #include "forms/input_pause.h"
 #include "forms/viewer_keys.h"
-#include "program.h"
+#include "state/program.h"
 #include "ui_process_log_view.h"
 
 #include <QKeyEvent>

@@ -2,7 +2,7 @@
 
 #include "forms/kept_place.h"
 #include "forms/program_dialog.h"
-#include "logs/log_viewer.h"
+#include "workbenches/log_viewer.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "forms/recent_list_view.h"
 
-#include "settings/recent_folders.h"
+#include "rules/recent_folders.h"
 
 #include <QTimer>
 #include <QVBoxLayout>

@@ -2,7 +2,7 @@
 
 #include "forms/program_dialog.h"
 
-#include "program.h"
+#include "state/program.h"
 
 #include <QComboBox>
 

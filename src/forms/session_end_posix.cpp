@@ -2,9 +2,9 @@
 
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
-#include "program.h"
 #include "run/run_driver.h"
 #include "settings/settings_store.h"
+#include "state/program.h"
 
 #include <QApplication>
 #include <QSessionManager>

@@ -1,9 +1,9 @@
 #include "forms/slot_guard.h"
 
 #include "forms/window_operator.h"
-#include "logs/last_entry.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/run_time_error.h"
+#include "workbenches/last_entry.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/form_view.h"
-#include "settings/main_form.h"
+#include "state/main_form.h"
 
 #include <QMainWindow>
 #include <memory>

@@ -1,7 +1,8 @@
 #include "forms/video_format_view.h"
 
 #include "forms/bindings.h"
-#include "program.h"
+#include "rules/video_format_dialog.h"
+#include "state/program.h"
 #include "ui_video_format_view.h"
 
 #include <QSignalBlocker>

@@ -2,7 +2,7 @@
 
 #include "forms/kept_place.h"
 #include "forms/program_dialog.h"
-#include "logs/video_info_viewer.h"
+#include "workbenches/video_info_viewer.h"
 
 #include <QStringListModel>
 #include <memory>

@@ -4,7 +4,7 @@
 #include "forms/program_dialog.h"
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
-#include "program.h"
+#include "state/program.h"
 
 #include <QApplication>
 #include <QDesktopServices>

@@ -1,6 +1,6 @@
 #include "headless/batch_options.h"
 
-#include "settings/app_folder.h"
+#include "life/app_folder.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -11,12 +11,12 @@
 #include "headless/print.h"
 #include "headless/refusal.h"
 #include "headless/settings_command.h"
-#include "logs/last_entry.h"
-#include "program.h"
+#include "life/app_folder.h"
+#include "life/start_up.h"
 #include "run/run_driver.h"
-#include "settings/app_folder.h"
-#include "settings/start_up.h"
+#include "state/program.h"
 #include "support/run_time_error.h"
+#include "workbenches/last_entry.h"
 
 using namespace Qt::StringLiterals;
 

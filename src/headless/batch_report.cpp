@@ -4,7 +4,7 @@
 #include "headless/json_report.h"
 #include "headless/plain_report.h"
 #include "headless/print.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/paths.h"
 
 using namespace Qt::StringLiterals;

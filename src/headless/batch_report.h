@@ -1,6 +1,6 @@
 #pragma once
 
-#include "run/run_listener.h"
+#include "state/run_listener.h"
 #include "support/operator.h"
 #include "support/run_time_error.h"
 

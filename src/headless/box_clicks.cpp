@@ -1,8 +1,8 @@
 #include "headless/box_clicks.h"
 
 #include "headless/bad_usage.h"
-#include "program.h"
-#include "settings/click_rules.h"
+#include "rules/click_rules.h"
+#include "state/program.h"
 
 using namespace Qt::StringLiterals;
 

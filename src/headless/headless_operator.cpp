@@ -1,8 +1,8 @@
 #include "headless/headless_operator.h"
 
 #include "headless/batch_report.h"
-#include "program.h"
 #include "run/run_driver.h"
+#include "state/program.h"
 
 #include <algorithm>
 #include <chrono>

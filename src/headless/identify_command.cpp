@@ -3,10 +3,10 @@
 #include "headless/exit_status.h"
 #include "headless/print.h"
 #include "inspect/identification.h"
-#include "inspect/tool_discovery.h"
-#include "logs/video_info_viewer.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/text.h"
+#include "tools/tool_discovery.h"
+#include "workbenches/video_info_viewer.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

@@ -1,7 +1,7 @@
 #include "headless/json_report.h"
 
 #include "headless/print.h"
-#include "program.h"
+#include "state/program.h"
 
 #include <cmath>
 #include <nlohmann/json.hpp>

@@ -1,9 +1,9 @@
 #include "headless/log_command.h"
 
 #include "logs/log_rotation.h"
-#include "logs/log_viewer.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
+#include "workbenches/log_viewer.h"
 
 #include <QFile>
 #include <algorithm>

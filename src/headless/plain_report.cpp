@@ -1,7 +1,7 @@
 #include "headless/plain_report.h"
 
 #include "headless/print.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/paths.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #include "headless/refusal.h"
 
 #include "headless/batch_options.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
 

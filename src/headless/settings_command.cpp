@@ -3,8 +3,8 @@
 #include "headless/bad_usage.h"
 #include "headless/batch_report.h"
 #include "headless/print.h"
-#include "program.h"
 #include "settings/settings_store.h"
+#include "state/program.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

@@ -1,9 +1,10 @@
 #include "inspect/external_probe.h"
 
 #include "inspect/stream_parser.h"
-#include "program.h"
-#include "run/failure_reports.h"
-#include "run/tool_runner.h"
+#include "inspect/video_probe.h"
+#include "state/program.h"
+#include "tools/failure_reports.h"
+#include "tools/tool_runner.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,12 +1,12 @@
 #include "inspect/identification.h"
 
-#include "command/command_line.h"
 #include "inspect/identification_json.h"
-#include "inspect/tool_discovery.h"
-#include "program.h"
-#include "run/failure_reports.h"
-#include "run/tool_runner.h"
+#include "state/program.h"
+#include "support/command_line.h"
 #include "support/text.h"
+#include "tools/failure_reports.h"
+#include "tools/tool_discovery.h"
+#include "tools/tool_runner.h"
 
 using namespace Qt::StringLiterals;
 

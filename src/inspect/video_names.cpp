@@ -1,5 +1,7 @@
 #include "inspect/video_names.h"
 
+#include "state/program.h"
+#include "support/files.h"
 #include "support/paths.h"
 
 bool Is_Video_File(const QString& path, QString& out)
@@ -9,4 +11,18 @@ bool Is_Video_File(const QString& path, QString& out)
         return false;
     out = Get_Base_Name(path);
     return true;
+}
+
+bool Find_Video_Files(Program& program, const QString& folder, const QString& patterns, QStringList& list)
+{
+    list = {QString()};
+    for (const QString& name : List_Files(folder)) {
+        if (Match_File_Masks(name.toLower(), patterns)) {
+            if (!list.constLast().isEmpty())
+                list += QString();
+            list.last() = name;
+        }
+        program.Person.Pump_Events();
+    }
+    return !list.constFirst().isEmpty();
 }

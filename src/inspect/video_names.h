@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+struct Program;
 
 /// The accepted-video patterns, with their duplicates as they stand. Serves as a list of wild-card patterns and as a
 /// text that an extension is looked for in.
@@ -13,3 +16,7 @@ inline const QString Video_Extensions = QStringLiteral(
 /// else the extension, or empty if there is none. Deliberate: a mere fragment of the list ("m") counts as a video, and
 /// an extension in capitals doesn't unless the caller has lowered the name.
 bool Is_Video_File(const QString& path, QString& out);
+
+/// Fills `list` with the names of the files of `folder` (ending in a separator) that match `patterns`, in the order of
+/// the file system. One empty entry, and false, if there is none or the folder can't be opened.
+bool Find_Video_Files(Program& program, const QString& folder, const QString& patterns, QStringList& list);

@@ -1,6 +1,6 @@
 #include "logs/log_sections.h"
 
-#include "program.h"
+#include "state/program.h"
 
 #include <algorithm>
 #include <array>

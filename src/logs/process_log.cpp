@@ -3,7 +3,7 @@
 #include "logs/log_rotation.h"
 #include "logs/log_sections.h"
 #include "logs/log_work_file.h"
-#include "program.h"
+#include "state/program.h"
 #include "support/folder_lock.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"

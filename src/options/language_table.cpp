@@ -1,6 +1,5 @@
 #include "options/language_table.h"
 
-#include "program.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
 
@@ -35,13 +34,13 @@ LanguageTable Parse_Language_Table(const QByteArray& text)
     return table;
 }
 
-bool Load_Language_Table(Program& program, const QString& /*word*/)
+bool Load_Language_Table(LanguageTable& table, const QString& /*word*/)
 {
     Take_In_Data();
     QFile file(u":/data/languages.txt"_s);
     if (file.open(QIODevice::ReadOnly))
-        program.Language_Table = Parse_Language_Table(file.readAll());
-    return !program.Language_Table.empty() && !program.Language_Table.front().Name.isEmpty();
+        table = Parse_Language_Table(file.readAll());
+    return !table.empty() && !table.front().Name.isEmpty();
 }
 
 /// Puts the first word of `text` where it belongs: a code of three or two letters unless it begins with a capital,

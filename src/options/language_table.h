@@ -4,8 +4,6 @@
 #include <QString>
 #include <vector>
 
-struct Program;
-
 /// One language of the table.
 struct LanguageRow
 {
@@ -19,9 +17,9 @@ using LanguageTable = std::vector<LanguageRow>;
 /// The line that the lists show for a row: "Name (code)".
 QString Language_Line(const LanguageRow& row);
 
-/// Reads the table that is compiled in (data/languages.txt) into program.Language_Table. True if the first row has a
+/// Reads the table that is compiled in (data/languages.txt) into `table`. True if the first row has a
 /// name. `word` is ignored; start-up passes "scrap".
-bool Load_Language_Table(Program& program, const QString& word);
+bool Load_Language_Table(LanguageTable& table, const QString& word);
 
 /// The rows of a table's text: lines `Name\iso639-2\iso639-1` ended by CR LF or LF.
 LanguageTable Parse_Language_Table(const QByteArray& text);

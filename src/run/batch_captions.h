@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/main_form.h"
+#include "state/main_form.h"
 
 #include <QString>
 

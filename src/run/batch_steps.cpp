@@ -1,11 +1,11 @@
 #include "run/batch_steps.h"
 
 #include "inspect/video_names.h"
-#include "program.h"
-#include "run/failure_reports.h"
-#include "run/tool_runner.h"
+#include "state/program.h"
 #include "support/paths.h"
 #include "support/text.h"
+#include "tools/failure_reports.h"
+#include "tools/tool_runner.h"
 
 using namespace Qt::StringLiterals;
 

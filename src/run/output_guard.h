@@ -1,6 +1,6 @@
 #pragma once
 
-#include "command/command_line.h"
+#include "support/command_line.h"
 
 #include <QString>
 

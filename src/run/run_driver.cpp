@@ -1,16 +1,16 @@
 #include "run/run_driver.h"
 
-#include "inspect/tool_discovery.h"
 #include "inspect/video_names.h"
-#include "logs/form_lock.h"
 #include "logs/process_log.h"
-#include "program.h"
+#include "rules/folders.h"
+#include "rules/option_rules.h"
 #include "run/split_run.h"
 #include "run/video_batch.h"
-#include "settings/folders.h"
-#include "settings/option_rules.h"
+#include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
+#include "tools/tool_discovery.h"
+#include "workbenches/form_lock.h"
 
 #include <QScopeGuard>
 

@@ -2,14 +2,15 @@
 
 #include "command/split_command.h"
 #include "inspect/video_names.h"
-#include "program.h"
+#include "inspect/video_probe.h"
+#include "logs/results_digest.h"
 #include "run/batch_captions.h"
 #include "run/batch_steps.h"
-#include "run/failure_reports.h"
-#include "run/results_digest.h"
-#include "run/tool_runner.h"
+#include "state/program.h"
 #include "support/files.h"
 #include "support/text.h"
+#include "tools/failure_reports.h"
+#include "tools/tool_runner.h"
 
 #include <QElapsedTimer>
 

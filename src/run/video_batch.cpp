@@ -3,16 +3,17 @@
 #include "command/attachments.h"
 #include "command/command_frame.h"
 #include "inspect/video_names.h"
-#include "program.h"
+#include "inspect/video_probe.h"
+#include "logs/results_digest.h"
 #include "run/batch_captions.h"
 #include "run/batch_steps.h"
-#include "run/failure_reports.h"
 #include "run/output_guard.h"
-#include "run/results_digest.h"
-#include "run/tool_runner.h"
+#include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/text.h"
+#include "tools/failure_reports.h"
+#include "tools/tool_runner.h"
 
 #include <QElapsedTimer>
 
@@ -31,20 +32,6 @@ struct Batch
 static QString Quoted(const QString& path)
 {
     return u'"' + path + u'"';
-}
-
-bool Find_Video_Files(Program& program, const QString& folder, const QString& patterns, QStringList& list)
-{
-    list = {QString()};
-    for (const QString& name : List_Files(folder)) {
-        if (Match_File_Masks(name.toLower(), patterns)) {
-            if (!list.constLast().isEmpty())
-                list += QString();
-            list.last() = name;
-        }
-        program.Person.Pump_Events();
-    }
-    return !list.constFirst().isEmpty();
 }
 
 /// Moves the video's companions to the trash, and its attachments.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "program.h"
 #include "settings/settings_rows.h"
+#include "state/program.h"
 
 #include <QStringList>
 

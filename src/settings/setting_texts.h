@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/settings_state.h"
+#include "state/settings_state.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,8 +1,8 @@
-#include "program.h"
-#include "settings/option_rules.h"
+#include "settings/filter_modes.h"
 #include "settings/row_rules.h"
 #include "settings/settings_store.h"
-#include "settings/verbosity.h"
+#include "settings/verbosity_levels.h"
+#include "state/program.h"
 #include "support/paths.h"
 #include "support/text.h"
 

@@ -1,9 +1,9 @@
 #include "settings/settings_rows.h"
 
-#include "program.h"
-#include "settings/recent_folders.h"
+#include "settings/recent_lists.h"
 #include "settings/row_rules.h"
 #include "settings/setting_texts.h"
+#include "state/program.h"
 #include "support/text.h"
 
 #include <QLocale>

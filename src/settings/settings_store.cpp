@@ -1,6 +1,6 @@
 #include "settings/settings_store.h"
 
-#include "program.h"
+#include "state/program.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
 

@@ -1,8 +1,8 @@
 #include "command/chapters.h"
 
 #include "command/chapter_text.h"
-#include "command/command_line.h"
 #include "command/companion_fixture.h"
+#include "support/command_line.h"
 #include "support/run_time_error.h"
 
 #include <QRegularExpression>

@@ -12,7 +12,7 @@ struct Companion_Test : testing::Test, Test_Program
 {
     Companion_Test()
     {
-        Load_Language_Table(Prog, QStringLiteral("scrap"));
+        Load_Language_Table(Prog.Language_Table, QStringLiteral("scrap"));
         Prog.Tools.FFProbe_Path =
             Write(QStringLiteral("app/ffprobe"),
                   "#!/bin/sh\ncase \"$*\" in *silent*) exit 1;; esac\n"

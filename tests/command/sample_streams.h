@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspect/media_state.h"
+#include "state/media_state.h"
 
 #include <QString>
 

@@ -7,10 +7,10 @@
 
 using namespace Qt::StringLiterals;
 
-static const QString Video_Line =
+static const QString Split_Video =
     u"stream|index=0|codec_type=video|disposition:attached_pic=0|tag:language=???|tag:x=y\r\n"_s;
-static const QString Audio_Line = u"stream|index=1|codec_type=audio|tag:language=???|tag:x=y\r\n"_s;
-static const QString Subtitle_Line = u"stream|index=2|codec_type=subtitle|tag:language=eng|tag:x=y\r\n"_s;
+static const QString Split_Audio = u"stream|index=1|codec_type=audio|tag:language=???|tag:x=y\r\n"_s;
+static const QString Split_Subtitle = u"stream|index=2|codec_type=subtitle|tag:language=eng|tag:x=y\r\n"_s;
 
 TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
 {
@@ -27,13 +27,13 @@ TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
     };
 
     const Claim claims[] = {
-        {u"/in/Movie.avi"_s, Video_Line + Audio_Line + Subtitle_Line,
+        {u"/in/Movie.avi"_s, Split_Video + Split_Audio + Split_Subtitle,
          u" --ui-language en_US --output /out/Movie.mkv --language 0:??? --language 1:und ( /in/Movie.avi )"
          " --split duration:1800s --track-order 0:0,0:1"_s},
-        {u"/in/My Movie.mkv"_s, Video_Line + Subtitle_Line,
+        {u"/in/My Movie.mkv"_s, Split_Video + Split_Subtitle,
          u" --ui-language en_US --output \"/out/My Movie.mkv\" --language 0:??? ( \"/in/My Movie.mkv\" )"
          " --split duration:1800s --track-order 0:0"_s},
-        {u"/in/Movie.MKV"_s, Subtitle_Line,
+        {u"/in/Movie.MKV"_s, Split_Subtitle,
          u" --ui-language en_US --output /out/MKV.mkv ( /in/Movie.MKV ) --split duration:1800s"_s},
     };
     for (const Claim& claim : claims) {

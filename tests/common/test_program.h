@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program.h"
+#include "state/program.h"
 
 #include <QTemporaryDir>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "docs/manual_page.h"
 #include "headless/batch_options.h"
-#include "settings/click_rules.h"
+#include "rules/click_rules.h"
 
 #include <QProcess>
 #include <QRegularExpression>

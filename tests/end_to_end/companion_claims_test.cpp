@@ -6,8 +6,8 @@ using namespace Qt::StringLiterals;
 
 /// What external audio and subtitle files become, with the real tools.
 
-static const QString Picture = u"video MPEG-4p2 und default"_s;
-static const QString Sound = u"audio MP3 und"_s;
+static const QString Plain_Video = u"video MPEG-4p2 und default"_s;
+static const QString Plain_Audio = u"audio MP3 und"_s;
 
 static void Add_Audio(Library_Run& run, const QString& library_name, const QString& name, const char* options = nullptr)
 {
@@ -33,26 +33,26 @@ static void Add_Subtitles(Library_Run& run, const QString& library_name, const Q
 static const Track_Claim Audio_Table[] = {
     {.Name = "AnMp3StandsBehindTheSourcesSound",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.mp3"_s, u"Movie.mp3"_s); },
-     .Tracks = {Picture, Sound, u"audio MP3 und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio MP3 und default"_s}},
     {.Name = "AnAc3IsAdded",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.ac3"_s, u"The MOVIE 2.AC3"_s); },
-     .Tracks = {Picture, Sound, u"audio AC-3 und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio AC-3 und default"_s}},
     {.Name = "AFlacIsAdded",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.flac"_s, u"Movie.flac"_s); },
-     .Tracks = {Picture, Sound, u"audio FLAC und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio FLAC und default"_s}},
     {.Name = "AnOpusIsAdded",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.opus"_s, u"Movie.opus"_s); },
-     .Tracks = {Picture, Sound, u"audio Opus und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio Opus und default"_s}},
     {.Name = "AnOggIsAdded",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.ogg"_s, u"Movie.ogg"_s); },
-     .Tracks = {Picture, Sound, u"audio Vorbis und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio Vorbis und default"_s}},
     {.Name = "AnOptionFileSetsTitleLanguageForcedAndDelay",
      .Prepare =
          [](Library_Run& run) {
              Add_Audio(run, u"c.mp3"_s, u"Movie.mp3"_s,
                        "Title=Director's \"cut\" --no-video\r\nLanguage=French (fre)\r\nForced=yes\r\nDelay=250\r\n");
          },
-     .Tracks = {Picture, Sound, u"audio MP3 fre [Director's \"cut\" --no-video] default forced"_s},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio MP3 fre [Director's \"cut\" --no-video] default forced"_s},
      .Check =
          [](Library_Run& run) {
              const QList<int> times = run.First_Times();
@@ -79,7 +79,7 @@ static const Track_Claim Audio_Table[] = {
              run.Prog.Options.chk_ApplyDefaultAudioOpts.Value = 1;
              run.Prog.Settings.Audio_Sticky = {0, 1, 1, 0, 0, {}, u"German (ger)"_s, u"yes"_s, {}, {}};
          },
-     .Tracks = {Picture, u"audio FLAC ger default"_s, Sound}},
+     .Tracks = {Plain_Video, u"audio FLAC ger default"_s, Plain_Audio}},
     {.Name = "AudioComesFromItsOwnFolderAndReplacesTheSources",
      .Prepare =
          [](Library_Run& run) {
@@ -91,17 +91,17 @@ static const Track_Claim Audio_Table[] = {
              Place(run, Library_File(u"c.ac3"_s), u"audios/Movie.ac3"_s);
              run.Add(u"c.mp3"_s, u"Movie.mp3"_s);
          },
-     .Tracks = {Picture, u"audio AC-3 und default"_s}},
+     .Tracks = {Plain_Video, u"audio AC-3 und default"_s}},
     {.Name = "AnOptionFileThatIsRefusedCostsNothingButItsValues",
      .Prepare = [](Library_Run& run) { Add_Audio(run, u"c.mp3"_s, u"Movie.mp3"_s, "Language=fre\nnonsense\n"); },
-     .Tracks = {Picture, Sound, u"audio MP3 und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio MP3 und default"_s}},
     {.Name = "ATitleOfTenMegabytesIsLeftOutAndTold",
      .Prepare =
          [](Library_Run& run) {
              Add_Audio(run, u"c.mp3"_s, u"Movie.mp3"_s, "");
              run.Write(u"videos/Movie.mp3.opt"_s, "Language=fre\nTitle=" + QByteArray(10 << 20, 'x'));
          },
-     .Tracks = {Picture, Sound, u"audio MP3 fre default"_s},
+     .Tracks = {Plain_Video, Plain_Audio, u"audio MP3 fre default"_s},
      .Check = [](Library_Run& run) { EXPECT_TRUE(run.Log().contains(u"*** --track-name is left out: "_s)); }},
 };
 
@@ -110,26 +110,26 @@ INSTANTIATE_TEST_SUITE_P(External_Audio, Track_Claims, testing::ValuesIn(Audio_T
 static const Track_Claim Subtitle_Table[] = {
     {.Name = "AnSrtIsAdded",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s); },
-     .Tracks = {Picture, Sound, u"subtitles SubRip/SRT und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT und default"_s}},
     {.Name = "AnAssIsAdded",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.ass"_s, u"my movie.ass"_s); },
-     .Tracks = {Picture, Sound, u"subtitles SubStationAlpha und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubStationAlpha und default"_s}},
     {.Name = "ASupIsAdded",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.sup"_s, u"Movie.sup"_s); },
-     .Tracks = {Picture, Sound, u"subtitles HDMV PGS und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles HDMV PGS und default"_s}},
     {.Name = "AnMksLosesItsOwnLanguageAndKeepsItsFlag",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.mks"_s, u"Movie.mks"_s); },
-     .Tracks = {Picture, Sound, u"subtitles SubRip/SRT und"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT und"_s}},
     {.Name = "AVobSubPairIsOneTrackInItsOwnLanguage",
      .Prepare =
          [](Library_Run& run) {
              Add_Subtitles(run, u"c.idx"_s, u"Movie.idx"_s);
              run.Add(u"c.sub"_s, u"Movie.sub"_s);
          },
-     .Tracks = {Picture, Sound, u"subtitles VobSub ger default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles VobSub ger default"_s}},
     {.Name = "AnIdxWithoutItsSubIsOnlyTold",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.idx"_s, u"Movie.idx"_s); },
-     .Tracks = {Picture, Sound},
+     .Tracks = {Plain_Video, Plain_Audio},
      .Check =
          [](Library_Run& run) {
              EXPECT_TRUE(run.Log().contains(u"\"Movie.idx\". The acompanying '*.sub' file was not found."_s));
@@ -140,7 +140,7 @@ static const Track_Claim Subtitle_Table[] = {
              Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s,
                            "Title=For all\nLanguage=es\nDefault=no\nForced=yes\nDelay=5000\n");
          },
-     .Tracks = {Picture, Sound, u"subtitles SubRip/SRT spa [For all] forced"_s},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT spa [For all] forced"_s},
      .Check = [](Library_Run& run) { EXPECT_NEAR(run.First_Times().value(2), 200, 30); }},
     {.Name = "StickyValuesStandInForAnOptionFile",
      .Prepare =
@@ -150,7 +150,7 @@ static const Track_Claim Subtitle_Table[] = {
              run.Prog.Options.chk_ApplyDefaultSubOpts.Value = 1;
              run.Prog.Settings.Subtitle_Sticky = {1, 1, 1, 0, 0, u"Sticky"_s, u"eng"_s, u"no"_s, {}, {}};
          },
-     .Tracks = {Picture, Sound, u"subtitles SubRip/SRT eng [Sticky]"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT eng [Sticky]"_s}},
     {.Name = "SubtitlesStandBehindTheSourcesAndBehindExternalAudio",
      .Video = u"langs.mkv"_s,
      .Prepare =
@@ -170,7 +170,7 @@ static const Track_Claim Subtitle_Table[] = {
              run.Prog.Options.Path_Subtitles = run.Path(u"subs/"_s);
              Place(run, Library_File(u"c.ass"_s), u"subs/Movie.ass"_s);
          },
-     .Tracks = {Picture, Sound, u"subtitles SubStationAlpha und default"_s}},
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubStationAlpha und default"_s}},
 };
 
 INSTANTIATE_TEST_SUITE_P(External_Subtitles, Track_Claims, testing::ValuesIn(Subtitle_Table), Name_Of_Claim);
@@ -182,7 +182,7 @@ TEST(Companions, OfAVideoInCapitalsAreThoseThatHoldItsExtension)
     Add_Audio(run, u"c.flac"_s, u"Movie.flac"_s);
     run.Add(u"c.ac3"_s, u"a mkv thing.ac3"_s);
     EXPECT_TRUE(run.Run());
-    EXPECT_EQ(run.Tracks(u"MKV.mkv"_s), QStringList({Picture, Sound, u"audio AC-3 und default"_s}));
+    EXPECT_EQ(run.Tracks(u"MKV.mkv"_s), QStringList({Plain_Video, Plain_Audio, u"audio AC-3 und default"_s}));
 }
 
 TEST(Companions, WithHostileNamesAreOneArgumentEach)
@@ -195,8 +195,8 @@ TEST(Companions, WithHostileNamesAreOneArgumentEach)
         Add_Audio(run, u"c.flac"_s, name + u".flac"_s, "Language=fre");
         Add_Subtitles(run, u"c.srt"_s, name + u".srt"_s);
         EXPECT_TRUE(run.Run());
-        EXPECT_EQ(run.Tracks(name + u".mkv"_s),
-                  QStringList({Picture, Sound, u"audio FLAC fre default"_s, u"subtitles SubRip/SRT und default"_s}));
+        EXPECT_EQ(run.Tracks(name + u".mkv"_s), QStringList({Plain_Video, Plain_Audio, u"audio FLAC fre default"_s,
+                                                             u"subtitles SubRip/SRT und default"_s}));
     }
 }
 
@@ -226,7 +226,7 @@ TEST(Companions, ThatVanishBeforeTheRunEndInMkvmergesOwnWordsAndTheNextVideoGoes
                                          mkvmerge.toUtf8() + " \"$@\"\n");
     QFile::setPermissions(run.Path(u"app/mkvmerge"_s), QFile::ReadOwner | QFile::ExeOwner);
     EXPECT_TRUE(run.Run());
-    EXPECT_EQ(run.Tracks(u"Other.mkv"_s), QStringList({Picture, Sound}));
+    EXPECT_EQ(run.Tracks(u"Other.mkv"_s), QStringList({Plain_Video, Plain_Audio}));
     EXPECT_FALSE(QFile::exists(run.Path(u"target/Movie.mkv"_s)));
     EXPECT_TRUE(run.Log().contains(u"Movie.srt' could not be opened for reading"_s)) << run.Log().toStdString();
 }

@@ -1,7 +1,8 @@
 #include "end_to_end/library.h"
 
+#include "rules/option_rules.h"
 #include "run/run_driver.h"
-#include "settings/option_rules.h"
+#include "settings/filter_modes.h"
 #include "support/input.h"
 
 #include <QFile>
@@ -138,7 +139,7 @@ Library_Run::Library_Run()
     Use_Real_Tools(*this);
     // The run button looks for ffprobe in the program's folder.
     QFile::link(Prog.Tools.FFProbe_Path, Prog.Settings.App_Folder + u"ffprobe"_s);
-    Load_Language_Table(Prog, u"scrap"_s);
+    Load_Language_Table(Prog.Language_Table, u"scrap"_s);
     Prog.Options.Log_Verbosity = 7;
 }
 

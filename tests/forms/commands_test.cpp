@@ -1,7 +1,7 @@
 #include "common/media.h"
 #include "common/stand_in_tool.h"
 #include "forms/form_test.h"
-#include "settings/folders.h"
+#include "rules/folders.h"
 
 #include <QAbstractItemView>
 #include <QDesktopServices>

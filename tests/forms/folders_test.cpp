@@ -1,6 +1,6 @@
 #include "forms/elided_label.h"
 #include "forms/test_window.h"
-#include "settings/start_up.h"
+#include "life/start_up.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "common/stand_in_tool.h"
 #include "forms/test_window.h"
+#include "life/start_up.h"
 #include "settings/settings_store.h"
-#include "settings/start_up.h"
 #include "support/run_time_error.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "forms/test_window.h"
-#include "settings/click_rules.h"
-#include "settings/menu_commands.h"
-#include "settings/option_rules.h"
-#include "settings/start_up.h"
+#include "life/menu_commands.h"
+#include "life/start_up.h"
+#include "rules/click_rules.h"
+#include "rules/option_rules.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -1,6 +1,6 @@
 #include "forms/test_window.h"
-#include "settings/popups.h"
-#include "settings/start_up.h"
+#include "life/popups.h"
+#include "life/start_up.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

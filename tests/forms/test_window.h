@@ -2,7 +2,7 @@
 
 #include "common/test_program.h"
 #include "forms/desktop.h"
-#include "settings/instance_lock.h"
+#include "life/instance_lock.h"
 
 #include <QAbstractButton>
 #include <QAction>

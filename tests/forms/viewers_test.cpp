@@ -4,7 +4,7 @@
 #include "forms/form_test.h"
 #include "forms/looks.h"
 #include "forms/text_lines_view.h"
-#include "inspect/tool_discovery.h"
+#include "tools/tool_discovery.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,10 +1,10 @@
 #include "logs/process_log.h"
 
 #include "common/test_program.h"
-#include "logs/form_lock.h"
-#include "logs/last_entry.h"
 #include "support/folder_lock.h"
 #include "support/run_time_error.h"
+#include "workbenches/form_lock.h"
+#include "workbenches/last_entry.h"
 
 #include <QDir>
 #include <QFile>

@@ -12,7 +12,7 @@ static const LanguageTable& Table()
 {
     static const LanguageTable table = [] {
         Test_Program test;
-        EXPECT_TRUE(Load_Language_Table(test.Prog, u"scrap"_s));
+        EXPECT_TRUE(Load_Language_Table(test.Prog.Language_Table, u"scrap"_s));
         return test.Prog.Language_Table;
     }();
     return table;

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 struct Option_File : testing::Test, Test_Program
 {
-    Option_File() { Load_Language_Table(Prog, u"scrap"_s); }
+    Option_File() { Load_Language_Table(Prog.Language_Table, u"scrap"_s); }
 
     /// The run's reader over that text, "-" if the file was refused.
     QString Run_Reads(const QByteArray& text)

@@ -14,13 +14,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What an ffprobe says about a file with one video track, and about nothing that is empty.
-const QByteArray Probe = "for file; do :; done\n"
-                         "[ -s \"$file\" ] || exit 1\n"
-                         "case \"$*\" in\n"
-                         "*-show_format*) printf 'format|filename=x|duration=1.5|size=1\\n' ;;\n"
-                         "*) printf 'stream|index=0|codec_type=video|disposition:attached_pic=0|tag:x=y\\n' ;;\n"
-                         "esac\n";
-const QByteArray Merge = "echo 'mkvmerge v74.0.0 (A name) 64-bit'; sleep 0.05; echo 'Multiplexing took 0 seconds.'\n";
+const QByteArray Split_Probe = "for file; do :; done\n"
+                               "[ -s \"$file\" ] || exit 1\n"
+                               "case \"$*\" in\n"
+                               "*-show_format*) printf 'format|filename=x|duration=1.5|size=1\\n' ;;\n"
+                               "*) printf 'stream|index=0|codec_type=video|disposition:attached_pic=0|tag:x=y\\n' ;;\n"
+                               "esac\n";
+const QByteArray Split_Merge =
+    "echo 'mkvmerge v74.0.0 (A name) 64-bit'; sleep 0.05; echo 'Multiplexing took 0 seconds.'\n";
 
 struct SplitRun : testing::Test
 {
@@ -29,8 +30,8 @@ struct SplitRun : testing::Test
 
     SplitRun()
     {
-        Prog.Tools.FFProbe_Path = Write_Stand_In(Test, u"tools/ffprobe"_s, Probe);
-        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(Test, u"tools/mkvmerge"_s, Merge);
+        Prog.Tools.FFProbe_Path = Write_Stand_In(Test, u"tools/ffprobe"_s, Split_Probe);
+        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(Test, u"tools/mkvmerge"_s, Split_Merge);
         Prog.Options.Log_Verbosity = 1;
         Prog.Options.Split_Minutes = u"30"_s;
     }

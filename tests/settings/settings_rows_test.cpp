@@ -438,17 +438,3 @@ TEST(SettingsRows, EveryKeyIsKnownByItsNameInAnyCase)
     EXPECT_EQ(Find_Row(u"Audio"_s, u"Title"_s), nullptr);
     EXPECT_EQ(Settings_Rows().size(), std::size(Keys) + 1);
 }
-
-TEST(SettingsRows, ThePageOnTheFormatNamesEveryKeyInItsSection)
-{
-    QFile file(QStringLiteral(VANTORRA_SOURCE_FOLDER "/docs/formats/vantorra-ini.md"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList chapters = QString::fromUtf8(file.readAll()).split(u"\n### "_s);
-    for (const Settings_Row& row : Settings_Rows()) {
-        const auto names_it = [&](const QString& chapter) {
-            return chapter.section(u'\n', 0, 0).contains(row.Section) && chapter.contains(row.Key.trimmed());
-        };
-        EXPECT_TRUE(std::any_of(chapters.begin(), chapters.end(), names_it))
-            << row.Section.toStdString() << "/" << row.Key.toStdString();
-    }
-}

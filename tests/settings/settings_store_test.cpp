@@ -7,11 +7,11 @@
 
 using namespace Qt::StringLiterals;
 
-static const QByteArray Main_Window = "[MainWindow]\nLeft=100\nTop=50\nWidth=800\nHeight=600\n";
+static const QByteArray Window_Place = "[MainWindow]\nLeft=100\nTop=50\nWidth=800\nHeight=600\n";
 
 static void Read_Text(Test_Program& test, const QByteArray& text)
 {
-    test.Write(u"app/Vantorra.ini"_s, Main_Window + text);
+    test.Write(u"app/Vantorra.ini"_s, Window_Place + text);
     Read_Settings(test.Prog);
 }
 
@@ -208,13 +208,13 @@ TEST(SettingsStore, ANumberThatIsNoneIsAnErrorThatNamesFileSectionAndKey)
         {"[MainWindow]\nTop=1\nLeft=one\n", u"[MainWindow] \"Left\""_s, mismatch},
         {"[MainWindow]\nTop=1\nLeft=1\nHeight=1\nWidth=99999999999\n", u"[MainWindow] \"Width\""_s,
          Error_Number::Overflow},
-        {Main_Window + "[ProcessLog]\nSet Font Size=big\n", u"[ProcessLog] \"Set Font Size\""_s, mismatch},
-        {Main_Window + "[ProcessLog]\nSet Font Size=\n", u"[ProcessLog] \"Set Font Size\""_s, mismatch},
-        {Main_Window + "[ProcessLog]\nWindow Size and Position (T,L,W,H,MM)=1:2:x:4:5\n",
+        {Window_Place + "[ProcessLog]\nSet Font Size=big\n", u"[ProcessLog] \"Set Font Size\""_s, mismatch},
+        {Window_Place + "[ProcessLog]\nSet Font Size=\n", u"[ProcessLog] \"Set Font Size\""_s, mismatch},
+        {Window_Place + "[ProcessLog]\nWindow Size and Position (T,L,W,H,MM)=1:2:x:4:5\n",
          u"[ProcessLog] \"Window Size and Position (T,L,W,H,MM)\""_s, mismatch},
-        {Main_Window + "[View Video File Info]\nNot First Run=perhaps\n", u"[View Video File Info] \"Not First Run\""_s,
-         mismatch},
-        {Main_Window + "[Audio Option Files]\nWindow Size and Position (T,L,W,H,MM)=-2147483648:2:3:4:5\n",
+        {Window_Place + "[View Video File Info]\nNot First Run=perhaps\n",
+         u"[View Video File Info] \"Not First Run\""_s, mismatch},
+        {Window_Place + "[Audio Option Files]\nWindow Size and Position (T,L,W,H,MM)=-2147483648:2:3:4:5\n",
          u"[Audio Option Files] \"Window Size"_s, Error_Number::Overflow},
     };
     for (const Claim& claim : claims) {

@@ -1,0 +1,231 @@
+#include "life/menu_commands.h"
+
+#include "logs/process_log.h"
+#include "rules/attachments_dialog.h"
+#include "rules/custom_title.h"
+#include "rules/folders.h"
+#include "rules/frame_rate_dialog.h"
+#include "rules/language_filter.h"
+#include "rules/option_rules.h"
+#include "rules/video_format_dialog.h"
+#include "settings/filter_modes.h"
+#include "settings/settings_store.h"
+#include "state/program.h"
+#include "tools/tool_discovery.h"
+#include "workbenches/option_editor.h"
+
+using namespace Qt::StringLiterals;
+
+/// What the custom filter command of a kind of track works on.
+struct Filter_Command
+{
+    std::int16_t Kind;
+    FilterSettings& Filter;
+    Check_Box& Custom;
+    Check_Box& English;
+    QString Caption;
+    void (*Set_Mode)(JobOptions&);
+};
+
+static void Choose_Languages(Program& program, const Filter_Command& command)
+{
+    FilterSettings& working = program.Settings.WorkingFilter;
+    command.Filter.Kind = command.Kind;
+    working = command.Filter;
+    Open_Language_Filter(program);
+    Show_Dialog(program, u"frm_CustomFilter"_s);
+    program.Language_Filter.Visible = false;
+    command.Filter = working;
+
+    command.Custom.Caption = command.Caption + (command.Filter.KeepOrCut == 1 ? u" (keep)"_s : u" (cut)"_s);
+    command.Custom.Enabled = !command.Filter.Languages.isEmpty();
+    if (!command.Custom.Enabled) {
+        command.Custom.Value = 0;
+        command.English.Enabled = true;
+    }
+    // The mode follows the box that an empty list has just unticked: mode 4 without a list would drop every track.
+    command.Set_Mode(program.Options);
+    Default_Run(program);
+}
+
+void mnu_CustomAudioFilter_Click(Program& program)
+{
+    JobOptions& options = program.Options;
+    Choose_Languages(program, {1, options.AudioFilter, options.chk_CustomAudioFilter, options.chk_EngAudioOnly,
+                               u"Apply custom Audio Filter"_s, Set_Audio_Filter_Mode});
+}
+
+void mnu_CustomSubtitleFilter_Click(Program& program)
+{
+    JobOptions& options = program.Options;
+    Choose_Languages(program, {2, options.SubsFilter, options.chk_CustomSubsFilter, options.chk_EngSubsOnly,
+                               u"Apply custom Subtitle Filter"_s, Set_Subs_Filter_Mode});
+}
+
+void mnu_CustomFileTitle_Click(Program& program)
+{
+    QString& title = program.Options.Custom_File_Title;
+    title = Ask_Custom_Title(program, u"Set Custom File Title"_s, title);
+    Custom_File_Title_Caption(program.Options);
+    Default_Run(program);
+}
+
+void mnu_CustomVideoTitle_Click(Program& program)
+{
+    QString& title = program.Options.Custom_Video_Title;
+    title = Ask_Custom_Title(program, u"Set Custom Video Title"_s, title);
+    Custom_Video_Title_Caption(program.Options);
+    Default_Run(program);
+}
+
+void mnu_VideoFrameRate_Click(Program& program)
+{
+    Show_Frame_Rate_Dialog(program);
+    Default_Run(program);
+}
+
+void mnu_VideoFormatOptions_Click(Program& program)
+{
+    Show_Video_Format_Dialog(program);
+    Default_Run(program);
+}
+
+void mnu_Attachments_Click(Program& program)
+{
+    Show_Attachments_Dialog(program);
+    Default_Run(program);
+}
+
+void mnu_PopupACA1_Click(Program& program)
+{
+    program.Person.Wait_With_Events(10);
+    mnu_Attachments_Click(program);
+}
+
+void chk_AddAttachments_Right_Click(Program& program)
+{
+    if (program.Form.Options_Ready)
+        mnu_Attachments_Click(program);
+}
+
+/// The editor shows its form by itself.
+static void Edit_Option_Files(Program& program, bool (*open)(Program&, const QString&))
+{
+    if (program.Form.Topmost_On)
+        Keep_On_Top(program, false);
+    open(program, u"NOP"_s);
+    if (program.Form.Topmost_On)
+        Keep_On_Top(program, true);
+    Default_Run(program);
+}
+
+void mnu_AudioOptionsFile_Click(Program& program)
+{
+    Edit_Option_Files(program, Open_Audio_Option_Editor);
+}
+
+void mnu_SubtitleOptionsFile_Click(Program& program)
+{
+    Edit_Option_Files(program, Open_Subtitle_Option_Editor);
+}
+
+void mnu_ViewLog_Click(Program& program)
+{
+    Show_Dialog(program, u"frm_ProcessLog"_s);
+    Default_Run(program);
+}
+
+void mnu_ExecutablePaths_Click(Program& program)
+{
+    Show_Dialog(program, u"frm_Locations"_s);
+    Default_Run(program);
+}
+
+void btn_ViewVidInfo_Click(Program& program)
+{
+    Show_Dialog(program, u"frm_ViewVFI"_s);
+    Default_Run(program);
+}
+
+static void Flip(Program& program, bool& tick)
+{
+    tick = !tick;
+    Default_Run(program);
+}
+
+void mnu_KeepEnglishTitledAudio_Click(Program& program)
+{
+    Flip(program, program.Options.Keep_English_Audio);
+}
+
+void mnu_KeepEnglishTitledSubs_Click(Program& program)
+{
+    Flip(program, program.Options.Keep_English_Subs);
+}
+
+void mnu_DeleteAncillaryFiles_Click(Program& program)
+{
+    Flip(program, program.Options.Delete_Sundry_Files);
+}
+
+void mnu_KeepTopmost_Click(Program& program)
+{
+    Flip(program, program.Form.Topmost_On);
+    Keep_On_Top(program, program.Form.Topmost_On);
+}
+
+void mnu_AppendLogs_Click(Program& program)
+{
+    Flip(program, program.Options.mnu_AppendLogs);
+}
+
+void mnu_RunButtonFollowsFolders_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Run_Button_Follows_Folders);
+    Follow_Folders(program);
+}
+
+void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Delete_Source_Only_After_Success);
+}
+
+void mnu_IdentifyWithAnyMkvmerge_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Identify_With_Any_Mkvmerge);
+    Enable_Video_Info_Button(program);
+}
+
+void mnu_ClearLog_Click(Program& program)
+{
+    Rotate_Process_Logs(program);
+    Default_Run(program);
+}
+
+const std::vector<Menu_Tick>& Menu_Ticks()
+{
+    static const std::vector<Menu_Tick> ticks = {
+        {u"mnu_KeepEnglishTitledAudio"_s, u"Keep English Titled Audio"_s,
+         [](const Program& program) { return program.Options.Keep_English_Audio; }, mnu_KeepEnglishTitledAudio_Click},
+        {u"mnu_KeepEnglishTitledSubs"_s, u"Keep English Titled Subtitles"_s,
+         [](const Program& program) { return program.Options.Keep_English_Subs; }, mnu_KeepEnglishTitledSubs_Click},
+        {u"mnu_DeleteAncillaryFiles"_s, u"Delete Source Video Ancillary Files"_s,
+         [](const Program& program) { return program.Options.Delete_Sundry_Files; }, mnu_DeleteAncillaryFiles_Click},
+        {u"mnu_SaveOnQuit"_s, u"Save Settings on Exit"_s,
+         [](const Program& program) { return program.Settings.Save_On_Exit; }, mnu_SaveOnQuit_Click},
+        {u"mnu_KeepTopmost"_s, u"Keep this program topmost"_s,
+         [](const Program& program) { return program.Form.Topmost_On; }, mnu_KeepTopmost_Click},
+        {u"mnu_AppendLogs"_s, u" Append Vantorra Log(s)"_s,
+         [](const Program& program) { return program.Options.mnu_AppendLogs; }, mnu_AppendLogs_Click},
+        {u"mnu_RunButtonFollowsFolders"_s, u"Run Button Follows Folders"_s,
+         [](const Program& program) { return program.Settings.Extensions.Run_Button_Follows_Folders; },
+         mnu_RunButtonFollowsFolders_Click},
+        {u"mnu_DeleteSourceOnlyAfterSuccess"_s, u"Delete Source Only After Success"_s,
+         [](const Program& program) { return program.Settings.Extensions.Delete_Source_Only_After_Success; },
+         mnu_DeleteSourceOnlyAfterSuccess_Click},
+        {u"mnu_IdentifyWithAnyMkvmerge"_s, u"Identify With Any mkvmerge"_s,
+         [](const Program& program) { return program.Settings.Extensions.Identify_With_Any_Mkvmerge; },
+         mnu_IdentifyWithAnyMkvmerge_Click},
+    };
+    return ticks;
+}

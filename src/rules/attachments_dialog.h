@@ -1,0 +1,24 @@
+#pragma once
+
+#include "state/dialogs.h"
+
+#include <QString>
+
+struct Drop_Data;
+struct Program;
+
+/// Opens the form and returns when it was closed.
+void Show_Attachments_Dialog(Program& program);
+
+/// What the form shows at its opening.
+void Open_Attachments_Dialog(Program& program);
+/// Brings the form, and chk_AddAttachments of the main form, in step with the folder.
+void Apply_Attachment_Path(Program& program);
+
+void btn_Attachments_Clear_Click(Program& program);
+void btn_Attachments_Restore_Click(Program& program);
+void chk_UseSubfolders_Click(Program& program);
+void mnu_PopupAttachBrowse1_Click(Program& program);
+/// A folder becomes the attachment folder; anything else is refused and only shown as not set.
+void Drop_On_Attachments_Panel(Program& program, const Drop_Data& data);
+void cmd_Attachments_Done_Click(Program& program);

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "support/controls.h"
+
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <cstdint>
+
+/// The main form's dialogs as records: what each shows, and what was typed or chosen there. The rules that open and
+/// end them stand in rules/, the About box's in life/.
+
+/// frm_CustomTitle: the custom title of the file or of the video track. Opened and ended by Ask_Custom_Title; the view
+/// renders the record, puts what is typed into txt_CustomTitle, and closes once Visible is False.
+struct Custom_Title_Form
+{
+    QString Title_Form_Caption; ///< the form's caption
+    QString Title_Form_Text;    ///< the title, in and out
+    QString Saved_Title;
+    Text_Box txt_CustomTitle;
+    QString Focus;
+    bool Visible = false;
+};
+
+/// frm_VideoFrameRate. Opened and ended by Show_Frame_Rate_Dialog; the view renders the record, puts the chosen text
+/// into cbo_FrameRate.Text, and closes once Visible is False.
+struct Frame_Rate_Form
+{
+    Option_Pair opt_FrameRate; ///< 1 "Use ffprobe discovered Frame Rate", 2 "Select a Frame Rate:"
+    Combo_Box cbo_FrameRate;
+    Label lbl_SetFrameRate{.Caption = QStringLiteral("IMPORTANT: See the Help file for instructions on this control.")};
+    std::int16_t Working_Kind = 0;
+    bool Visible = false;
+};
+
+/// frm_VideoFormatOptions: an aspect ratio or a display size. Opened and ended by Show_Video_Format_Dialog; the view
+/// renders the record, puts what is typed into its boxes, and closes once Visible is False.
+struct Video_Format_Form
+{
+    Option_Pair opt_AspectRatio; ///< 1 "Aspect Ratio:", 2 "Display width/height:"
+    Combo_Box cbo_AspectRatio;
+    Panel pic_WidthHeight; ///< holds the two boxes
+    Text_Box txt_Width;
+    Text_Box txt_Height;
+    std::int16_t Saved_Kind = 0;
+    QString Saved_Value;
+    bool Saved_Usable = false;
+    bool Visible = false;
+};
+
+/// frm_Attachments: the one folder from which attachments come, and the mode that takes the titled subfolders instead.
+/// chk_UseSubfolders lives among the options. The view renders the record and hides the form once Visible is False.
+struct Attachments_Form
+{
+    Label lbl_AttachmentsPath;
+    Label lbl_AttachmentsPathFault{.Caption = QStringLiteral("Attachment path not set!")};
+    Label lbl_AttachmentsPathBox{.Caption = QStringLiteral("Drop Attachment  folder here:")};
+    Label lbl_AttachmentsNotes;
+    Label lbl_UseSubfolders{.Caption = QStringLiteral("Attach Contents of Titled Subfolders Instead")};
+    QString Kept_Path; ///< the folder before btn_Clear, for btn_Restore
+    QString Focus;     ///< "cmd_Done" once the logic gave it the focus
+    bool Visible = false;
+};
+
+/// frm_CustomFilter: up to ten languages to cut from, or to keep in, the source's audio or subtitle tracks. It works
+/// on Settings.WorkingFilter, which the filter commands fill and take back. The commands open the record before the
+/// view shows it and end it afterwards; the view renders it, keeps Place up to date and closes once Visible is False.
+/// Neither list shows a selection mark after a click.
+struct Language_Filter_Form
+{
+    QString Caption;
+    QStringList lst_LanguageList;      ///< languages not selected, "Name (code)"
+    QStringList lst_LanguageSelection; ///< languages selected
+    int opt_CustomFilter = 0;          ///< the option chosen: 0 cut, 1 keep
+    std::array<QString, 2> opt_CustomFilter_Captions;
+    Label lbl_SelLanguages;
+    Label lbl_List1Count;
+    Label lbl_MaxLanguages{.Caption = QStringLiteral("(10  max)")};
+    Form_Place Place;
+    bool Has_Place = false; ///< False: centre the form over the main form; True: at Place, within the screen
+    bool Visible = false;
+};
+
+/// frm_SourceMRU or frm_TargetMRU: a drop-down laid over the path box. Its items are the list in Settings.
+struct Recent_List_Form
+{
+    QString Text;               ///< the edit line of cmbo_MRU
+    bool Visible = false;       ///< the view hides the form once this is False
+    bool Arrow_Pressed = false; ///< img_SourceMRU, img_TargetMRU: shifted by half its height
+};
+
+/// frm_Splash, the About box: shown without waiting, and gone by itself after seven ticks.
+struct About_Form
+{
+    Label lbl_Version;
+    Label lblProductName;
+    Label lbl_Author;
+    Label lblCompany;
+    Label lbl_Countdown;
+    bool Timer1_Running = false; ///< the view calls Tick_About_Box every 1000 milliseconds while this is True
+    bool Visible = false;        ///< the view hides the form once this is False
+};

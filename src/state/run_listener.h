@@ -1,0 +1,48 @@
+#pragma once
+
+#include "support/command_line.h"
+
+#include <QString>
+
+/// How one file of a run ended.
+struct File_Outcome
+{
+    enum class Kind
+    {
+        Done,
+        Failed,
+        Skipped
+    };
+    QString Source;
+    QString Output;
+    Kind Status = Kind::Skipped;
+    int Exit = 0; ///< mkvmerge's exit status, minus a signal's number, or -1 if it never ran
+    double Seconds = 0;
+};
+
+/// What a driver may want to hear while a run goes on. The headless driver prints it; the window needs none of it.
+class Run_Listener
+{
+  public:
+    virtual ~Run_Listener() = default;
+
+    /// The run is refused before its loop begins, and why.
+    virtual void Refused(const QString& /*reason*/) {}
+
+    /// The loop begins; `files` accepted videos were found.
+    virtual void Run_Started(int /*files*/) {}
+
+    /// `index` counts from 1.
+    virtual void File_Started(int /*index*/, const QString& /*source*/) {}
+
+    /// A command was assembled and is about to be run (or, in a dry run, not).
+    virtual void Command_Ready(const QString& /*source*/, const QString& /*output*/, const Command_Line&) {}
+
+    /// Percent of the file in work and of the whole batch.
+    virtual void Progress(int /*percent*/, int /*overall*/) {}
+
+    /// A numbered report was raised.
+    virtual void Reported(int /*code*/) {}
+
+    virtual void File_Finished(const File_Outcome&) {}
+};

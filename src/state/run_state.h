@@ -1,0 +1,43 @@
+#pragma once
+
+#include "support/command_line.h"
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+
+/// The state of a run. Never reset as a whole: what a run doesn't clear lives on into the next.
+struct Run_State
+{
+    bool Halt_Requested = false;
+    bool Run_In_Progress = false;
+    bool Press_In_Work = false;             ///< the run button's handler is at work: before, in and behind a run
+    QStringList Video_File_List{QString()}; ///< accepted names; an empty first entry: nothing found
+
+    std::int16_t Files_Total = 0;
+    std::int16_t Files_Left = 0;
+    std::int16_t File_Index = 0;
+    QString Current_Video_Path;
+    bool Source_Deleted = false;
+    bool Ancillary_Deleted = false;
+    bool Attachment_Files_Deleted = false;
+    bool Attachment_Folder_Deleted = false;
+    std::int16_t Digest_Separator_Written = 0;
+    Command_Line Mkvmerge_Arguments; ///< the command of the current mkvmerge run
+    QString Output_Path;             ///< the file that command writes
+
+    bool Strip_Audio_Titles = false; ///< sampled at the press of the button, as the two below
+    bool Strip_Subtitle_Titles = false;
+    bool Add_Attachments_On = false;
+
+    bool Process_Failed = false; ///< a line of mkvmerge's output spoke of a failure
+
+    std::int16_t Pipe_Result = 1;     ///< 0: the last child's pipe could not be made
+    std::int32_t Process_Result = -1; ///< -1: the last child was started; else the system's error number
+    QString Last_Error_Text;
+    std::optional<int> Exit_Status; ///< of the last child: 0 to 255, or minus a signal's number; nothing: never reaped
+
+    bool Kill_By_Name = true; ///< a halt kills every mkvmerge of this user; false: the run's own child only
+    bool Dry_Run = false;     ///< inspect and assemble only: nothing is run, written, converted or trashed
+};

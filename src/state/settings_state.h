@@ -1,0 +1,80 @@
+#pragma once
+
+#include "state/job_options.h"
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <map>
+
+/// The saved place of a secondary form, T:L:W:H:MM in the settings file.
+struct WindowBox
+{
+    std::int32_t Top = 0;
+    std::int32_t Left = 0;
+    std::int32_t Width = 0;
+    std::int32_t Height = 0;
+    std::int32_t MM = 0; ///< 0 normal, 1 minimised, 2 maximised
+    bool HasBox = false; ///< Height is at least 2, for the forms that keep this
+};
+
+/// The option file editor's sticky flags (1 on, 0 off) and texts of one kind of file.
+struct StickyValues
+{
+    std::int16_t Sticky_Titles = 0;
+    std::int16_t Sticky_Languages = 0;
+    std::int16_t Sticky_Default = 0;
+    std::int16_t Sticky_Forced = 0;
+    std::int16_t Sticky_Delay = 0;
+    QString Title;
+    QString Language;
+    QString Default;
+    QString Forced;
+    QString Delay;
+};
+
+/// What this program adds; each is a key of the section "Extensions".
+struct Extension_Switches
+{
+    bool Run_Button_Follows_Folders = true;
+    bool Delete_Source_Only_After_Success = false;
+    bool Identify_With_Any_Mkvmerge = true;
+};
+
+/// All settings that are no options of a run, and where the settings are.
+struct Settings_State
+{
+    QString App_Folder; ///< the program's folder, ending in a separator
+    QString Ini_File;   ///< App_Folder and "Vantorra.ini"
+    bool Save_On_Exit = true;
+    bool Settings_Loaded = false;
+    bool First_Run = false; ///< no settings file was found; until the first activation ends
+    bool Run_Is_Default_Flag = false;
+    QString Version_Banner; ///< "Vantorra ver 2.5.5"
+    QString OS_Version_Text;
+
+    QString Mkvmerge_Path_Ini;                                       ///< the key as read
+    QString lbl_MKVMerge_Choose = QStringLiteral("Set by Operator"); ///< how the path in use came to be
+
+    WindowBox ProcessLog_Box;
+    WindowBox ViewVFI_Box;
+    WindowBox AudioOptionFiles_Box;
+    WindowBox SubtitleOptionFiles_Box;
+    std::int16_t ProcessLog_Font_Size = 10; ///< of lst_ProcessLog
+    std::int16_t ViewVFI_Font_Size = 10;    ///< of txt_VideoInfo
+    bool ProcessLog_Not_First_Run = false;
+    bool ViewVFI_Not_First_Run = false;
+    StickyValues Audio_Sticky;
+    StickyValues Subtitle_Sticky;
+
+    QStringList Source_MRU; ///< cmbo_MRU of frm_SourceMRU, index 0 first
+    QStringList Target_MRU; ///< cmbo_MRU of frm_TargetMRU
+
+    FilterSettings WorkingFilter;
+    bool Frame_Rate_Usable = false;
+    bool Video_Format_Usable = false;
+    Extension_Switches Extensions;
+
+    /// "Section/Key" (lower case) to value: read as if the settings file said so, never written.
+    std::map<QString, QString> Overrides;
+};

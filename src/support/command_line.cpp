@@ -1,0 +1,134 @@
+#include "support/command_line.h"
+
+#include "support/paths.h"
+#include "support/text.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+void Command_Line::Add(const QString& text, const QString& argument)
+{
+    text_.Append(text);
+    arguments_ += argument;
+}
+
+void Command_Line::Add_Options(const QString& text)
+{
+    text_.Append(text);
+    arguments_ += text.split(u' ', Qt::SkipEmptyParts);
+}
+
+void Command_Line::Add_Option(const QString& option, const QString& value)
+{
+    if (Is_Refused(value)) {
+        refusals_ += Refused_Value(option, value);
+        return;
+    }
+    Add_Options(option);
+    Add(value, Argument_Of(value));
+}
+
+void Command_Line::Add_Path(const QString& option, const QString& path)
+{
+    Add_Options(option);
+    Add(Quote_Path(path), path);
+}
+
+void Command_Line::Add_Input(const QString& path)
+{
+    Add(u" ("_s, u"("_s);
+    Add_Path(u" "_s, path);
+    Add(u" )"_s, u")"_s);
+}
+
+QString Command_Line::Argument_Of(const QString& value)
+{
+    QStringView rest = value;
+    if (rest.size() >= 2 && rest.startsWith(u'"') && rest.endsWith(u'"'))
+        rest = rest.mid(1, rest.size() - 2);
+    QString argument;
+    argument.reserve(rest.size());
+    // One pass from the left: the quote of a backslash-quote pair is never counted into three in a row.
+    while (!rest.isEmpty()) {
+        const qsizetype taken = rest.startsWith(u"\\\"") ? 2 : rest.startsWith(u"\"\"\"") ? 3 : 1;
+        argument += taken == 1 ? rest.front() : QChar(u'"');
+        rest = rest.mid(taken);
+    }
+    return argument;
+}
+
+/// True for what mkvmerge's first pass over its arguments may take for an option of its own.
+static bool Reads_Like_An_Option(const QString& argument)
+{
+    static const QRegularExpression option(u"\\A(-[A-Za-z?]|--[a-z]+(-[a-z]+)*)\\z"_s);
+    return argument.startsWith(u'-') && option.match(argument).hasMatch();
+}
+
+/// The most bytes of one argument that the system passes to a child.
+static constexpr qsizetype Longest_Argument = 131'071;
+
+/// Why an argument can't be given to mkvmerge as a value; empty if it can.
+static QString Refusal_Reason(const QString& argument)
+{
+    if (argument.startsWith(u'@'))
+        return u"begins with \"@\", which mkvmerge takes for a file of options."_s;
+    if (Reads_Like_An_Option(argument))
+        return u"reads like an option of mkvmerge."_s;
+    // A child that can't be started would end the whole run.
+    if (argument.size() > Longest_Argument / 4 && argument.toUtf8().size() > Longest_Argument)
+        return u"is longer than the system can pass on."_s;
+    return {};
+}
+
+bool Command_Line::Is_Refused(const QString& value)
+{
+    return !Refusal_Reason(Argument_Of(value)).isEmpty();
+}
+
+QString Command_Line::Refused_Value(const QString& option, const QString& value)
+{
+    constexpr qsizetype longest_quote = 200;
+    const QString argument = Argument_Of(value);
+    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + argument.left(longest_quote) + u"\" "_s +
+           Refusal_Reason(argument);
+}
+
+static bool Is_Plain(QChar character)
+{
+    return character.unicode() < 128 && (character.isLetterOrNumber() || u"_-+=:,./@%"_s.contains(character));
+}
+
+/// What stands for a character between single quotes. A control character but the line feed is spelled out by printf,
+/// so that the words can be shown on a terminal.
+static QString Shell_Letter(QChar letter)
+{
+    if (letter == u'\'')
+        return u"'\\''"_s;
+    if (letter.category() != QChar::Other_Control || letter == u'\n')
+        return letter;
+    QString octal;
+    for (const char byte : QString(letter).toUtf8())
+        octal += u"\\%1"_s.arg(static_cast<unsigned char>(byte), 3, 8, QChar(u'0'));
+    return u"'\"$(printf '%1')\"'"_s.arg(octal);
+}
+
+static QString Shell_Word(const QString& argument)
+{
+    if (!argument.isEmpty() && std::all_of(argument.begin(), argument.end(), Is_Plain))
+        return argument;
+    QString quoted(u'\'');
+    for (const QChar letter : argument)
+        quoted += Shell_Letter(letter);
+    return quoted + u'\'';
+}
+
+QString Shell_Quoted(const QStringList& arguments)
+{
+    QStringList words;
+    words.reserve(arguments.size());
+    for (const QString& argument : arguments)
+        words += Shell_Word(argument);
+    return words.join(u' ');
+}

@@ -1,0 +1,192 @@
+#include "tools/tool_runner.h"
+
+#include "state/program.h"
+#include "support/command_line.h"
+#include "support/console_text.h"
+#include "support/paths.h"
+#include "support/run_time_error.h"
+#include "support/text.h"
+#include "tools/failure_reports.h"
+#include "tools/kill_mkvmerge.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+static constexpr std::size_t Capture_Bytes = 10240;
+static constexpr std::size_t Fresh_Bytes = 30720;
+static constexpr std::size_t Mkvmerge_Bytes = 10240;
+static constexpr int Wait_After_Kill = 1200;
+/// Reads in a row, of 50 ms each, that bring nothing after a halt.
+static constexpr int Silence_After_Halt = 40;
+/// Chunks up to this length are no messages worth keeping.
+static constexpr qsizetype Longest_Dropped_Chunk = 16;
+/// mkvmerge prints "Progress: " ahead of the number.
+static constexpr qsizetype Characters_Before_Percent = 10;
+/// Bytes of a progress chunk that are looked at: no number that a double can hold is longer.
+static constexpr qsizetype Progress_Head = 1024;
+
+/// What a halt does to a child that still prints or is silent.
+enum class On_Halt
+{
+    Let_It_End,
+    Kill_It
+};
+
+/// Starts the child and notes how that went where the callers look for it.
+static bool Start_Child(Run_State& run, Child_Process& child, const QString& executable, const Command_Line& command)
+{
+    run.Exit_Status.reset();
+    const Child_Process::Started started = child.Start(executable, command.Arguments());
+    run.Pipe_Result = started == Child_Process::Started::No_Pipe ? 0 : 1;
+    // For a pipe too: the report that follows quotes the system's words.
+    run.Process_Result = started == Child_Process::Started::Yes ? -1 : child.System_Error();
+    return started == Child_Process::Started::Yes;
+}
+
+/// The halt of an mkvmerge run. Its own child goes first, so that it's gone even where nothing is killed by name.
+static void Kill_Mkvmerge(Program& program, Child_Process& child, const QString& executable)
+{
+    child.Kill();
+    if (program.Run.Kill_By_Name)
+        Kill_By_Executable_Name(executable);
+    program.Person.Wait_With_Events(Wait_After_Kill);
+}
+
+/// What becomes of a chunk, just as a read delivered it; the text is the run's own.
+using Take_Chunk = std::function<void(QByteArrayView bytes, Console_Text& text)>;
+
+/// One run of a tool, whose output goes to `take`.
+static void Run_Tool(Program& program, const QString& executable, const Command_Line& command, std::size_t most,
+                     On_Halt on_halt, const Take_Chunk& take)
+{
+    // An error that unwinds through here kills and reaps the child.
+    Child_Process child;
+    if (!Start_Child(program.Run, child, executable, command))
+        return;
+
+    Console_Text text;
+    QByteArray bytes;
+    int silent_reads = 0;
+    for (;;) {
+        program.Person.Pump_Events();
+        const Child_Process::Read read = child.Read_Chunk(bytes, most);
+        if (read == Child_Process::Read::Ended)
+            break;
+        if (read == Child_Process::Read::Data)
+            take(bytes, text);
+        // A halt lets a capture end by itself, but a tool that hangs would hold the halt up for ever.
+        silent_reads = read == Child_Process::Read::Nothing_Yet && program.Run.Halt_Requested ? silent_reads + 1 : 0;
+        if (silent_reads > Silence_After_Halt) {
+            child.Kill();
+            break;
+        }
+        if (on_halt == On_Halt::Kill_It && program.Run.Halt_Requested) {
+            Kill_Mkvmerge(program, child, executable);
+            program.Run.Exit_Status = child.Exit_Status();
+            return;
+        }
+    }
+
+    // A child that has closed its output and runs on is waited for until a halt.
+    const bool ended = child.Wait([&program] {
+        program.Person.Pump_Events();
+        return !program.Run.Halt_Requested;
+    });
+    if (!ended && on_halt == On_Halt::Kill_It)
+        Kill_Mkvmerge(program, child, executable);
+    else if (!ended)
+        child.Kill();
+    program.Run.Exit_Status = child.Exit_Status();
+}
+
+void Run_Tool_Capture(Program& program, const QString& executable, const Command_Line& command, QString& output)
+{
+    Run_Tool(program, executable, command, Capture_Bytes, On_Halt::Let_It_End,
+             [&output](QByteArrayView bytes, Console_Text& text) { output += text.Decode(bytes); });
+}
+
+void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const Command_Line& command, QString& output)
+{
+    output.clear();
+    Run_Tool(program, executable, command, Fresh_Bytes, On_Halt::Let_It_End,
+             [&output](QByteArrayView bytes, Console_Text& text) { output += text.Decode(bytes); });
+}
+
+/// A value of the percentage's 16-bit arithmetic, rounded half to even. Deliberate: the limit of 327 videos ends the
+/// program, in the middle of a file.
+static int Checked_Percent(const Run_State& run, double value)
+{
+    const double rounded = std::nearbyint(value);
+    if (rounded < INT16_MIN || rounded > INT16_MAX)
+        throw Run_Time_Error(Error_Number::Overflow, u"Working out the percentage while writing"_s, run.Output_Path, {},
+                             u"That file is only half written: delete it. More than 327 videos at a time can't be "
+                             u"counted: move some to another folder."_s);
+    return static_cast<int>(rounded);
+}
+
+/// True if the word "progress" stands in the text, in any case. Looks for its rarest letter.
+static bool Holds_Progress(QByteArrayView bytes)
+{
+    constexpr QByteArrayView word = "progress";
+    constexpr qsizetype place = 3;
+    for (const char letter : {'g', 'G'})
+        for (qsizetype at = bytes.indexOf(letter); at >= 0; at = bytes.indexOf(letter, at + 1))
+            if (at >= place && at - place + word.size() <= bytes.size() &&
+                bytes.sliced(at - place, word.size()).compare(word, Qt::CaseInsensitive) == 0)
+                return true;
+    return false;
+}
+
+/// Keeps a chunk of mkvmerge's output, or drives the percentage with it. A chunk that isn't kept is never made text of.
+///
+/// Deliberate: the whole chunk goes, whatever else it holds, if it speaks of progress or names the program's folder;
+/// for a program in "/" that is every chunk. A video called "Work in progress" loses its messages and shows 0 %.
+static void Take_Mkvmerge_Chunk(Program& program, const QByteArray& own_folder, QByteArrayView bytes,
+                                Console_Text& text)
+{
+    if (Holds_Progress(bytes)) {
+        const QByteArrayView head = bytes.first(std::min(bytes.size(), Progress_Head));
+        const double percent = Number_Prefix(text.Decode(head).mid(Characters_Before_Percent));
+        text.Skip(bytes.sliced(head.size()));
+        Show_Progress(program, Checked_Percent(program.Run, percent), 0);
+    } else if (bytes.contains(own_folder)) {
+        text.Skip(bytes);
+    } else if (const QString& chunk = text.Decode(bytes); chunk.size() > Longest_Dropped_Chunk) {
+        program.Logs.Log_Console.AppendLine(chunk);
+    }
+}
+
+void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command)
+{
+    QByteArray own_folder = program.Settings.App_Folder.toUtf8();
+    own_folder.chop(1);
+    Run_Tool(program, executable, command, Mkvmerge_Bytes, On_Halt::Kill_It,
+             [&program, &own_folder](QByteArrayView bytes, Console_Text& text) {
+                 Take_Mkvmerge_Chunk(program, own_folder, bytes, text);
+             });
+}
+
+void Show_Progress(Program& program, int percent, int total)
+{
+    if (percent < 0)
+        return;
+    const Run_State& run = program.Run;
+    if (total < 1)
+        total = Checked_Percent(run, static_cast<double>(run.Video_File_List.size()) * 100);
+    const int reached = Checked_Percent(run, Checked_Percent(run, run.File_Index * 100) + percent);
+    const double fraction = static_cast<double>(reached) / total;
+    const int overall = Checked_Percent(run, fraction * 100);
+
+    program.Form.Progress = Progress_Look::Running;
+    program.Form.lbl_ProgressFinished.Visible = true;
+    program.Form.lbl_ProgressFinished.Caption = QString::number(overall) + u'%';
+    program.Person.Pump_Events();
+    program.Person.Pump_Events();
+    program.Form.Progress_Fraction = fraction;
+    if (program.Listener)
+        program.Listener->Progress(percent, overall);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "support/child_process.h"
+
+#include <QString>
+#include <QStringList>
+
+struct Program;
+class Command_Line;
+
+/// Runs an outside tool and appends what it prints to `output`, 10,240 bytes a read. Sets Pipe_Result and
+/// Process_Result. A halt is not looked at until the tool has ended.
+void Run_Tool_Capture(Program& program, const QString& executable, const Command_Line& command, QString& output);
+
+/// The same with 30,720 bytes a read and with `output` emptied before the first.
+void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const Command_Line& command, QString& output);
+
+/// Runs mkvmerge: drives the percentage from its progress lines, keeps its messages in Log_Console, and kills it when
+/// a halt is requested, whether or not it prints.
+void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command);
+
+/// Shows the progress of the whole batch for `percent` of the current file. 16-bit arithmetic: error 6 above 327
+/// videos.
+void Show_Progress(Program& program, int percent, int total);

@@ -1,0 +1,316 @@
+#include "workbenches/option_editor.h"
+
+#include "inspect/video_names.h"
+#include "state/program.h"
+#include "support/paths.h"
+#include "support/text.h"
+#include "workbenches/viewer_text_size.h"
+
+#include <QSet>
+#include <algorithm>
+#include <numeric>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+static const Option_Editor_Kind Audio_Kind{
+    .Audio = true,
+    .Media_Masks = u"*.mp3;*.aac;*.ac3;*.m4a;*.mka;*.wav;*.flac;*.ogg;*.dts;*.opus"_s,
+    .Option_Masks = u"*.mp3.opt;*.aac.opt;*.ac3.opt;*.m4a.opt;*.mka.opt;*.wav.opt;*.flac.opt;*.ogg.opt;*.dts.opt;"
+                    u"*.opus.opt"_s,
+    .Media_Count_Text = u"Audio Files found"_s,
+    .Option_Count_Text = u"Audio Options Files found"_s,
+    .Form_Caption = u"Create and Edit Audio Options Files"_s,
+    .Pick_File_Caption = u"Select an Audio File or Options File  (click here to Refresh the List)"_s,
+};
+
+// Deliberate: ".idx" stands in the option masks only, so an ".idx" file's option file is a row without a media file.
+static const Option_Editor_Kind Subtitle_Kind{
+    .Audio = false,
+    .Media_Masks = u"*.srt;*.ssa;*.ass;*.sup;*.mks"_s,
+    .Option_Masks = u"*.srt.opt;*.ssa.opt;*.ass.opt;*.sup.opt;*.idx.opt;*.mks.opt"_s,
+    .Media_Count_Text = u"Subtitle Files found"_s,
+    .Option_Count_Text = u"Subtitle Options Files found"_s,
+    .Form_Caption = u"Create and Edit Subtitle Options Files"_s,
+    .Pick_File_Caption = u"Select a Subtitle File or Options File  (click here to Refresh the List)"_s,
+};
+
+/// The mark of a missing name: sorts behind names that begin with a letter.
+static const QString Missing_Mark = u"~@@@"_s;
+
+// ---- Opening and closing
+
+static StickyValues& Sticky_Of(Program& program)
+{
+    return program.Option_Files.Kind.Audio ? program.Settings.Audio_Sticky : program.Settings.Subtitle_Sticky;
+}
+
+static WindowBox& Box_Of(Program& program)
+{
+    return program.Option_Files.Kind.Audio ? program.Settings.AudioOptionFiles_Box
+                                           : program.Settings.SubtitleOptionFiles_Box;
+}
+
+/// Both open operations. `alternate_on` and `alternate` are the kind's box and its folder.
+static bool Open_Editor(Program& program, const Option_Editor_Kind& kind, bool alternate_on, const QString& alternate)
+{
+    if (alternate_on && alternate.isEmpty())
+        return false;
+    Option_Editor& editor = program.Option_Files;
+    editor.Kind = kind;
+    editor.Folder = alternate_on ? alternate : program.Options.Path_Videos;
+    editor.Sticky = Sticky_Of(program);
+    editor.Box = Box_Of(program);
+    editor.Activated = false;
+    program.Person.Show_Modal(u"frm_OptionsFiles"_s);
+    Sticky_Of(program) = editor.Sticky;
+    Box_Of(program) = editor.Box;
+    return true;
+}
+
+bool Open_Audio_Option_Editor(Program& program, const QString& /*folder_hint*/)
+{
+    return Open_Editor(program, Audio_Kind, program.Options.chk_AudioPath.Value == 1, program.Options.Path_Audios);
+}
+
+bool Open_Subtitle_Option_Editor(Program& program, const QString& /*folder_hint*/)
+{
+    return Open_Editor(program, Subtitle_Kind, program.Options.chk_SubsPath.Value == 1, program.Options.Path_Subtitles);
+}
+
+void Load_Language_Combos(Program& program)
+{
+    Option_Editor& editor = program.Option_Files;
+    editor.cmbo_Language.clear();
+    for (const LanguageRow& row : program.Language_Table)
+        editor.cmbo_Language += row.Name + u" ("_s + row.Iso639_2 + u')';
+    editor.cmbo_Default = {u"no"_s, u"yes"_s};
+    editor.cmbo_Forced = editor.cmbo_Default;
+}
+
+void Activate_Option_Editor(Program& program)
+{
+    Option_Editor& editor = program.Option_Files;
+    if (editor.Activated)
+        return;
+    editor.Activated = true;
+    editor.Folder = With_Separator(editor.Folder);
+    editor.Selected_Indexes.clear();
+    Load_Language_Combos(program);
+    Load_The_Boxes(editor);
+    Show_Text_Size(editor.Font_Size, editor.lbl_FontSize);
+    Scan_Option_Folder(program);
+    editor.Focus = u"btn_Close"_s;
+}
+
+void Close_Option_Editor(Program& program, const WindowBox& place)
+{
+    Option_Editor& editor = program.Option_Files;
+    Save_The_Boxes(editor);
+    editor.Box = place;
+    editor.Activated = false;
+}
+
+// ---- The list
+
+/// Names of a folder's files by masks, without the empty entry that stands for "nothing found".
+static QStringList Names_By_Masks(Program& program, const QString& folder, const QString& masks)
+{
+    QStringList names;
+    Find_Video_Files(program, folder, masks, names);
+    names.removeAll(QString());
+    return names;
+}
+
+void Scan_Option_Folder(Program& program)
+{
+    Option_Editor& editor = program.Option_Files;
+    // Events have their turn while the folder is listed: the rows change all at once.
+    std::vector<OptionFileRow> rows;
+    if (!editor.Folder.isEmpty()) {
+        QSet<QString> paired;
+        for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Media_Masks)) {
+            OptionFileRow row{name, {}};
+            if (const QString option_name = name + u".opt"_s; File_Exists(editor.Folder + option_name)) {
+                row.OptionFileName = option_name;
+                paired += option_name;
+            }
+            rows.push_back(row);
+        }
+        for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Option_Masks))
+            if (!paired.contains(name))
+                rows.push_back({{}, name});
+    }
+    editor.Rows = std::move(rows);
+    Load_lvw_Files(editor);
+    Select_lvw_Files(program);
+}
+
+std::vector<int> MergeSort2(const std::vector<std::array<QString, 2>>& table, std::vector<int> rows, std::size_t column)
+{
+    std::stable_sort(rows.begin(), rows.end(), [&](int one, int other) {
+        return table[static_cast<std::size_t>(one)][column] < table[static_cast<std::size_t>(other)][column];
+    });
+    return rows;
+}
+
+std::array<QString, 2> Sort_Keys(const OptionFileRow& row)
+{
+    return {row.FileName.isEmpty() ? Missing_Mark + row.OptionFileName : row.FileName,
+            row.OptionFileName.isEmpty() ? Missing_Mark : row.OptionFileName};
+}
+
+void Load_lvw_Files(Option_Editor& editor)
+{
+    std::vector<std::array<QString, 2>> table;
+    table.reserve(editor.Rows.size());
+    for (const OptionFileRow& row : editor.Rows)
+        table.push_back(Sort_Keys(row));
+    std::vector<int> order(table.size());
+    std::iota(order.begin(), order.end(), 0);
+    order = MergeSort2(table, MergeSort2(table, std::move(order), 1), 0);
+
+    editor.lvw_Files.clear();
+    editor.lvw_Files.reserve(order.size());
+    for (const int row : order)
+        editor.lvw_Files.push_back(editor.Rows[static_cast<std::size_t>(row)]);
+    editor.Selection.clear();
+}
+
+void Select_lvw_Files(Program& program)
+{
+    const Option_Editor& editor = program.Option_Files;
+    std::vector<int> still_there;
+    for (const int index : editor.Selected_Indexes)
+        if (index < static_cast<int>(editor.lvw_Files.size()))
+            still_there.push_back(index);
+    lvw_Files_Selection_Change(program, std::move(still_there));
+}
+
+// ---- The selection
+
+/// The records of the selected rows; nothing if one of them has no option file.
+static std::optional<std::vector<OptionRecord>> Selected_Records(const Option_Editor& editor)
+{
+    std::vector<OptionRecord> records;
+    for (const OptionFileRow& row : editor.Selected_Rows) {
+        if (row.OptionFileName.isEmpty())
+            return std::nullopt;
+        OptionRecord& record = records.emplace_back();
+        Load_Option_Record(editor.Folder + row.OptionFileName, record);
+    }
+    return records;
+}
+
+void lvw_Files_Selection_Change(Program& program, std::vector<int> selected)
+{
+    Option_Editor& editor = program.Option_Files;
+    std::sort(selected.begin(), selected.end());
+    editor.Selection = selected;
+    editor.Selected_Indexes = std::move(selected);
+    editor.Selected_Rows.clear();
+    for (const int index : editor.Selected_Indexes)
+        editor.Selected_Rows.push_back(editor.lvw_Files[static_cast<std::size_t>(index)]);
+    editor.Selected_Count =
+        Checked_Int16(static_cast<long long>(editor.Selected_Rows.size()), u"Counting the selected files"_s);
+    if (editor.Selected_Rows.empty())
+        return;
+
+    if (const auto records = Selected_Records(editor)) {
+        editor.Current_Options = Merge_Selected_Records(*records);
+        Show_Option_Record(editor);
+    } else {
+        Blank_Boxes(editor);
+    }
+}
+
+OptionRecord Merge_Selected_Records(const std::vector<OptionRecord>& records)
+{
+    struct Field
+    {
+        QString OptionRecord::*Text;
+        Option_Flag Mask;
+    };
+
+    static constexpr Field fields[] = {{&OptionRecord::Title, Title_Flag},     {&OptionRecord::Language, Language_Flag},
+                                       {&OptionRecord::Default, Default_Flag}, {&OptionRecord::Forced, Forced_Flag},
+                                       {&OptionRecord::Delay, Delay_Flag},     {&OptionRecord::Stretch, Stretch_Flag}};
+    OptionRecord merged;
+    if (records.empty())
+        return merged;
+    for (const Field& field : fields) {
+        const QString& text = records.front().*field.Text;
+        const bool agreed = std::all_of(records.begin(), records.end(),
+                                        [&](const OptionRecord& record) { return record.*field.Text == text; });
+        if (agreed)
+            merged.*field.Text = text;
+        Set_Option_Flag(merged, field.Mask, agreed && !text.isEmpty());
+    }
+    if (records.size() == 1)
+        merged.Comments = records.front().Comments;
+    return merged;
+}
+
+// ---- Writing
+
+/// The path that a row's option file has, or will have.
+static QString Option_Path(const Option_Editor& editor, const OptionFileRow& row)
+{
+    return editor.Folder + (row.OptionFileName.isEmpty() ? row.FileName + u".opt"_s : row.OptionFileName);
+}
+
+/// The boxes' texts by slot: all five, or only those of set boxes.
+static Option_Values Box_Values(const Option_Editor& editor, bool set_only)
+{
+    Option_Values values;
+    for (std::size_t slot = 0; slot < Option_Slot_Count; ++slot)
+        if (!set_only || editor.Boxes[slot].Set)
+            values[slot] = editor.Boxes[slot].Text;
+    return values;
+}
+
+/// Several rows at once. Deliberate: a row without an option file gains a name in the list even if nothing is written
+/// for it, until the next scan; the list isn't scanned again.
+static void Apply_To_Several(Option_Editor& editor)
+{
+    const Option_Values values = Box_Values(editor, true);
+    for (std::size_t at = 0; at < editor.Selected_Rows.size(); ++at) {
+        OptionFileRow& row = editor.Selected_Rows[at];
+        if (row.OptionFileName.isEmpty()) {
+            row.OptionFileName = row.FileName + u".opt"_s;
+            editor.lvw_Files[static_cast<std::size_t>(editor.Selected_Indexes[at])] = row;
+        }
+        Merge_Option_File(Option_Path(editor, row), values);
+    }
+}
+
+/// One row: its option file says what the boxes say, and is gone if they say nothing.
+static void Apply_To_One(Program& program)
+{
+    const Option_Editor& editor = program.Option_Files;
+    const QString path = Option_Path(editor, editor.Selected_Rows.front());
+    const Option_Write_Status status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults);
+    if (status == Option_Write_Status::Nothing_To_Write)
+        return;
+    if (status == Option_Write_Status::Not_Recycled)
+        program.Person.Show_Message({.Title = u"The options file is still there."_s,
+                                     .Text = u"It has nothing to say any more, but the trash didn't take it, so it "
+                                             "stays as it was:\r\n\r\n"_s +
+                                             path + u"\r\n\r\nMake room in the trash and apply again, or delete it."_s,
+                                     .Icon = Message_Icon::Exclamation});
+    Scan_Option_Folder(program);
+}
+
+void btn_Apply_Click(Program& program)
+{
+    Option_Editor& editor = program.Option_Files;
+    if (editor.Selected_Count == 0)
+        return;
+    Read_Boxes(editor);
+    if (editor.Selected_Count == 1) {
+        Apply_To_One(program);
+    } else {
+        Apply_To_Several(editor);
+    }
+    editor.Focus = u"btn_Close"_s;
+}

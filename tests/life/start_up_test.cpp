@@ -1,0 +1,275 @@
+#include "life/start_up.h"
+
+#include "common/test_program.h"
+#include "life/app_folder.h"
+#include "life/help_and_about.h"
+#include "life/instance_lock.h"
+#include "settings/settings_store.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(AppFolder, TheFirstPlaceThatIsGivenCounts)
+{
+    const Test_Program test;
+    test.Write(u"portable/Vantorra.ini"_s);
+    const QString portable = test.Path(u"portable"_s);
+    const QString plain = test.Path(u"app"_s);
+
+    struct Claim
+    {
+        App_Folder_Places Places;
+        QString Folder;
+    };
+
+    const Claim claims[] = {
+        {{u"/asked"_s, u"/env"_s, portable, u"/data"_s}, u"/asked/"_s},
+        {{u"/asked/./a//"_s, {}, {}, u"/data"_s}, u"/asked/a/"_s},
+        {{u"here"_s, {}, {}, u"/data"_s}, QDir::currentPath() + u"/here/"_s},
+        {{{}, u"/env"_s, portable, u"/data"_s}, u"/env/"_s},
+        {{{}, {}, portable, u"/data"_s}, portable + u'/'},
+        {{{}, {}, plain, u"/data"_s}, u"/data/vantorra/"_s},
+    };
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Choose_App_Folder(claim.Places), claim.Folder);
+}
+
+TEST(InstanceLock, OneWindowAFolderAndACrashBlocksNobody)
+{
+    const Test_Program test;
+    const pid_t crashed = fork();
+    if (crashed == 0) {
+        Instance_Lock lock;
+        lock.Take(test.Path(u"app/"_s));
+        _exit(0); // without letting go of it
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(crashed, &status, 0), crashed);
+    ASSERT_TRUE(QFile::exists(test.Path(u"app/Vantorra.lock"_s)));
+    {
+        Instance_Lock first;
+        EXPECT_TRUE(first.Take(test.Path(u"app/"_s))) << "the holder is dead";
+        Instance_Lock second;
+        EXPECT_FALSE(second.Take(test.Path(u"app/"_s)));
+        Instance_Lock elsewhere;
+        EXPECT_TRUE(elsewhere.Take(test.Path(u"videos/"_s)));
+    }
+    Instance_Lock later;
+    EXPECT_TRUE(later.Take(test.Path(u"app/"_s)));
+}
+
+TEST(StartUp, WithoutASettingsFileOneIsWrittenReadBackAndTheFormCentred)
+{
+    Test_Program test;
+    test.Prog.Settings.App_Folder = test.Path(u"new/folder/"_s);
+    test.Prog.Form.Screen = {.Left = 100, .Top = 0, .Width = 1000, .Height = 900};
+    test.Prog.Form.Place = {.Left = 0, .Top = 0, .Width = 800, .Height = 600};
+    ASSERT_TRUE(Start_Up(test.Prog, nullptr));
+    const Ini_Document document = Load_Ini_File(test.Path(u"new/folder/Vantorra.ini"_s));
+    EXPECT_EQ(document.Value(u"MainWindow"_s, u"Left"_s), u"200"_s);
+    EXPECT_EQ(document.Value(u"MainWindow"_s, u"Top"_s), u"100"_s) << "a third of the room stands above";
+    EXPECT_EQ(document.Value(u"Other Options"_s, u"Remove All Original Tags"_s), u"Off"_s);
+    EXPECT_EQ(test.Prog.Options.chk_RemoveAllTags.Value, 0) << "what was written is what was read";
+    EXPECT_EQ(test.Prog.Options.Split_Minutes, u"30"_s);
+    EXPECT_TRUE(test.Prog.Settings.First_Run);
+    EXPECT_EQ(test.Prog.Form.Caption, u"Vantorra ver 2.5.5                Runs a batch of files through MKVmerge"_s);
+    EXPECT_TRUE(test.Prog.Form.mnu_OSVersion.Caption.startsWith(u"OS Version - "_s));
+    EXPECT_FALSE(test.Prog.Form.Options_Ready);
+
+    First_Activation(test.Prog);
+    EXPECT_EQ(test.Prog.Form.Place.Top, 150);
+    EXPECT_FALSE(test.Prog.Settings.First_Run);
+    EXPECT_TRUE(test.Prog.Form.Options_Ready);
+
+    test.Prog.Form.Place.Top = 7;
+    First_Activation(test.Prog);
+    EXPECT_EQ(test.Prog.Form.Place.Top, 7) << "later activations leave the form where it is";
+}
+
+TEST(StartUp, ADryRunReadsTheFirstFileWithoutWritingIt)
+{
+    Test_Program test;
+    test.Prog.Settings.App_Folder = test.Path(u"new/"_s);
+    test.Prog.Run.Dry_Run = true;
+    Load_Settings(test.Prog);
+    EXPECT_EQ(test.Prog.Options.chk_RemoveAllTags.Value, 0);
+    EXPECT_FALSE(QFile::exists(test.Path(u"new"_s)));
+    EXPECT_TRUE(test.Person.Messages.empty());
+}
+
+TEST(StartUp, AFolderThatCantBeWrittenIsToldAndTheProgramStarts)
+{
+    Test_Program test;
+    test.Write(u"file"_s);
+    test.Prog.Settings.App_Folder = test.Path(u"file/"_s);
+    Load_Settings(test.Prog);
+    ASSERT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_TRUE(test.Person.Messages[0].Text.contains(test.Path(u"file/Vantorra.ini"_s)));
+    EXPECT_TRUE(test.Prog.Settings.Settings_Loaded);
+}
+
+TEST(StartUp, ASecondWindowOnTheFolderDoesNothing)
+{
+    Test_Program test;
+    Instance_Lock first;
+    ASSERT_TRUE(first.Take(test.Prog.Settings.App_Folder));
+    Instance_Lock second;
+    EXPECT_FALSE(Start_Up(test.Prog, &second));
+    EXPECT_FALSE(QFile::exists(test.Prog.Settings.Ini_File));
+    EXPECT_TRUE(test.Person.Messages.empty());
+}
+
+TEST(StartUp, ATargetThatIsTheSourceIsEmptiedAndTheRunButtonFollows)
+{
+    for (const bool follows : {true, false}) {
+        Test_Program test;
+        const QByteArray videos = test.Path(u"videos/"_s).toUtf8();
+        test.Write(u"app/Vantorra.ini"_s,
+                   "[MainWindow]\nLeft=0\nTop=0\nWidth=1\nHeight=1\n[Most Recently Used Sources]\nMRU Sources=" +
+                       videos + "\n[Most Recently Used Destinations]\nMRU Targets=" + videos +
+                       "\n[Extensions]\nRun Button Follows Folders=" + (follows ? "On" : "Off") + "\n");
+        ASSERT_TRUE(Start_Up(test.Prog, nullptr));
+        EXPECT_EQ(test.Prog.Options.Path_Target, u""_s);
+        EXPECT_EQ(test.Prog.Form.btn_RunVantorra.Enabled, !follows);
+    }
+}
+
+TEST(ShutDown, TheCloseBoxIsRefusedAndEveryOtherCloseSaves)
+{
+    Test_Program test;
+    Load_Settings(test.Prog);
+    test.Prog.Options.Custom_File_Title = u"new"_s;
+    const auto title = [&] {
+        return Load_Ini_File(test.Prog.Settings.Ini_File).Value(u"Other Options"_s, u"Set Custom File Title Text"_s);
+    };
+    EXPECT_FALSE(Query_Unload(test.Prog, Close_Reason::Close_Box));
+    test.Prog.Run.Run_In_Progress = true;
+    EXPECT_FALSE(Query_Unload(test.Prog));
+    test.Prog.Run.Run_In_Progress = false;
+    test.Prog.Run.Press_In_Work = true;
+    EXPECT_FALSE(Query_Unload(test.Prog)) << "the run about to begin would go on without a window";
+    EXPECT_EQ(title(), u""_s);
+    test.Prog.Run.Press_In_Work = false;
+    test.Prog.Form.Topmost_On = test.Person.Topmost = true;
+    EXPECT_TRUE(Query_Unload(test.Prog));
+    EXPECT_EQ(title(), u"new"_s);
+    EXPECT_FALSE(test.Person.Topmost);
+    Unload(test.Prog);
+    EXPECT_TRUE(test.Prog.Form.Closing);
+}
+
+TEST(ShutDown, WithoutSavingTheFirstKeyIsWrittenAllTheSame)
+{
+    Test_Program test;
+    Load_Settings(test.Prog);
+    test.Prog.Settings.Save_On_Exit = false;
+    test.Prog.Options.Custom_File_Title = u"new"_s;
+    EXPECT_TRUE(Query_Unload(test.Prog));
+    const Ini_Document document = Load_Ini_File(test.Prog.Settings.Ini_File);
+    EXPECT_EQ(document.Value(u"MainWindow"_s, u"Save Settings on Exit"_s), u"False"_s);
+    EXPECT_EQ(document.Value(u"Other Options"_s, u"Set Custom File Title Text"_s), u""_s);
+}
+
+TEST(ShutDown, ThePictureButtonGivesUpTheTopmostState)
+{
+    Test_Program test;
+    test.Prog.Form.Topmost_On = test.Person.Topmost = true;
+    img_Quit_Click(test.Prog);
+    EXPECT_FALSE(test.Person.Topmost || test.Prog.Form.Topmost_On);
+    mnu_Quit_Click(test.Prog);
+    EXPECT_EQ(test.Person.Unloads, 2);
+}
+
+TEST(MainFormKeys, ActByWhetherARunGoesOn)
+{
+    struct Claim
+    {
+        Key_Press Press;
+        bool In_Run;
+        bool Halt;
+        int Top;
+        int Unloads;
+    };
+
+    const Key_Modifiers none{};
+    const Key_Modifiers shift{.Shift = true};
+    const Key_Modifiers alt{.Alt = true};
+    const Claim claims[] = {
+        {{Key::F12, none}, false, false, 240, 0},  {{Key::F12, shift}, false, false, 3, 0},
+        {{Key::F12, none}, true, false, 3, 0},     {{Key::F4, alt}, false, false, 3, 1},
+        {{Key::F4, none}, false, false, 3, 0},     {{Key::F4, alt}, true, false, 3, 0},
+        {{Key::Escape, none}, true, true, 3, 0},   {{Key::Escape, shift}, true, false, 3, 0},
+        {{Key::Escape, none}, false, false, 3, 0}, {{Key::Other, none}, true, false, 3, 0},
+    };
+    for (const Claim& claim : claims) {
+        Test_Program test;
+        test.Prog.Form.Place = {.Left = 3, .Top = 3, .Width = 800, .Height = 600};
+        test.Prog.Run.Run_In_Progress = claim.In_Run;
+        Form_Key_Down(test.Prog, claim.Press);
+        EXPECT_EQ(test.Prog.Form.Place.Top, claim.Top);
+        EXPECT_EQ(test.Person.Unloads, claim.Unloads);
+        EXPECT_EQ(test.Prog.Run.Halt_Requested, claim.Halt);
+        EXPECT_EQ(test.Prog.Form.btn_Halt.Caption, claim.Halt ? u"HALTING"_s : u"HALT"_s);
+    }
+}
+
+TEST(Help, OpensTheFileOrSaysThatItCouldNot)
+{
+    Test_Program test;
+    const QString folder = test.Path(u"app"_s);
+    const QString name = u"Vantorra 2.5.5 Help.html"_s;
+    EXPECT_EQ(Find_Help_File(folder, {test.Path(u"none"_s)}), test.Path(u"app/"_s + name));
+    const QString installed = test.Write(u"share/"_s + name);
+    EXPECT_EQ(Find_Help_File(folder, {test.Path(u"none"_s), test.Path(u"share"_s)}), installed);
+    const QString own = test.Write(u"app/"_s + name);
+    EXPECT_EQ(Find_Help_File(folder, {test.Path(u"share"_s)}), own);
+
+    // The build lays a help file beside the tests, so it is a document that doesn't open which stands for a missing
+    // one.
+    test.Person.Document_Opens = false;
+    mnu_Help_Click(test.Prog);
+    ASSERT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_EQ(test.Person.Messages[0].Title, u"Can't find the current Help File!"_s);
+    EXPECT_EQ(test.Person.Messages[0].Text,
+              u"The help file \""_s + own + u"\" can not be found\r\n in this program's directory."_s);
+    EXPECT_EQ(test.Person.Messages[0].Buttons, Message_Buttons::Ok_Cancel);
+
+    test.Person.Document_Opens = true;
+    test.Person.Opened_Documents.clear();
+    mnu_Help_Click(test.Prog);
+    EXPECT_EQ(test.Person.Opened_Documents, QStringList{own});
+    EXPECT_EQ(test.Person.Messages.size(), 1U);
+}
+
+TEST(AboutBox, ClosesByItselfAfterSevenTicks)
+{
+    Test_Program test;
+    test.Prog.Now = [] { return QDateTime(QDate(2026, 3, 7), QTime(1, 2)); };
+    test.Prog.Form.Topmost_On = test.Person.Topmost = true;
+    mnu_AboutProgram_Click(test.Prog);
+    const About_Form& form = test.Prog.About_Box;
+    EXPECT_EQ(test.Person.Forms, QStringList{u"frm_Splash"_s});
+    EXPECT_EQ(form.lbl_Version.Caption, u"Version 2.5.5"_s);
+    EXPECT_EQ(form.lbl_Author.Caption, u"By Zarnegar   Saturday, March 07, 2026"_s);
+    Tick_About_Box(test.Prog);
+    EXPECT_EQ(form.lbl_Countdown.Caption, u""_s) << "nothing counts before the first activation";
+    Activate_About_Box(test.Prog);
+    EXPECT_EQ(form.lbl_Countdown.Caption, u"8"_s);
+    EXPECT_FALSE(test.Person.Topmost);
+    for (int tick = 0; tick < 6; ++tick)
+        Tick_About_Box(test.Prog);
+    EXPECT_TRUE(form.Visible);
+    Tick_About_Box(test.Prog);
+    EXPECT_FALSE(form.Visible || form.Timer1_Running);
+    EXPECT_TRUE(test.Person.Topmost);
+
+    mnu_AboutProgram_Click(test.Prog);
+    Activate_About_Box(test.Prog);
+    Close_About_Box(test.Prog);
+    EXPECT_FALSE(form.Visible || form.Timer1_Running) << "a click closes it at once";
+}

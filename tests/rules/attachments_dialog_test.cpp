@@ -1,0 +1,110 @@
+#include "rules/attachments_dialog.h"
+
+#include "common/test_program.h"
+#include "support/drop_data.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+struct AttachmentsDialog : testing::Test, Test_Program
+{
+    AttachmentsDialog()
+    {
+        Folder = Path(u"fonts/"_s);
+        Write(u"fonts/a.ttf"_s);
+    }
+
+    /// The state that belongs to a folder, or to none.
+    void Expect_Applied(const QString& path) const
+    {
+        const bool set = !path.isEmpty();
+        const Attachments_Form& form = Prog.Attachments_Dialog;
+        EXPECT_EQ(Prog.Options.Path_Attachments, path);
+        EXPECT_EQ(form.lbl_AttachmentsPath.Caption, path);
+        EXPECT_EQ(form.lbl_AttachmentsPathFault.Visible, !set);
+        EXPECT_EQ(form.lbl_UseSubfolders.Enabled, set);
+        EXPECT_EQ(Prog.Options.chk_UseSubfolders.Enabled, set);
+        EXPECT_EQ(Prog.Options.chk_AddAttachments.Enabled, set);
+        EXPECT_EQ(Prog.Options.chk_AddAttachments.Caption,
+                  set ? u"Add Attachments (path set)"_s : u"Add Attachments (path not set)"_s);
+    }
+
+    QString Folder;
+};
+
+TEST_F(AttachmentsDialog, OpensWithTheFolderOrSaysThatThereIsNone)
+{
+    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Caption, u"Attachment path not set!"_s);
+    Open_Attachments_Dialog(Prog);
+    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Caption, u"Attachment path NOT set!"_s);
+    EXPECT_FALSE(Prog.Options.chk_UseSubfolders.Enabled);
+    EXPECT_TRUE(Prog.Options.chk_AddAttachments.Enabled); // the main form isn't touched at the opening
+    Prog.Options.Path_Attachments = Folder;
+    Open_Attachments_Dialog(Prog);
+    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPath.Caption, Folder);
+    EXPECT_FALSE(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Visible);
+    EXPECT_TRUE(Prog.Options.chk_UseSubfolders.Enabled);
+}
+
+TEST_F(AttachmentsDialog, RestoreGivesBackWhatClearTook)
+{
+    Prog.Options.Path_Attachments = Folder;
+    Prog.Options.chk_AddAttachments.Value = 1;
+    Prog.Options.Add_Attachments_On = true;
+    btn_Attachments_Restore_Click(Prog);
+    EXPECT_EQ(Prog.Options.Path_Attachments, Folder);
+    btn_Attachments_Clear_Click(Prog);
+    Expect_Applied(u""_s);
+    EXPECT_EQ(Prog.Options.chk_AddAttachments.Value, 0);
+    EXPECT_FALSE(Prog.Options.Add_Attachments_On);
+    EXPECT_EQ(Prog.Attachments_Dialog.Focus, u"cmd_Done"_s);
+    btn_Attachments_Restore_Click(Prog);
+    Expect_Applied(Folder);
+    EXPECT_EQ(Prog.Options.chk_AddAttachments.Value, 0);
+}
+
+TEST_F(AttachmentsDialog, ABrowseAppliesWhatWasChosenAndACancelWhatIsThere)
+{
+    mnu_PopupAttachBrowse1_Click(Prog);
+    Expect_Applied(u""_s);
+    EXPECT_EQ(Person.Folder_Questions.back(), std::pair(u"Select the Attachment folder."_s, u"/"_s));
+    Person.Folder_Answer = Path(u"fonts"_s);
+    mnu_PopupAttachBrowse1_Click(Prog);
+    Expect_Applied(Folder);
+    Person.Folder_Answer.clear();
+    mnu_PopupAttachBrowse1_Click(Prog);
+    Expect_Applied(Folder);
+    EXPECT_EQ(Person.Folder_Questions.back().second, Folder);
+}
+
+TEST_F(AttachmentsDialog, ADropTakesAFolderAndRefusesAllElse)
+{
+    Drop_On_Attachments_Panel(Prog, {.Has_File_List = true, .Paths = {Path(u"fonts"_s)}});
+    Expect_Applied(Folder);
+    for (const Drop_Data& data : {Drop_Data{.Has_File_List = true, .Paths = {Path(u"fonts/a.ttf"_s)}},
+                                  Drop_Data{.Has_File_List = true, .Paths = {Path(u"gone"_s)}}, Drop_Data{}}) {
+        Apply_Attachment_Path(Prog);
+        Drop_On_Attachments_Panel(Prog, data);
+        EXPECT_EQ(Prog.Options.Path_Attachments, Folder); // ignored, only shown as not set
+        EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPath.Caption, u""_s);
+        EXPECT_TRUE(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Visible);
+        EXPECT_FALSE(Prog.Options.chk_UseSubfolders.Enabled);
+        EXPECT_TRUE(Prog.Options.chk_AddAttachments.Enabled);
+    }
+}
+
+TEST_F(AttachmentsDialog, DoneFallsBackToNotSetIfTheFolderHasVanished)
+{
+    Prog.Options.Path_Attachments = Folder;
+    Open_Attachments_Dialog(Prog);
+    cmd_Attachments_Done_Click(Prog);
+    EXPECT_EQ(Prog.Options.chk_AddAttachments.Caption, u"Add Attachments (path set)"_s);
+    EXPECT_FALSE(Prog.Attachments_Dialog.Visible);
+    QDir(Folder).removeRecursively();
+    Open_Attachments_Dialog(Prog);
+    cmd_Attachments_Done_Click(Prog);
+    EXPECT_EQ(Prog.Options.chk_AddAttachments.Caption, u"Add Attachments (path not set)"_s);
+    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPath.Caption, u""_s);
+}

@@ -1,0 +1,234 @@
+#include "rules/folder_changes.h"
+
+#include "common/test_program.h"
+#include "settings/recent_lists.h"
+#include "support/drop_data.h"
+#include "support/text.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+struct FolderChanges : testing::Test, Test_Program
+{
+    FolderChanges()
+    {
+        QDir().mkpath(Path(u"new"_s));
+        Write(u"new/film.mkv"_s);
+    }
+
+    Drop_Data Dropped(const QString& relative) const { return {.Has_File_List = true, .Paths = {Path(relative)}}; }
+};
+
+TEST_F(FolderChanges, ADropYieldsTheFolderOfItsFirstItem)
+{
+    struct Claim
+    {
+        Drop_Data Data;
+        bool Allowed, Taken;
+        QString Path;
+    };
+
+    Write(u"a b%20c/x.mkv"_s);
+    const Claim claims[] = {
+        {Dropped(u"new"_s), true, true, Path(u"new/"_s)},
+        {Dropped(u"new/"_s), true, true, Path(u"new/"_s)},
+        {Dropped(u"new/film.mkv"_s), true, true, Path(u"new/"_s)},
+        {Dropped(u"gone"_s), true, true, u""_s}, // never "/"
+        {{.Has_File_List = true, .Paths = {}}, true, true, u""_s},
+        {{.Has_File_List = true, .Paths = {Path(u"target"_s), Path(u"new"_s)}}, true, true, Path(u"target/"_s)},
+        {{.Has_File_List = false, .Paths = {Path(u"new"_s)}}, true, false, u""_s},
+        {Dropped(u"new"_s), false, false, u""_s},
+        {Drop_Data_Of({QUrl::fromLocalFile(Path(u"a b%20c"_s))}), true, true, Path(u"a b%20c/"_s)},
+        {Drop_Data_Of({QUrl(u"https://example.org/new"_s), QUrl::fromLocalFile(Path(u"new"_s))}), true, true, u""_s},
+        {Drop_Data_Of({}), true, false, u""_s},
+    };
+    for (const Claim& claim : claims) {
+        QString path = u"before"_s;
+        EXPECT_EQ(Drop_Folder(claim.Data, claim.Allowed, path), claim.Taken);
+        EXPECT_EQ(path, claim.Path);
+    }
+}
+
+TEST_F(FolderChanges, ADropOfAFileWantsAFile)
+{
+    QString path;
+    EXPECT_TRUE(Drop_File(Dropped(u"new/film.mkv"_s), true, path));
+    EXPECT_EQ(path, Path(u"new/film.mkv"_s));
+    for (const Drop_Data& data : {Dropped(u"new"_s), Dropped(u"gone.mkv"_s), Drop_Data{}}) {
+        EXPECT_FALSE(Drop_File(data, true, path));
+        EXPECT_EQ(path, u""_s);
+    }
+    EXPECT_FALSE(Drop_File(Dropped(u"new/film.mkv"_s), false, path));
+}
+
+TEST_F(FolderChanges, ADropPutsTheOldPathIntoTheRecentListAndTestsTheRunButton)
+{
+    const QString old = Prog.Options.Path_Videos;
+    Prog.Settings.Extensions.Run_Button_Follows_Folders = false; // a drop tests it all the same
+    Prog.Form.btn_RunVantorra.Enabled = false;
+    Prog.Settings.Source_MRU = {u"/x/"_s, Path(u"new/"_s), u""_s, old};
+    Drop_On_Videos_Panel(Prog, Dropped(u"new/film.mkv"_s));
+    EXPECT_EQ(Prog.Options.Path_Videos, Path(u"new/"_s));
+    EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Path(u"new/"_s));
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
+    EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{old, u"/x/"_s, u""_s}));
+    EXPECT_TRUE(Prog.Form.btn_RunVantorra.Enabled);
+    EXPECT_EQ(Prog.Form.Focus, u"btn_NOP"_s);
+
+    Drop_On_Videos_Panel(Prog, Dropped(u"new"_s));
+    Drop_On_Videos_Panel(Prog, Dropped(u"new"_s));
+    EXPECT_EQ(Prog.Settings.Source_MRU.count(Path(u"new/"_s)), 1);
+}
+
+TEST_F(FolderChanges, AFirstDropLeavesAnEmptyItemAtTheTop)
+{
+    Prog.Options.Path_Target.clear();
+    Prog.Settings.Target_MRU = {u"/x/"_s};
+    Drop_On_Target_Panel(Prog, Dropped(u"new"_s));
+    EXPECT_EQ(Prog.Settings.Target_MRU, (QStringList{u""_s, u"/x/"_s}));
+    EXPECT_EQ(Recent_Targets_Value(Prog), Path(u"new/"_s) + u";/x/"_s);
+}
+
+TEST_F(FolderChanges, NeitherDropNorBrowseLetsARecentListGrowPastFourteen)
+{
+    for (int i = 0; i < 40; ++i) {
+        QDir().mkpath(Path(u"f%1"_s.arg(i)));
+        Drop_On_Videos_Panel(Prog, Dropped(u"f%1"_s.arg(i)));
+        Person.Folder_Answer = Path(u"f%1"_s.arg(i));
+        mnu_PopupTargetBrowse1_Click(Prog);
+    }
+    EXPECT_EQ(Prog.Settings.Source_MRU.size(), 14);
+    EXPECT_EQ(Prog.Settings.Source_MRU.constFirst(), Path(u"f38/"_s));
+    EXPECT_EQ(Prog.Settings.Target_MRU.size(), 14);
+    EXPECT_EQ(Prog.Settings.Target_MRU.constFirst(), Path(u"f39/"_s));
+}
+
+TEST_F(FolderChanges, ABadDropIsToldAndOnlyCompanionFoldersTakeIt)
+{
+    struct Claim
+    {
+        void (*Drop)(Program&, const Drop_Data&);
+        QString JobOptions::*Path;
+        int Code;
+        bool Taken; ///< the empty text is stored
+    };
+
+    const Claim claims[] = {{Drop_On_Videos_Panel, &JobOptions::Path_Videos, 401, false},
+                            {Drop_On_Audio_Panel, &JobOptions::Path_Audios, 402, true},
+                            {Drop_On_Subs_Panel, &JobOptions::Path_Subtitles, 403, true},
+                            {Drop_On_Chapters_Panel, &JobOptions::Path_Chapters, 404, true},
+                            {Drop_On_Target_Panel, &JobOptions::Path_Target, 405, false}};
+    for (const Claim& claim : claims) {
+        QString& path = Prog.Options.*claim.Path;
+        path = Path(u"target/"_s);
+        claim.Drop(Prog, Dropped(u"gone"_s));
+        ASSERT_FALSE(Person.Messages.empty());
+        EXPECT_EQ(Person.Messages.back().Code, claim.Code);
+        EXPECT_EQ(path, claim.Taken ? u""_s : Path(u"target/"_s));
+
+        const std::size_t messages = Person.Messages.size();
+        claim.Drop(Prog, Dropped(u"new"_s));
+        EXPECT_EQ(path, Path(u"new/"_s));
+        Prog.Run.Run_In_Progress = true;
+        claim.Drop(Prog, Dropped(u"gone"_s));
+        claim.Drop(Prog, Dropped(u"videos"_s));
+        Prog.Run.Run_In_Progress = false;
+        EXPECT_EQ(path, Path(u"new/"_s));
+        EXPECT_EQ(Person.Messages.size(), messages);
+    }
+}
+
+TEST_F(FolderChanges, ADropDoesNotRefuseATargetThatIsTheSource)
+{
+    Drop_On_Target_Panel(Prog, Dropped(u"videos"_s));
+    EXPECT_EQ(Prog.Options.Path_Target, Prog.Options.Path_Videos);
+}
+
+TEST_F(FolderChanges, ABrowseStartsAtItsFolderAndPutsTheNewPathIntoTheRecentList)
+{
+    Prog.Settings.Source_MRU = {u"/x/"_s, Path(u"new/"_s)};
+    Prog.Form.btn_RunVantorra.Enabled = false;
+    Person.Folder_Answer = Path(u"new"_s);
+    mnu_PopupVideoBrowse1_Click(Prog);
+    EXPECT_EQ(Person.Folder_Questions.back().first,
+              u"Select the folder of Video Files.\r\nIt CANNOT be the same as the Target path."_s);
+    EXPECT_EQ(Person.Folder_Questions.back().second, Path(u"videos/"_s));
+    EXPECT_EQ(Prog.Options.Path_Videos, Path(u"new/"_s));
+    EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Path(u"new/"_s));
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
+    EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{Path(u"new/"_s), u"/x/"_s}));
+    EXPECT_TRUE(Prog.Form.btn_RunVantorra.Enabled); // the extension's doing
+
+    Prog.Settings.Extensions.Run_Button_Follows_Folders = false;
+    Prog.Form.btn_RunVantorra.Enabled = false;
+    mnu_PopupVideoBrowse1_Click(Prog);
+    EXPECT_FALSE(Prog.Form.btn_RunVantorra.Enabled);
+}
+
+TEST_F(FolderChanges, ABrowsedTargetThatIsTheSourceIsEmptied)
+{
+    Person.Folder_Answer = Path(u"videos"_s);
+    mnu_PopupTargetBrowse1_Click(Prog);
+    EXPECT_EQ(Person.Folder_Questions.back().first, u"Select a Target Folder to hold your processed files.\r\n"
+                                                    "It CANNOT be the same as the Video Files path."_s);
+    EXPECT_EQ(Prog.Options.Path_Target, u""_s);
+    EXPECT_EQ(Prog.Form.ulbl_TargetPath.Caption, u""_s);
+    EXPECT_EQ(Prog.Form.lbl_TargetPathFault.Caption, u"Target Path Not Set"_s);
+    EXPECT_FALSE(Prog.Form.btn_RunVantorra.Enabled);
+}
+
+TEST_F(FolderChanges, ACancelledBrowseSaysVideoPathNotSetForBothFolders)
+{
+    Prog.Options.Path_Videos.clear();
+    for (const auto browse : {mnu_PopupVideoBrowse1_Click, mnu_PopupTargetBrowse1_Click}) {
+        Label& fault =
+            browse == mnu_PopupVideoBrowse1_Click ? Prog.Form.lbl_VideoPathFault : Prog.Form.lbl_TargetPathFault;
+        Label& shown = browse == mnu_PopupVideoBrowse1_Click ? Prog.Form.ulbl_VideosPath : Prog.Form.ulbl_TargetPath;
+        fault = {.Caption = u"old"_s, .Visible = false};
+        shown.Caption = u"/shown/"_s;
+        browse(Prog);
+        EXPECT_EQ(fault.Caption, u"old"_s);
+        shown.Caption.clear();
+        browse(Prog);
+        EXPECT_EQ(fault.Caption, u"Video Path Not Set"_s);
+        EXPECT_TRUE(fault.Visible);
+    }
+    EXPECT_EQ(Person.Folder_Questions.front().second, Prog.Settings.App_Folder);
+    EXPECT_TRUE(Prog.Settings.Source_MRU.isEmpty());
+}
+
+TEST_F(FolderChanges, ABrowsedCompanionFolderIsTakenUnchecked)
+{
+    struct Claim
+    {
+        void (*Browse)(Program&);
+        QString JobOptions::*Path;
+        Label Main_Form::*Shown;
+        Label Main_Form::*Fault;
+        QString Title;
+    };
+
+    const Claim claims[] = {{mnu_PopupAudioBrowse1_Click, &JobOptions::Path_Audios, &Main_Form::ulbl_AudioPath,
+                             &Main_Form::lbl_AudioPathFault, u"Select the folder of Audio Files."_s},
+                            {mnu_PopupSubsBrowse1_Click, &JobOptions::Path_Subtitles, &Main_Form::ulbl_SubsPath,
+                             &Main_Form::lbl_SubsPathFault, u"Select the folder of Subtitle Files."_s},
+                            {mnu_PopupChapsBrowse1_Click, &JobOptions::Path_Chapters, &Main_Form::ulbl_ChaptersPath,
+                             &Main_Form::lbl_ChapsPathFault, u"Select the folder of Chapter Files."_s}};
+    Prog.Form.lbl_AudipPathEmpty.Visible = true;
+    for (const Claim& claim : claims) {
+        Person.Folder_Answer = Path(u"new"_s);
+        claim.Browse(Prog);
+        EXPECT_EQ(Person.Folder_Questions.back().first, claim.Title);
+        EXPECT_EQ(Person.Folder_Questions.back().second, Prog.Settings.App_Folder);
+        EXPECT_EQ(Prog.Options.*claim.Path, Path(u"new/"_s));
+        EXPECT_EQ((Prog.Form.*claim.Shown).Caption, Path(u"new/"_s));
+        EXPECT_EQ((Prog.Form.*claim.Fault).Caption, u""_s);
+        Person.Folder_Answer.clear();
+        claim.Browse(Prog);
+        EXPECT_EQ(Person.Folder_Questions.back().second, Path(u"new/"_s));
+        EXPECT_EQ(Prog.Options.*claim.Path, Path(u"new/"_s));
+    }
+    EXPECT_TRUE(Prog.Form.lbl_AudipPathEmpty.Visible);
+}

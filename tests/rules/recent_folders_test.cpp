@@ -1,0 +1,157 @@
+#include "rules/recent_folders.h"
+
+#include "common/test_program.h"
+#include "settings/recent_lists.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// A program with folders 0 to 19, no paths set.
+struct RecentFolders : testing::Test, Test_Program
+{
+    RecentFolders()
+    {
+        Prog.Options.Path_Videos.clear();
+        Prog.Options.Path_Target.clear();
+        for (int i = 0; i < 20; ++i)
+            QDir().mkpath(Folder(i));
+    }
+
+    QString Folder(int number) const { return Path(u"f%1/"_s.arg(number, 2, 10, QLatin1Char('0'))); }
+
+    QStringList Folders(int from, int to) const
+    {
+        QStringList list;
+        for (int i = from; i <= to; ++i)
+            list += Folder(i);
+        return list;
+    }
+};
+
+TEST_F(RecentFolders, NoneInAnyCaseEmptiesThePathAndTheEmptyTextChangesNothing)
+{
+    for (const QString& none : {u"NONE"_s, u"none"_s, u"None"_s}) {
+        Prog.Options.Path_Videos = Folder(0);
+        Read_Recent_Sources(Prog, none);
+        EXPECT_EQ(Prog.Options.Path_Videos, u""_s);
+    }
+    Prog.Options.Path_Target = Folder(0);
+    Read_Recent_Targets(Prog, u""_s);
+    EXPECT_EQ(Prog.Options.Path_Target, Folder(0));
+    EXPECT_TRUE(Prog.Settings.Source_MRU.isEmpty());
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u"Video Path Not Set"_s);
+}
+
+TEST_F(RecentFolders, TheHeadIsThePathAndTheOthersAreTheDropDown)
+{
+    Read_Recent_Sources(Prog, Folders(0, 2).join(u';'));
+    EXPECT_EQ(Prog.Options.Path_Videos, Folder(0));
+    EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Folder(0));
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
+    EXPECT_EQ(Prog.Settings.Source_MRU, Folders(1, 2));
+    EXPECT_TRUE(Prog.Settings.Target_MRU.isEmpty());
+    Read_Recent_Targets(Prog, Folder(3));
+    EXPECT_EQ(Prog.Options.Path_Target, Folder(3));
+    EXPECT_TRUE(Prog.Settings.Target_MRU.isEmpty());
+}
+
+TEST_F(RecentFolders, SixteenStoredItemsReachTheProgram)
+{
+    Read_Recent_Sources(Prog, Folders(0, 19).join(u';'));
+    EXPECT_EQ(Prog.Settings.Source_MRU, Folders(1, 15));
+}
+
+TEST_F(RecentFolders, GoneFoldersComeInEmptyAndTwoColonsKeepOneOut)
+{
+    QDir().mkpath(Path(u"a:b:c"_s));
+    QDir().mkpath(Path(u"a:b"_s));
+    Read_Recent_Sources(
+        Prog, QStringList{Path(u"gone/"_s), Path(u"a:b:c/"_s), Path(u"a:b/"_s), Path(u"lost/"_s), u""_s}.join(u';'));
+    EXPECT_EQ(Prog.Options.Path_Videos, u""_s);
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
+    EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{Path(u"a:b/"_s), u""_s, u""_s}));
+}
+
+TEST_F(RecentFolders, TheWriterDropsEmptyItemsAndThoseWithinAnEarlierText)
+{
+    struct Claim
+    {
+        QString Path;
+        QStringList List;
+        QString Value;
+    };
+
+    const Claim claims[] = {
+        {u""_s, {u"/a/"_s}, u"NONE"_s},
+        {u"/a/"_s, {}, u"/a/"_s},
+        {u"/a/"_s, {u"/b/"_s, u""_s, u"/c/"_s}, u"/a/;/b/;/c/"_s},
+        {u"/a/b/"_s, {u"/a/"_s, u"/A/"_s, u"/a/b/c/"_s}, u"/a/b/;/A/;/a/b/c/"_s},
+        {u"/a/"_s, {u"/x;y/"_s, u"/x\ny/"_s, u"/x\ry/"_s, u"/b/"_s}, u"/a/;/b/"_s},
+        {u"/x;y/"_s, {u"/b/"_s, u"/c/"_s}, u";/b/;/c/"_s},
+        {u"/x;y/"_s, {}, u"NONE"_s},
+    };
+    for (const Claim& claim : claims)
+        EXPECT_EQ(Recent_Folders_Value(claim.Path, claim.List), claim.Value) << claim.Path.toStdString();
+}
+
+TEST_F(RecentFolders, AListReadsBackAsItWasWritten)
+{
+    Prog.Options.Path_Videos = Folder(4);
+    Prog.Settings.Source_MRU = Folders(0, 3);
+    const QString value = Recent_Sources_Value(Prog);
+    Prog.Settings.Source_MRU.clear();
+    Prog.Options.Path_Videos.clear();
+    Read_Recent_Sources(Prog, value);
+    EXPECT_EQ(Prog.Options.Path_Videos, Folder(4));
+    EXPECT_EQ(Prog.Settings.Source_MRU, Folders(0, 3));
+    EXPECT_EQ(Recent_Targets_Value(Prog), u"NONE"_s);
+}
+
+TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
+{
+    Prog.Form.Topmost_On = true;
+    Prog.Options.Path_Videos = Folder(0);
+    Prog.Form.ulbl_VideosPath.Caption = Folder(0);
+    Prog.Settings.Source_MRU = Folders(1, 2);
+    QString shown;
+    bool topmost_inside = true;
+    Person.On_Form[u"frm_SourceMRU"_s] = [&] {
+        shown = Prog.Source_MRU_Form.Text;
+        topmost_inside = Person.Topmost;
+        Choose_Recent_Source(Prog, 1);
+        EXPECT_FALSE(Prog.Source_MRU_Form.Visible);
+    };
+    img_SourceMRU_MouseDown(Prog);
+    img_SourceMRU_Click(Prog);
+    EXPECT_EQ(shown, Folder(0));
+    EXPECT_FALSE(topmost_inside);
+    EXPECT_TRUE(Person.Topmost);
+    EXPECT_FALSE(Prog.Source_MRU_Form.Arrow_Pressed);
+    EXPECT_EQ(Prog.Options.Path_Videos, Folder(2));
+    EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Folder(2));
+    EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{Folder(0), Folder(1)}));
+
+    Person.On_Form[u"frm_SourceMRU"_s] = [&] { Choose_Recent_Source(Prog, 0); };
+    img_SourceMRU_Click(Prog);
+    EXPECT_EQ(Prog.Options.Path_Videos, Folder(0));
+    Person.On_Form[u"frm_SourceMRU"_s] = [&] { Choose_Recent_Source(Prog, 9); };
+    img_SourceMRU_Click(Prog);
+    EXPECT_EQ(Prog.Options.Path_Videos, Folder(0));
+}
+
+TEST_F(RecentFolders, TheRunButtonFollowsAChoiceOnlyWithItsExtension)
+{
+    for (const bool follows : {false, true}) {
+        Prog.Settings.Extensions.Run_Button_Follows_Folders = follows;
+        Prog.Form.btn_RunVantorra.Enabled = false;
+        Prog.Options.Path_Videos = Folder(0);
+        Prog.Options.Path_Target.clear();
+        Prog.Settings.Target_MRU = {Folder(1)};
+        Person.On_Form[u"frm_TargetMRU"_s] = [&] { Choose_Recent_Target(Prog, 0); };
+        img_TargetMRU_Click(Prog);
+        EXPECT_EQ(Prog.Options.Path_Target, Folder(1));
+        EXPECT_EQ(Prog.Form.btn_RunVantorra.Enabled, follows);
+    }
+}

@@ -1,0 +1,110 @@
+#include "tools/failure_reports.h"
+
+#include "common/test_program.h"
+
+#include <cerrno>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(FailureReports, EachShowsItsBoxAndLogsItsLines)
+{
+    struct Claim
+    {
+        int Code;
+        QString Title, Text_Begins;
+        QStringList Lines;
+    };
+
+    const QString cancelled = u" Further processing of this file is cancelled."_s;
+    const Claim claims[] = {
+        {8,
+         u"Failed to create pipe."_s,
+         u"Failed to create a pipe for T{1}."_s,
+         {u"-- Failed to create a pipe for T{1}."_s}},
+        {9,
+         u"Failed to create a process."_s,
+         u"Failed to create process.\r\nCannot process file T{1}."_s,
+         {u"-- Failed to create process for T{1}."_s + cancelled}},
+        {11,
+         u"Failed to create pipe."_s,
+         u"Failed to create a pipe for T{1}."_s,
+         {u"F"_s, u"-- Failed to create a pipe for T{1}."_s + cancelled}},
+        {12,
+         u"Cannot process file with T{1}."_s,
+         u"Failed to create process.\r\nCannot process file with T{1}."_s,
+         {u"F"_s, u"-- Cannot process this file with T{1}. Further processing of this is cancelled."_s}},
+        {13,
+         u"Possible functional error with T{1}."_s,
+         u"T{1} failed to return any useful information.\r\n\r\nFurther"_s,
+         {u"F"_s, u"-- T{1} failed to return any useful information for this file."_s + cancelled,
+          u"NOTE: This filename may contain unicode characters; ffprobe does not recognize unicode!"_s}},
+        {20,
+         u"FFProbe was not found."_s,
+         u"FFProbe was not found in this applications folder.\r\n"_s,
+         {u"-- FFProbe is not found in the applications folder. Video processing is DISALLOWED."_s}},
+        {52,
+         u"mkvmerge.exe was not found in the Registry!"_s,
+         u"Mkvmerge.exe install was not found in the Registry!\r\n"_s,
+         {u"-- mkvmerge.exe not found at path /sys. Processing cannot proceed."_s}},
+        {53,
+         u"mkvmerge.exe was not found in the Registry!"_s,
+         u"Mkvmerge.exe was not found, either"_s,
+         {u"-- mkvmerge.exe not found in the Registry or Locally /ini. Processing cannot proceed."_s}},
+        {60,
+         u"The 'local' mkvmerge.exe copy was not found!"_s,
+         u"A local copy of mkvmerge.exe v19.0.0 was not found in this \r\nApplication's"_s,
+         {u"-- local copy of mkvmerge.exe not found at /local - REQUIRED! Processing cannot proceed."_s}},
+        {70,
+         u"Are you SURE this is a video file!?"_s,
+         u"File name extension is missing!\r\n"_s,
+         {u"F"_s, u"-- Video file name extension is missing. I don't know what to do!"_s}},
+        {71,
+         u"This doesn't look like an acceptable video file!"_s,
+         u"This file does NOT have one of the accepted video extensions!\r\n"_s,
+         {u"F"_s, u"-- File name extension is not acceptable for processing. Abandoning this file."_s}},
+    };
+    for (const Claim& claim : claims) {
+        Test_Program test;
+        test.Prog.Options.Log_Verbosity = 1;
+        test.Prog.Tools.System_MKVMerge_Path = u"/sys"_s;
+        test.Prog.Tools.Local_MKVMerge_Path = u"/local"_s;
+        test.Prog.Settings.Mkvmerge_Path_Ini = u"/ini"_s;
+        // A text that looks like a mark of the table stays as it is.
+        EXPECT_EQ(Report_Run_Failure(test.Prog, claim.Code, u"T{1}"_s, u"F"_s), 0);
+        ASSERT_EQ(test.Person.Messages.size(), 1U) << claim.Code;
+        const Message_Box& box = test.Person.Messages.front();
+        EXPECT_EQ(box.Code, claim.Code);
+        EXPECT_EQ(box.Title, claim.Title);
+        EXPECT_TRUE(box.Text.startsWith(claim.Text_Begins)) << box.Text.toStdString();
+        EXPECT_EQ(box.Icon, Message_Icon::Exclamation);
+        QStringList lines = test.Results().mid(2); // behind the mark and the head
+        EXPECT_EQ(lines.takeLast(), u"@"_s);
+        for (QString& line : lines)
+            line = line.mid(12);
+        EXPECT_EQ(lines, claim.Lines) << claim.Code;
+    }
+}
+
+TEST(FailureReports, OneAndTwoQuoteTheSystem)
+{
+    for (const int code : {1, 2}) {
+        Test_Program test;
+        test.Prog.Options.Log_Verbosity = 1;
+        test.Prog.Run.Process_Result = ENOENT;
+        Report_Run_Failure(test.Prog, code);
+        const Message_Box& box = test.Person.Messages.at(0);
+        EXPECT_EQ(box.Icon, Message_Icon::Stop);
+        EXPECT_TRUE(box.Text.contains(u"Error:\r\nmkvmerge.exe No such file or directory"_s)) << box.Text.toStdString();
+        EXPECT_EQ(test.Prog.Run.Last_Error_Text, u"No such file or directory"_s);
+    }
+}
+
+TEST(FailureReports, ACodeWithoutAnEntryDoesNothing)
+{
+    Test_Program test;
+    test.Prog.Logs.Log_Faults.AppendLine(u"-- stays");
+    EXPECT_EQ(Report_Run_Failure(test.Prog, 72, u"x"_s), 0);
+    EXPECT_TRUE(test.Person.Messages.empty());
+    EXPECT_EQ(test.Faults(), QStringList{u"-- stays"_s});
+}

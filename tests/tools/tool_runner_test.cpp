@@ -1,0 +1,236 @@
+#include "tools/tool_runner.h"
+
+#include "common/stand_in_tool.h"
+#include "inspect/video_probe.h"
+#include "support/command_line.h"
+#include "support/run_time_error.h"
+
+#include <cerrno>
+#include <csignal>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+/// Runs `body` as mkvmerge and returns the lines of Log_Console.
+static QString Console_Of(Test_Program& test, const QByteArray& body)
+{
+    Run_Mkvmerge(test.Prog, Write_Stand_In(test, u"stand_in"_s, body), {});
+    return test.Prog.Logs.Log_Console.ToString();
+}
+
+/// Reads what the stand-in's second write follows only after the first was taken.
+static const QByteArray Pause = "; sleep 0.3; ";
+
+TEST(ToolRunner, CaptureAppendsAndFreshReplaces)
+{
+    Test_Program test;
+    Program& program = test.Prog;
+    const QString tool = Write_Stand_In(test, u"tool"_s, "printf 'one\\ntwo\\r\\n'; echo err >&2; exit 1");
+    QString output = u"before "_s;
+    Run_Tool_Capture(program, tool, {}, output);
+    EXPECT_EQ(output, u"before one\r\ntwo\r\nerr\r\n"_s);
+    Run_Tool_Capture_Fresh(program, tool, {}, output);
+    EXPECT_EQ(output, u"one\r\ntwo\r\nerr\r\n"_s);
+    EXPECT_EQ(program.Run.Pipe_Result, 1);
+    EXPECT_EQ(program.Run.Process_Result, -1);
+    EXPECT_EQ(program.Run.Exit_Status, 1);
+}
+
+TEST(ToolRunner, AFailedStartLeavesTheSystemsNumber)
+{
+    Test_Program test;
+    QString output = u"old"_s;
+    Run_Tool_Capture_Fresh(test.Prog, test.Path(u"missing"_s), {}, output);
+    EXPECT_EQ(test.Prog.Run.Process_Result, ENOENT);
+    EXPECT_EQ(test.Prog.Run.Exit_Status, std::nullopt);
+    // A bare name isn't searched for.
+    Run_Mkvmerge(test.Prog, u"mkvmerge"_s, {});
+    EXPECT_EQ(test.Prog.Run.Process_Result, ENOENT);
+    Run_Mkvmerge(test.Prog, test.Write(u"not_executable"_s, "#!/bin/sh\n"), {});
+    EXPECT_EQ(test.Prog.Run.Process_Result, EACCES);
+    EXPECT_TRUE(test.Prog.Logs.Log_Console.Is_Empty());
+}
+
+TEST(ToolRunner, ChunksAreKeptOrDroppedWhole)
+{
+    struct Claim
+    {
+        QByteArray Body;
+        QString Console;
+    };
+
+    const Claim claims[] = {
+        {"printf '1234567890123456'", u""_s},
+        {"printf '12345678901234567'", u"12345678901234567\r\n"_s},
+        {"printf '123456789012345\\n'", u"123456789012345\r\n\r\n"_s}, // counted after the line end has grown
+        {"printf 'Line one\\nLine two\\nPROGRESS: 5%%\\r'", u""_s},
+        {"printf 'A line that is kept\\n'" + Pause + "printf 'Progress: 100%%\\r'" + Pause +
+             "printf 'Multiplexing took 1 s'",
+         u"A line that is kept\r\n\r\nMultiplexing took 1 s\r\n"_s},
+        {"printf 'Half a character \\303'" + Pause + "printf '\\251 and its other half'",
+         u"Half a character \r\n\u00e9 and its other half\r\n"_s},
+        {"", u""_s},
+    };
+    for (const Claim& claim : claims) {
+        Test_Program test;
+        EXPECT_EQ(Console_Of(test, claim.Body), claim.Console) << claim.Body.toStdString();
+    }
+}
+
+TEST(ToolRunner, TheWordProgressIsFoundWhereverItStands)
+{
+    for (int ahead = 0; ahead < 20; ++ahead)
+        for (const QByteArray& word : {QByteArray("progress"), QByteArray("PrOgReSs")}) {
+            Test_Program test;
+            EXPECT_EQ(Console_Of(test, "printf '%s' '" + QByteArray(ahead, 'r') + word + "'"), u""_s) << ahead;
+            EXPECT_TRUE(test.Prog.Form.lbl_ProgressFinished.Visible) << ahead;
+        }
+    for (const QByteArray& other :
+         {QByteArray("a very long progres"), QByteArray("rogress is no word"), QByteArray("progprogpro ressgress")}) {
+        Test_Program test;
+        EXPECT_EQ(Console_Of(test, "printf '" + other + "'"), QString::fromUtf8(other) + u"\r\n"_s);
+    }
+}
+
+TEST(ToolRunner, AChunkThatNamesTheProgramsFolderIsDropped)
+{
+    Test_Program test;
+    const QByteArray folder = test.Path(u"app"_s).toUtf8();
+    EXPECT_EQ(Console_Of(test, "echo 'opened: " + folder + "/x.mkv'"), u""_s);
+    EXPECT_NE(Console_Of(test, "echo 'opened: " + folder.toUpper() + "/x.mkv'"), u""_s);
+
+    // The program in the root folder: every text holds the empty one.
+    Test_Program root;
+    root.Prog.Settings.App_Folder = u"/"_s;
+    EXPECT_EQ(Console_Of(root, "echo 'A line that would be kept'"), u""_s);
+}
+
+TEST(ToolRunner, AChunkIsWhatOneReadDelivered)
+{
+    Test_Program test;
+    // 30,000 bytes at once: three chunks, a line each.
+    const QString console = Console_Of(test, "head -c 30000 /dev/zero | tr '\\0' x");
+    EXPECT_EQ(console.count(u'x'), 30000);
+    EXPECT_LE(console.indexOf(u"\r\n"_s), 10240);
+    EXPECT_GE(console.count(u"\r\n"_s), 3);
+}
+
+TEST(ToolRunner, ThePercentageIsThatOfTheWholeBatch)
+{
+    struct Claim
+    {
+        QByteArray Print;
+        int Videos, Index;
+        QString Caption;
+    };
+
+    const Claim claims[] = {
+        {"Progress: 50%%\\r", 1, 0, u"50%"_s},
+        {"Progress: 100%%\\r", 10, 9, u"100%"_s},
+        {"Progress: 24%%\\rProgress: 80%%\\r", 2, 1, u"62%"_s}, // the first of a chunk counts
+        {"progress: 5%%\\r", 2, 0, u"2%"_s},                    // 2.5 is rounded to even
+        {"Work in progress.mkv\\n", 4, 2, u"50%"_s},            // no number: 0
+        {"Progress: -3%%\\r", 4, 2, u""_s},
+        {"Progress: 10%%\\r", 327, 326, u"100%"_s},
+    };
+    for (const Claim& claim : claims) {
+        Test_Program test;
+        test.Prog.Run.Video_File_List = QStringList(QList<QString>(claim.Videos, u"v"_s));
+        test.Prog.Run.File_Index = static_cast<std::int16_t>(claim.Index);
+        Console_Of(test, "printf '" + claim.Print + "'");
+        EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Caption, claim.Caption) << claim.Print.toStdString();
+        EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Visible, !claim.Caption.isEmpty());
+    }
+}
+
+TEST(ToolRunner, APercentageBeyondSixteenBitsEndsTheRunAndTheChild)
+{
+    struct Claim
+    {
+        QByteArray Print;
+        int Videos;
+    };
+
+    for (const Claim& claim : {Claim{"Progress: 1%%\\r", 328}, Claim{"Progress: 40000%%\\r", 1}}) {
+        Test_Program test;
+        test.Prog.Run.Video_File_List = QStringList(QList<QString>(claim.Videos, u"v"_s));
+        test.Prog.Run.Output_Path = u"/target/half.mkv"_s;
+        try {
+            Console_Of(test, "printf '" + claim.Print + "'; exec sleep 1000");
+            FAIL() << claim.Print.toStdString();
+        } catch (const Run_Time_Error& error) {
+            EXPECT_EQ(error.Number(), Error_Number::Overflow);
+            EXPECT_TRUE(error.Message().contains(u"/target/half.mkv"_s)) << error.what();
+        }
+        EXPECT_EQ(Children_Left(), 0);
+    }
+}
+
+TEST(ToolRunner, AHaltEndsTheChildWhateverItDoes)
+{
+    for (const QByteArray& body : {
+             QByteArray("exec sleep 1000"),                       // silent
+             QByteArray("exec yes 'A line that is long enough'"), // talking
+             QByteArray("exec sleep 1000 >&- 2>&-"),              // has closed its output
+             QByteArray("trap '' TERM INT HUP; while :; do sleep 1; done"),
+         }) {
+        Test_Program test;
+        test.Person.On_Pump = [&test] {
+            if (test.Person.Pumps == 4)
+                test.Prog.Run.Halt_Requested = true;
+        };
+        Console_Of(test, body);
+        EXPECT_EQ(test.Prog.Run.Exit_Status, -SIGKILL) << body.toStdString();
+        EXPECT_EQ(test.Person.Waited_Milliseconds, 1200);
+        EXPECT_EQ(Children_Left(), 0);
+    }
+}
+
+TEST(ToolRunner, AToolThatClosesItsOutputAndRunsOnIsLeftAtAHalt)
+{
+    Test_Program test;
+    test.Person.On_Pump = [&test] { test.Prog.Run.Halt_Requested = test.Person.Pumps > 5; };
+    QString output;
+    Run_Tool_Capture(test.Prog, Write_Stand_In(test, u"tool"_s, "echo text; exec sleep 1000 >&- 2>&-"), {}, output);
+    EXPECT_EQ(output, u"text\r\n"_s);
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST(ToolRunner, AVideoIsProbedTwiceAndTheTextsStandBehindEachOther)
+{
+    Test_Program test;
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(
+        test, u"ffprobe"_s, "shift 4; [ \"$1\" = -show_format ] && printf 'format|duration=1.0|file=%s\\n' \"$2\"\n");
+    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 1);
+    // The second run printed nothing, which is no failure.
+    EXPECT_EQ(test.Prog.Media.FFProbe_Output, u"format|duration=1.0|file=/v/a b.mkv\r\n"_s);
+    EXPECT_EQ(FFProbe_Command(u"-show_streams"_s, u"/v/a b.mkv"_s).Text(),
+              u" -v quiet -print_format compact -show_streams \"/v/a b.mkv\""_s);
+    EXPECT_TRUE(test.Person.Messages.empty());
+}
+
+TEST(ToolRunner, AFailedProbeIsReportedByItsKind)
+{
+    Test_Program test;
+    test.Prog.Options.Log_Verbosity = 1;
+    test.Prog.Tools.FFProbe_Path = test.Path(u"missing"_s);
+    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 0);
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"silent"_s, "exit 1");
+    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 0);
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"killed"_s, "kill -9 $$");
+    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 0);
+    ASSERT_EQ(test.Person.Messages.size(), 3U);
+    EXPECT_EQ(test.Person.Messages[0].Code, 12);
+    EXPECT_EQ(test.Person.Messages[1].Code, 13);
+    EXPECT_EQ(test.Person.Messages[2].Code, 13);
+    EXPECT_TRUE(test.Results().contains(u"            \"/v/a b.mkv\""_s));
+}
+
+TEST(ToolRunner, AHundredMegabytesPassThrough)
+{
+    Test_Program test;
+    QString output;
+    Run_Tool_Capture_Fresh(test.Prog, Write_Stand_In(test, u"tool"_s, "head -c 100000000 /dev/zero | tr '\\0' x"), {},
+                           output);
+    EXPECT_EQ(output.size(), 100000000);
+}

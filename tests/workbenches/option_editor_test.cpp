@@ -1,0 +1,263 @@
+#include "workbenches/option_editor.h"
+
+#include "common/test_program.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An editor over the test's video folder, opened for audio files.
+struct Editor_Test : Test_Program
+{
+    Editor_Test() { Load_Language_Table(Prog.Language_Table, u"scrap"_s); }
+
+    Option_Editor& Editor() { return Prog.Option_Files; }
+
+    /// Opens the editor; `in_form` is what the operator does in it.
+    void Edit(const std::function<void()>& in_form)
+    {
+        Person.On_Form[u"frm_OptionsFiles"_s] = [this, in_form] {
+            Activate_Option_Editor(Prog);
+            in_form();
+            Close_Option_Editor(Prog, {});
+        };
+        ASSERT_TRUE(Open_Audio_Option_Editor(Prog, u"NOP"_s));
+    }
+
+    void Select(std::vector<int> rows) { lvw_Files_Selection_Change(Prog, std::move(rows)); }
+
+    void Type(Option_Slot slot, const QString& text) { Option_Box_Change(Editor(), slot, text); }
+
+    QStringList Listed() const
+    {
+        QStringList rows;
+        for (const OptionFileRow& row : Prog.Option_Files.lvw_Files)
+            rows += row.FileName + u'|' + row.OptionFileName;
+        return rows;
+    }
+
+    /// Texts of the five boxes, a set box in square brackets.
+    QString Boxes() const
+    {
+        QStringList texts;
+        for (const Option_Box& box : Prog.Option_Files.Boxes)
+            texts += box.Set ? u'[' + box.Text + u']' : box.Text;
+        return texts.join(u'/');
+    }
+};
+
+} // namespace
+
+TEST(OptionEditor, ListsMediaFilesThenOrphansInOrderOfNames)
+{
+    Editor_Test test;
+    for (const char* name :
+         {"b.mp3", "a.mp3", "a.mp3.opt", "C.flac", "gone.ogg.opt", "b.mp3.OPT", "x.srt", "y.srt.opt"})
+        test.Write(u"videos/"_s + QString::fromLatin1(name));
+    test.Edit([&] {
+        EXPECT_EQ(test.Listed(),
+                  (QStringList{u"C.flac|"_s, u"a.mp3|a.mp3.opt"_s, u"b.mp3|"_s, u"|b.mp3.OPT"_s, u"|gone.ogg.opt"_s}));
+        EXPECT_EQ(test.Editor().Focus, u"btn_Close"_s);
+    });
+}
+
+TEST(OptionEditor, MergeSortKeepsTheOrderOfEqualTexts)
+{
+    const std::vector<std::array<QString, 2>> table{
+        {u"b"_s, u"1"_s}, {u"a"_s, u"2"_s}, {u"b"_s, u"0"_s}, {u"~@@@"_s, u"0"_s}, {u"B"_s, u"9"_s}};
+    EXPECT_EQ(MergeSort2(table, {0, 1, 2, 3, 4}, 0), (std::vector<int>{4, 1, 0, 2, 3}));
+}
+
+TEST(OptionEditor, AnUnsetOrVanishedFolderGivesAnEmptyList)
+{
+    Editor_Test test;
+    test.Write(u"videos/a.mp3"_s);
+    test.Edit([&] {
+        test.Editor().Folder = test.Path(u"vanished/"_s);
+        Scan_Option_Folder(test.Prog);
+        EXPECT_TRUE(test.Listed().isEmpty());
+    });
+    test.Prog.Options.Path_Videos.clear();
+    test.Edit([&] {
+        EXPECT_TRUE(test.Listed().isEmpty());
+        EXPECT_EQ(test.Editor().Folder, QString());
+    });
+}
+
+TEST(OptionEditor, TheAlternateFolderIsScannedOrElseNothingOpens)
+{
+    Editor_Test test;
+    test.Prog.Options.chk_SubsPath.Value = 1;
+    EXPECT_FALSE(Open_Subtitle_Option_Editor(test.Prog, u"NOP"_s));
+    EXPECT_TRUE(test.Person.Forms.isEmpty());
+
+    test.Write(u"subs/a.srt"_s);
+    test.Write(u"subs/a.idx.opt"_s);
+    test.Prog.Options.Path_Subtitles = test.Path(u"subs/"_s);
+    test.Person.On_Form[u"frm_OptionsFiles"_s] = [&] {
+        Activate_Option_Editor(test.Prog);
+        EXPECT_EQ(test.Listed(), (QStringList{u"a.srt|"_s, u"|a.idx.opt"_s}));
+        EXPECT_EQ(test.Editor().Kind.Form_Caption, u"Create and Edit Subtitle Options Files"_s);
+    };
+    EXPECT_TRUE(Open_Subtitle_Option_Editor(test.Prog, u"NOP"_s));
+}
+
+TEST(OptionEditor, TheBoxesShowWhatAllSelectedFilesAgreeOn)
+{
+    Editor_Test test;
+    test.Write(u"videos/a.mp3"_s);
+    test.Write(u"videos/a.mp3.opt"_s, "Title=One\r\nLanguage=English (eng)\r\nDefault=Yes\r\nForced=maybe\r\n");
+    test.Write(u"videos/b.mp3"_s);
+    test.Write(u"videos/b.mp3.opt"_s, "Title=Two\r\nLanguage=English (eng)\r\nDelay=300\r\n");
+    test.Write(u"videos/c.mp3"_s);
+
+    struct Claim
+    {
+        std::vector<int> Rows;
+        QString Boxes;
+    };
+
+    const Claim claims[] = {
+        {{0}, u"[One]/[English (eng)]/[yes]//"_s},
+        {{1}, u"[Two]/[English (eng)]///[300]"_s},
+        {{0, 1}, u"/[English (eng)]///"_s},
+        {{0, 2}, u"////"_s},
+    };
+    test.Edit([&] {
+        for (const Claim& claim : claims) {
+            test.Select(claim.Rows);
+            EXPECT_EQ(test.Boxes(), claim.Boxes);
+        }
+    });
+}
+
+TEST(OptionEditor, AppliesToOneRowAllBoxesAndToSeveralTheSetOnes)
+{
+    struct Claim
+    {
+        const char* Name;
+        QByteArray A, B; ///< option files before; null: none
+        std::vector<int> Rows;
+        std::vector<std::pair<Option_Slot, QString>> Typed;
+        QByteArray A_After, B_After;
+        QStringList Listed;
+    };
+
+    const QStringList both{u"a.mp3|a.mp3.opt"_s, u"b.mp3|b.mp3.opt"_s};
+    const QStringList none{u"a.mp3|"_s, u"b.mp3|"_s};
+    const QStringList first{u"a.mp3|a.mp3.opt"_s, u"b.mp3|"_s};
+    const QString german = u"German (ger)"_s;
+    const Claim claims[] = {
+        {"one row, nothing in the boxes", {}, {}, {0}, {}, {}, {}, none},
+        {"one row gains a file",
+         {},
+         {},
+         {0},
+         {{Title_Slot, u"One"_s}, {Forced_Slot, u"YES"_s}, {Delay_Slot, u"-5"_s}},
+         "Title=One\r\nForced=YES\r\nDelay=-5\r\n",
+         {},
+         first},
+        {"one row emptied: the file goes to the trash", "Title=One\r\n", {}, {0}, {{Title_Slot, {}}}, {}, {}, none},
+        {"comments and foreign keys go",
+         "Title=a\r\n# note\r\nStretch=1\r\n",
+         {},
+         {0},
+         {{Language_Slot, german}},
+         "Title=a\r\nLanguage=German (ger)\r\n",
+         {},
+         first},
+        {"several rows keep their own titles",
+         "Title=One\r\n",
+         "Title=Two\r\n",
+         {0, 1},
+         {{Language_Slot, german}},
+         "Title=One\r\nLanguage=German (ger)\r\n",
+         "Title=Two\r\nLanguage=German (ger)\r\n",
+         both},
+        {"an empty set box keeps the old value",
+         "Title=One\r\n",
+         "Title=One\r\n",
+         {0, 1},
+         {{Title_Slot, {}}, {Delay_Slot, u"7"_s}},
+         "Title=One\r\nDelay=7\r\n",
+         "Title=One\r\nDelay=7\r\n",
+         both},
+        {"a row without a file gains one",
+         {},
+         "Delay=7\r\n",
+         {0, 1},
+         {{Title_Slot, u"Both"_s}},
+         "Title=Both\r\n",
+         "Title=Both\r\nDelay=7\r\n",
+         both},
+        {"all grey: a name in the list and no file", {}, "Delay=7\r\n", {0, 1}, {}, {}, "Delay=7\r\n", both},
+        {"only yes and no are taken for a flag", {}, {}, {0}, {{Default_Slot, u"perhaps"_s}}, {}, {}, none},
+    };
+    for (const Claim& claim : claims) {
+        SCOPED_TRACE(claim.Name);
+        Editor_Test test;
+        test.Write(u"videos/a.mp3"_s);
+        test.Write(u"videos/b.mp3"_s);
+        if (!claim.A.isNull())
+            test.Write(u"videos/a.mp3.opt"_s, claim.A);
+        if (!claim.B.isNull())
+            test.Write(u"videos/b.mp3.opt"_s, claim.B);
+        test.Edit([&] {
+            test.Select(claim.Rows);
+            for (const auto& [slot, text] : claim.Typed)
+                test.Type(slot, text);
+            btn_Apply_Click(test.Prog);
+            EXPECT_EQ(test.Listed(), claim.Listed);
+        });
+        EXPECT_EQ(test.Read(u"videos/a.mp3.opt"_s), claim.A_After);
+        EXPECT_EQ(test.Read(u"videos/b.mp3.opt"_s), claim.B_After);
+    }
+}
+
+TEST(OptionEditor, LeavingABoxGreysItWhereItHoldsNothingUsable)
+{
+    Editor_Test test;
+
+    struct Claim
+    {
+        Option_Slot Slot;
+        QString Typed;
+        bool Set_After;
+    };
+
+    const Claim claims[] = {{Title_Slot, u"x"_s, true},    {Title_Slot, {}, false},       {Language_Slot, {}, true},
+                            {Default_Slot, u"No"_s, true}, {Default_Slot, u"-"_s, false}, {Forced_Slot, {}, false},
+                            {Delay_Slot, {}, false}};
+    for (const Claim& claim : claims) {
+        test.Type(claim.Slot, claim.Typed);
+        EXPECT_TRUE(test.Editor().Boxes[claim.Slot].Set);
+        Option_Box_Leave(test.Editor(), claim.Slot);
+        EXPECT_EQ(test.Editor().Boxes[claim.Slot].Set, claim.Set_After) << claim.Slot << claim.Typed.toStdString();
+    }
+}
+
+TEST(OptionEditor, StickyBoxesKeepTheirTextWhateverTheFilesSay)
+{
+    Editor_Test test;
+    test.Write(u"videos/a.mp3"_s);
+    test.Write(u"videos/a.mp3.opt"_s, "Title=One\r\nDelay=7\r\n");
+    test.Prog.Settings.Audio_Sticky.Sticky_Titles = 1;
+    test.Prog.Settings.Audio_Sticky.Title = u"Always"_s;
+    test.Prog.Settings.Audio_Sticky.Delay = u"99"_s; // not sticky: gone when the form closes
+    test.Edit([&] {
+        EXPECT_EQ(test.Boxes(), u"[Always]////"_s);
+        test.Select({0});
+        EXPECT_EQ(test.Boxes(), u"[Always]////[7]"_s);
+        test.Editor().Boxes[Forced_Slot].Sticky = true; // ticked, but with nothing in its box
+        test.Editor().Boxes[Delay_Slot].Sticky = true;
+    });
+    const StickyValues& kept = test.Prog.Settings.Audio_Sticky;
+    EXPECT_EQ(kept.Sticky_Titles, 1);
+    EXPECT_EQ(kept.Title, u"Always"_s);
+    EXPECT_EQ(kept.Sticky_Forced, 0);
+    EXPECT_EQ(kept.Sticky_Delay, 1);
+    EXPECT_EQ(kept.Delay, u"7"_s);
+    EXPECT_EQ(test.Prog.Settings.Subtitle_Sticky.Title, QString());
+}
