@@ -78,8 +78,9 @@ void Connect_Menus(Startform& form, Program& program, Slot_Guard& guard)
     };
     for (const Menu_Command& command : Commands)
         connect(QLatin1StringView(command.Action), command.Rule);
-    for (const Menu_Tick& tick : Menu_Ticks())
-        connect(tick.Name, tick.Command);
+    for (const auto* items : {&Menu_Ticks(), &Menu_Choices()})
+        for (const Menu_Tick& item : *items)
+            connect(item.Name, item.Command);
 
     auto* levels = new QActionGroup(&form);
     for (int level = 0; level < static_cast<int>(Verbosity_Levels().size()); ++level) {
@@ -93,9 +94,10 @@ void Connect_Menus(Startform& form, Program& program, Slot_Guard& guard)
 
 void Render_Menus(Startform& form, const Program& program)
 {
-    for (const Menu_Tick& tick : Menu_Ticks())
-        if (auto* action = form.findChild<QAction*>(tick.Name))
-            action->setChecked(tick.Ticked(program));
+    for (const auto* items : {&Menu_Ticks(), &Menu_Choices()})
+        for (const Menu_Tick& item : *items)
+            if (auto* action = form.findChild<QAction*>(item.Name))
+                action->setChecked(item.Ticked(program));
     for (const auto& [name, field] : Menu_Bindings())
         if (auto* menu = form.findChild<QMenu*>(QLatin1StringView(name))) {
             const Menu_Item& item = program.Form.*field;

@@ -153,6 +153,12 @@ static void Flip(Program& program, bool& tick)
     Default_Run(program);
 }
 
+static void Choose_Output_Exists(Program& program, Output_Exists choice)
+{
+    program.Settings.Extensions.If_The_Output_Exists = choice;
+    Default_Run(program);
+}
+
 void mnu_KeepEnglishTitledAudio_Click(Program& program)
 {
     Flip(program, program.Options.Keep_English_Audio);
@@ -177,6 +183,31 @@ void mnu_KeepTopmost_Click(Program& program)
 void mnu_AppendLogs_Click(Program& program)
 {
     Flip(program, program.Options.mnu_AppendLogs);
+}
+
+void mnu_CarefulBatch_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Careful_Batch);
+}
+
+void mnu_OutputExistsReplace_Click(Program& program)
+{
+    Choose_Output_Exists(program, Output_Exists::Replace);
+}
+
+void mnu_OutputExistsSkip_Click(Program& program)
+{
+    Choose_Output_Exists(program, Output_Exists::Skip);
+}
+
+void mnu_OutputExistsNumber_Click(Program& program)
+{
+    Choose_Output_Exists(program, Output_Exists::Number);
+}
+
+void mnu_SensibleNamesAndSizes_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Sensible_Names_And_Sizes);
 }
 
 void mnu_RunButtonFollowsFolders_Click(Program& program)
@@ -217,6 +248,11 @@ const std::vector<Menu_Tick>& Menu_Ticks()
          [](const Program& program) { return program.Form.Topmost_On; }, mnu_KeepTopmost_Click},
         {u"mnu_AppendLogs"_s, u" Append Vantorra Log(s)"_s,
          [](const Program& program) { return program.Options.mnu_AppendLogs; }, mnu_AppendLogs_Click},
+        {u"mnu_CarefulBatch"_s, u"Careful Batch"_s,
+         [](const Program& program) { return program.Settings.Extensions.Careful_Batch; }, mnu_CarefulBatch_Click},
+        {u"mnu_SensibleNamesAndSizes"_s, u"Sensible Names And Sizes"_s,
+         [](const Program& program) { return program.Settings.Extensions.Sensible_Names_And_Sizes; },
+         mnu_SensibleNamesAndSizes_Click},
         {u"mnu_RunButtonFollowsFolders"_s, u"Run Button Follows Folders"_s,
          [](const Program& program) { return program.Settings.Extensions.Run_Button_Follows_Folders; },
          mnu_RunButtonFollowsFolders_Click},
@@ -228,4 +264,24 @@ const std::vector<Menu_Tick>& Menu_Ticks()
          mnu_IdentifyWithAnyMkvmerge_Click},
     };
     return ticks;
+}
+
+const std::vector<Menu_Tick>& Menu_Choices()
+{
+    static const std::vector<Menu_Tick> choices = {
+        {u"mnu_OutputExistsReplace"_s, u"Replace It"_s,
+         [](const Program& program) {
+             return program.Settings.Extensions.If_The_Output_Exists == Output_Exists::Replace;
+         },
+         mnu_OutputExistsReplace_Click},
+        {u"mnu_OutputExistsSkip"_s, u"Skip The Video"_s,
+         [](const Program& program) { return program.Settings.Extensions.If_The_Output_Exists == Output_Exists::Skip; },
+         mnu_OutputExistsSkip_Click},
+        {u"mnu_OutputExistsNumber"_s, u"Number The New One"_s,
+         [](const Program& program) {
+             return program.Settings.Extensions.If_The_Output_Exists == Output_Exists::Number;
+         },
+         mnu_OutputExistsNumber_Click},
+    };
+    return choices;
 }

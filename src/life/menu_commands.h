@@ -34,6 +34,12 @@ void mnu_KeepTopmost_Click(Program& program);
 void mnu_AppendLogs_Click(Program& program);
 
 // Extensions
+void mnu_CarefulBatch_Click(Program& program);
+/// What a careful batch does where its output's name is taken: one of three items has the tick.
+void mnu_OutputExistsReplace_Click(Program& program);
+void mnu_OutputExistsSkip_Click(Program& program);
+void mnu_OutputExistsNumber_Click(Program& program);
+void mnu_SensibleNamesAndSizes_Click(Program& program);
 void mnu_RunButtonFollowsFolders_Click(Program& program);
 void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program);
 void mnu_IdentifyWithAnyMkvmerge_Click(Program& program);
@@ -52,3 +58,5 @@ struct Menu_Tick
 
 /// The menu items with a tick, for the forms.
 const std::vector<Menu_Tick>& Menu_Ticks();
+/// Those of which one has the tick; choosing it again changes nothing.
+const std::vector<Menu_Tick>& Menu_Choices();

@@ -306,6 +306,26 @@ Settings_Row Extension_Row(const QString& key, bool Extension_Switches::*flag)
             }};
 }
 
+Settings_Row Output_Exists_Row(const QString& key)
+{
+    static const QStringList words = {u"Replace"_s, u"Skip"_s, u"Number"_s};
+    return {.Section = u"Extensions"_s,
+            .Key = key,
+            .Default = words.constFirst(),
+            .Written =
+                [](const Program& program) {
+                    return words.at(static_cast<qsizetype>(program.Settings.Extensions.If_The_Output_Exists));
+                },
+            .Take =
+                [](Program& program, const QString& text, const QString&) {
+                    const auto word = std::find_if(words.begin(), words.end(), [&text](const QString& known) {
+                        return known.compare(text.trimmed(), Qt::CaseInsensitive) == 0;
+                    });
+                    program.Settings.Extensions.If_The_Output_Exists =
+                        word == words.end() ? Output_Exists::Replace : static_cast<Output_Exists>(word - words.begin());
+                }};
+}
+
 Settings_Row Ignored(Settings_Row row)
 {
     row.Used = Settings_Row::Use::Ignored;

@@ -55,6 +55,9 @@ std::vector<Settings_Row> Sticky_Rows(const QString& section, const QString& for
 /// "On" or "Off" of one of the additions; any other word leaves the default.
 Settings_Row Extension_Row(const QString& key, bool Extension_Switches::*flag);
 
+/// "Replace", "Skip" or "Number"; any other word is Replace.
+Settings_Row Output_Exists_Row(const QString& key);
+
 /// The row, read and without effect.
 Settings_Row Ignored(Settings_Row row);
 /// The row, written and never read.

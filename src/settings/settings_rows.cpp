@@ -225,6 +225,9 @@ static std::vector<Settings_Row> Closing_Rows()
                  [](const Program& program) {
                      return QLocale::c().toString(program.Now(), u"MMM/dd/yyyy hh:mm:ssAP"_s) + u" local time."_s;
                  }),
+        Extension_Row(u"Careful Batch"_s, &Extension_Switches::Careful_Batch),
+        Output_Exists_Row(u"If The Output Exists"_s),
+        Extension_Row(u"Sensible Names And Sizes"_s, &Extension_Switches::Sensible_Names_And_Sizes),
         Extension_Row(u"Run Button Follows Folders"_s, &Extension_Switches::Run_Button_Follows_Folders),
         Extension_Row(u"Delete Source Only After Success"_s, &Extension_Switches::Delete_Source_Only_After_Success),
         Extension_Row(u"Identify With Any mkvmerge"_s, &Extension_Switches::Identify_With_Any_Mkvmerge),

@@ -140,6 +140,6 @@ inline constexpr int Add_Attachments = 105;
 inline constexpr int Subfolders = 106;
 inline constexpr int Split_Minutes = 107;
 inline constexpr int Last_Modified = 111;
-inline constexpr int First_Extension = 112; ///< three rows
-inline constexpr int Last_Extension = 114;
+inline constexpr int First_Extension = 112; ///< six rows
+inline constexpr int Last_Extension = 117;
 } // namespace Row

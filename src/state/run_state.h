@@ -7,6 +7,23 @@
 #include <cstdint>
 #include <optional>
 
+/// Which of a folder's videos a careful batch takes in work.
+struct Run_Choice
+{
+    bool Resume = false;      ///< not those that the journal has as done, if nothing has changed since
+    bool Only_Failed = false; ///< only those whose last result in the journal is a failure
+    QStringList Only;         ///< wild-card patterns of names; empty: all
+    QStringList Leave_Out;    ///< wild-card patterns of names
+};
+
+/// What a careful batch tells the parts that it shares with the classic one.
+struct Careful_Video
+{
+    QString Chapter_Name; ///< path of the chapters as every report shows it; empty: none are made
+    QString Chapter_File; ///< where they are made: in a folder of our own. Empty in a dry run
+    QStringList Warnings; ///< of the video in work, in words, one line each
+};
+
 /// The state of a run. Never reset as a whole: what a run doesn't clear lives on into the next.
 struct Run_State
 {
@@ -40,4 +57,9 @@ struct Run_State
 
     bool Kill_By_Name = true; ///< a halt kills every mkvmerge of this user; false: the run's own child only
     bool Dry_Run = false;     ///< inspect and assemble only: nothing is run, written, converted or trashed
+
+    std::optional<bool> Careful_Asked = {}; ///< careful or classic for this run, whatever the settings say
+    bool Careful = false;                   ///< the run that goes on is a careful one
+    Run_Choice Choice;
+    Careful_Video Video;
 };

@@ -33,9 +33,20 @@ struct StickyValues
     QString Delay;
 };
 
+/// What a careful batch does where its output's name is taken. The words of the settings file are the same.
+enum class Output_Exists : std::uint8_t
+{
+    Replace, ///< the old file goes to the trash once the new one is in its place
+    Skip,    ///< the video is left alone
+    Number   ///< the new file becomes "NAME (1).mkv"
+};
+
 /// What this program adds; each is a key of the section "Extensions".
 struct Extension_Switches
 {
+    bool Careful_Batch = false; ///< a new installation begins with it on
+    Output_Exists If_The_Output_Exists = Output_Exists::Replace;
+    bool Sensible_Names_And_Sizes = false;
     bool Run_Button_Follows_Folders = true;
     bool Delete_Source_Only_After_Success = false;
     bool Identify_With_Any_Mkvmerge = true;

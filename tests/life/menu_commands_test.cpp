@@ -34,6 +34,16 @@ TEST_F(MenuCommands, TicksFlipTheOptionBehindThemBeforeTheFirstActivationToo)
     EXPECT_FALSE(Person.Topmost);
 }
 
+TEST_F(MenuCommands, WhatBecomesOfAnOutputThatExistsIsOneOfThree)
+{
+    for (const Menu_Tick& item : Menu_Choices()) {
+        for (int times = 0; times < 2; ++times)
+            item.Command(Prog);
+        for (const Menu_Tick& other : Menu_Choices())
+            EXPECT_EQ(other.Ticked(Prog), other.Name == item.Name);
+    }
+}
+
 TEST_F(MenuCommands, AFormAboveAllOthersComesDownWhileADialogIsOpen)
 {
     const std::vector<std::pair<void (*)(Program&), QString>> dialogs = {
