@@ -42,7 +42,7 @@ static int Run_The_Batch(Program& program, const Batch_Options& options, Batch_R
         report.Ended(Batch_End::Interrupted, Exit_Halted);
         return Exit_Halted;
     case Press_Result::Finished: {
-        const int exit = report.Failed() > 0 ? Exit_Some_Failed : Exit_Finished;
+        const int exit = report.Counts().Failed > 0 ? Exit_Some_Failed : Exit_Finished;
         report.Ended(Batch_End::Finished, exit);
         return exit;
     }

@@ -64,10 +64,20 @@ void Batch_Report::Command_Ready(const QString& source, const QString& output, c
 
 void Batch_Report::File_Finished(const File_Outcome& outcome)
 {
-    if (outcome.Status == File_Outcome::Kind::Done)
-        ++done_;
-    else if (outcome.Status == File_Outcome::Kind::Failed)
-        ++failed_;
+    switch (outcome.Status) {
+    case File_Outcome::Kind::Done:
+        ++(outcome.Warnings.isEmpty() ? counts_.Done : counts_.Warnings);
+        break;
+    case File_Outcome::Kind::Failed:
+        ++counts_.Failed;
+        break;
+    case File_Outcome::Kind::Skipped:
+        ++counts_.Skipped;
+        break;
+    case File_Outcome::Kind::Not_Run:
+        ++counts_.Not_Run;
+        break;
+    }
     source_.clear();
 }
 

@@ -22,6 +22,16 @@ enum class Batch_End
     Error
 };
 
+/// How many files of a run ended how; each counts once.
+struct Outcome_Counts
+{
+    int Done = 0;     ///< without a warning
+    int Warnings = 0; ///< done, with warnings
+    int Failed = 0;
+    int Skipped = 0;
+    int Not_Run = 0;
+};
+
 /// What vantorra-batch says while it works: keeps count of the files and leaves the words to its two kinds, one for
 /// people and one for programs.
 class Batch_Report : public Run_Listener
@@ -36,9 +46,7 @@ class Batch_Report : public Run_Listener
     /// The program whose run is reported; to be set before it begins.
     void Watch_Over(const Program& program) { program_ = &program; }
 
-    int Done() const { return done_; }
-
-    int Failed() const { return failed_; }
+    const Outcome_Counts& Counts() const { return counts_; }
 
     /// A message box was raised: one line on standard error, whatever the kind.
     void Show_Message(const Message_Box& box);
@@ -75,6 +83,5 @@ class Batch_Report : public Run_Listener
     const Program* program_ = nullptr;
     QString source_;
     QMap<QString, QString> writers_; ///< output path to the source that wrote it last
-    int done_ = 0;
-    int failed_ = 0;
+    Outcome_Counts counts_;
 };

@@ -53,18 +53,35 @@ void Json_Report::Tell(int code, const QString& title, const QString& text)
     Print_Json(Out(), {{"event", "message"}, {"code", code}, {"title", Text(title)}, {"text", Text(text)}});
 }
 
+static const char* Status_Word(File_Outcome::Kind status)
+{
+    switch (status) {
+    case File_Outcome::Kind::Done:
+        return "done";
+    case File_Outcome::Kind::Failed:
+        return "failed";
+    case File_Outcome::Kind::Skipped:
+        return "skipped";
+    case File_Outcome::Kind::Not_Run:
+        return "not run";
+    }
+    return "";
+}
+
 void Json_Report::File_Finished(const File_Outcome& outcome)
 {
     Batch_Report::File_Finished(outcome);
-    const char* const status = outcome.Status == File_Outcome::Kind::Done     ? "done"
-                               : outcome.Status == File_Outcome::Kind::Failed ? "failed"
-                                                                              : "skipped";
+    Json warnings = Json::array();
+    for (const QString& warning : outcome.Warnings)
+        warnings.push_back(Text(warning));
     Print_Json(Out(), {{"event", "result"},
                        {"source", Text(outcome.Source)},
                        {"output", Text(outcome.Output)},
-                       {"status", status},
+                       {"status", Status_Word(outcome.Status)},
                        {"exit", outcome.Exit},
-                       {"seconds", std::round(outcome.Seconds * 1000) / 1000}});
+                       {"seconds", std::round(outcome.Seconds * 1000) / 1000},
+                       {"reason", Text(outcome.Reason)},
+                       {"warnings", std::move(warnings)}});
 }
 
 void Json_Report::Ended(Batch_End end, int exit)
@@ -73,6 +90,13 @@ void Json_Report::Ended(Batch_End end, int exit)
                                : end == Batch_End::Interrupted ? "interrupted"
                                : end == Batch_End::Refused     ? "refused"
                                                                : "error";
-    Print_Json(Out(),
-               {{"event", "finished"}, {"status", status}, {"done", Done()}, {"failed", Failed()}, {"exit", exit}});
+    const Outcome_Counts& counts = Counts();
+    Print_Json(Out(), {{"event", "finished"},
+                       {"status", status},
+                       {"done", counts.Done},
+                       {"warnings", counts.Warnings},
+                       {"failed", counts.Failed},
+                       {"skipped", counts.Skipped},
+                       {"not_run", counts.Not_Run},
+                       {"exit", exit}});
 }

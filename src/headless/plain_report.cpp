@@ -29,6 +29,12 @@ void Plain_Report::Progress(int, int overall)
     bar_.Show(overall, Printable(File_Name_Of(Source_In_Work())));
 }
 
+/// The reason behind a file's name, if there is one.
+static QString In_Brackets(const QString& reason)
+{
+    return reason.isEmpty() ? QString() : u" ("_s + Printable(reason) + u')';
+}
+
 void Plain_Report::File_Finished(const File_Outcome& outcome)
 {
     Batch_Report::File_Finished(outcome);
@@ -42,12 +48,13 @@ void Plain_Report::File_Finished(const File_Outcome& outcome)
                                                               QString::number(outcome.Seconds, 'f', 1)));
         break;
     case File_Outcome::Kind::Failed:
-        Print_Text(Out(),
-                   u"failed   %1%2\n"_s.arg(
-                       name, outcome.Exit < 0 ? QString() : u" (mkvmerge ended with status %1)"_s.arg(outcome.Exit)));
+        Print_Text(Out(), u"failed   "_s + name + In_Brackets(outcome.Reason) + u'\n');
         break;
     case File_Outcome::Kind::Skipped:
-        Print_Text(Out(), u"skipped  %1\n"_s.arg(name));
+        Print_Text(Out(), u"skipped  "_s + name + In_Brackets(outcome.Reason) + u'\n');
+        break;
+    case File_Outcome::Kind::Not_Run:
+        Print_Text(Out(), u"not run  "_s + name + In_Brackets(outcome.Reason) + u'\n');
         break;
     }
 }
@@ -57,7 +64,14 @@ void Plain_Report::Ended(Batch_End end, int)
     bar_.Wipe();
     if (quiet_ || Watched().Run.Dry_Run || end == Batch_End::Refused || end == Batch_End::Error)
         return;
-    Print_Text(Out(), u"%1: %2 done, %3 failed\n"_s.arg(end == Batch_End::Finished ? u"FINISHED"_s : u"INTERRUPTED"_s)
-                          .arg(Done())
-                          .arg(Failed()));
+    const Outcome_Counts& counts = Counts();
+    QString line = u"%1: %2 done"_s.arg(end == Batch_End::Finished ? u"FINISHED"_s : u"INTERRUPTED"_s).arg(counts.Done);
+    if (counts.Warnings > 0)
+        line += u", %1 done with warnings"_s.arg(counts.Warnings);
+    line += u", %1 failed"_s.arg(counts.Failed);
+    if (counts.Skipped > 0)
+        line += u", %1 skipped"_s.arg(counts.Skipped);
+    if (counts.Not_Run > 0)
+        line += u", %1 not run"_s.arg(counts.Not_Run);
+    Print_Text(Out(), line + u'\n');
 }

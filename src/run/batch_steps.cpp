@@ -34,7 +34,8 @@ After_Entry Run_Assembled_Command(Program& program, const QString& video_path, F
     if (program.Listener)
         program.Listener->Command_Ready(video_path, run.Output_Path, run.Mkvmerge_Arguments);
     if (run.Dry_Run) {
-        outcome.Status = File_Outcome::Kind::Skipped;
+        outcome.Status = File_Outcome::Kind::Not_Run;
+        outcome.Reason = u"dry run"_s;
         return After_Entry::Next;
     }
     program.Logs.Log_Console.Clear();
@@ -54,5 +55,7 @@ After_Entry Run_Assembled_Command(Program& program, const QString& video_path, F
     // 1 means that it wrote the file and warned.
     const bool successful = outcome.Exit == 0 || outcome.Exit == 1;
     outcome.Status = successful ? File_Outcome::Kind::Done : File_Outcome::Kind::Failed;
+    if (!successful)
+        outcome.Reason = u"mkvmerge ended with status %1"_s.arg(outcome.Exit);
     return After_Entry::Next;
 }

@@ -21,7 +21,8 @@ static After_Entry Split_Video(Program& program, const QString& path, File_Outco
 {
     const bool inspected = Run_FFProbe_Video(program, path) == 1;
     if (program.Run.Halt_Requested) {
-        outcome.Status = File_Outcome::Kind::Skipped;
+        outcome.Status = File_Outcome::Kind::Not_Run;
+        outcome.Reason = u"the run was halted"_s;
         return After_Entry::Halted;
     }
     if (!inspected || Split_Video_Mod(program, program.Options.Path_Target, program.Options.Path_Videos, path) != 1)

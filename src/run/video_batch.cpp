@@ -83,7 +83,8 @@ static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& o
     const JobOptions& options = program.Options;
     const bool inspected = Run_FFProbe_Video(program, run.Current_Video_Path) == 1;
     if (run.Halt_Requested) {
-        outcome.Status = File_Outcome::Kind::Skipped;
+        outcome.Status = File_Outcome::Kind::Not_Run;
+        outcome.Reason = u"the run was halted"_s;
         return After_Entry::Halted;
     }
     if (!inspected)

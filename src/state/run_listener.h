@@ -3,21 +3,25 @@
 #include "support/command_line.h"
 
 #include <QString>
+#include <QStringList>
 
-/// How one file of a run ended.
+/// How one file of a run ended. A file that is done and has warnings counts as done with warnings.
 struct File_Outcome
 {
     enum class Kind
     {
         Done,
         Failed,
-        Skipped
+        Skipped, ///< left alone: it is no video, or an option leaves it out
+        Not_Run  ///< its turn at mkvmerge never came: a halt, a dry run
     };
     QString Source;
     QString Output;
     Kind Status = Kind::Skipped;
     int Exit = 0; ///< mkvmerge's exit status, minus a signal's number, or -1 if it never ran
     double Seconds = 0;
+    QString Reason = {};       ///< in words, one line; empty where the file is plainly done
+    QStringList Warnings = {}; ///< in words, one line each
 };
 
 /// What a driver may want to hear while a run goes on. The headless driver prints it; the window needs none of it.

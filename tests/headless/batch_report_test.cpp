@@ -26,7 +26,8 @@ struct Played_Run
         Report->Watch_Over(Prog);
     }
 
-    void File(const QString& name, File_Outcome::Kind status, int exit)
+    void File(const QString& name, File_Outcome::Kind status, int exit, const QString& reason = {},
+              const QStringList& warnings = {})
     {
         Command_Line command;
         command.Add_Path(u" --output "_s, u"/t/my film.mkv"_s);
@@ -37,7 +38,9 @@ struct Played_Run
                                .Output = u"/t/my film.mkv"_s,
                                .Status = status,
                                .Exit = exit,
-                               .Seconds = 1.2504});
+                               .Seconds = 1.2504,
+                               .Reason = reason,
+                               .Warnings = warnings});
     }
 };
 
@@ -45,16 +48,16 @@ TEST(Batch_Report, JsonLinesHaveTheirKeysInTheirOrder)
 {
     Played_Run run({.Json = true});
     run.Report->Run_Started(1);
-    run.File(u"my \"film\"\n.avi"_s, File_Outcome::Kind::Done, 1);
+    run.File(u"my \"film\"\n.avi"_s, File_Outcome::Kind::Done, 1, u"R"_s, {u"w"_s});
     run.Report->Show_Message({.Code = 13, .Title = u"T."_s, .Text = u"one\r\ntwo"_s});
     run.Report->Ended(Batch_End::Finished, 0);
     EXPECT_EQ(run.Out.Text(), uR"({"event":"run","videos":"/v/","target":"/t/","files":1,"version":"2.5.5"}
 {"event":"file","index":1,"source":"/v/my \"film\"\n.avi"}
 {"event":"command","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","text":" --output \"/t/my film.mkv\"","arguments":["--output","/t/my film.mkv"]}
 {"event":"progress","source":"/v/my \"film\"\n.avi","percent":24,"overall":3}
-{"event":"result","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","status":"done","exit":1,"seconds":1.25}
+{"event":"result","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","status":"done","exit":1,"seconds":1.25,"reason":"R","warnings":["w"]}
 {"event":"message","code":13,"title":"T.","text":"one\r\ntwo"}
-{"event":"finished","status":"finished","done":1,"failed":0,"exit":0}
+{"event":"finished","status":"finished","done":0,"warnings":1,"failed":0,"skipped":0,"not_run":0,"exit":0}
 )"_s);
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: #13 T. one two\n"_s);
 }
@@ -72,15 +75,19 @@ TEST(Batch_Report, PlainLinesNameEachFileAndCountThem)
     Played_Run run({});
     run.Report->Run_Started(3);
     run.File(u"a\x1b[2J.avi"_s, File_Outcome::Kind::Done, 0);
-    run.File(u"b.avi"_s, File_Outcome::Kind::Failed, 2);
+    run.File(u"b.avi"_s, File_Outcome::Kind::Failed, 2, u"b\u009bad"_s);
     run.File(u"c.avi"_s, File_Outcome::Kind::Failed, -1);
     run.File(u"d"_s, File_Outcome::Kind::Skipped, -1);
+    run.File(u"e.avi"_s, File_Outcome::Kind::Not_Run, -1, u"halted"_s);
+    run.File(u"f.avi"_s, File_Outcome::Kind::Done, 1, {}, {u"w"_s});
     run.Report->Ended(Batch_End::Finished, 2);
     EXPECT_EQ(run.Out.Text(), u"done     a [2J.avi -> /t/my film.mkv (1.3 s)\n"
-                              "failed   b.avi (mkvmerge ended with status 2)\n"
+                              "failed   b.avi (b ad)\n"
                               "failed   c.avi\n"
                               "skipped  d\n"
-                              "FINISHED: 1 done, 2 failed\n"_s);
+                              "not run  e.avi (halted)\n"
+                              "done     f.avi -> /t/my film.mkv (1.3 s)\n"
+                              "FINISHED: 1 done, 1 done with warnings, 2 failed, 1 skipped, 1 not run\n"_s);
     EXPECT_FALSE(run.Err.Text().contains(u'\x1b')) << "nothing that isn't a terminal gets a bar";
 }
 

@@ -274,7 +274,7 @@ TEST_F(VideoBatch, ADryRunAssemblesAndTouchesNothing)
     Prog.Run.Dry_Run = true;
     EXPECT_TRUE(Run());
     EXPECT_EQ(Heard.Commands, QStringList{Test.Path(u"target/a.mkv"_s)});
-    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Skipped);
+    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Not_Run);
     EXPECT_EQ(Names(u"videos"_s).size(), 2);
     EXPECT_EQ(Names(u"target"_s), QStringList());
 }
@@ -375,6 +375,6 @@ TEST_F(VideoBatch, AHaltDuringTheInspectionNeverStartsMkvmerge)
     Test.Person.On_Pump = [&] { Prog.Run.Halt_Requested = !Prog.Run.Current_Video_Path.isEmpty(); };
     EXPECT_FALSE(Run());
     EXPECT_TRUE(Heard.Commands.isEmpty());
-    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Skipped);
+    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Not_Run);
     EXPECT_TRUE(Test.Results().isEmpty());
 }
