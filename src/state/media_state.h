@@ -23,8 +23,13 @@ struct FileInfo
     QString FrameRate;   ///< video, subtitle: a fraction
     QString FormatName;  ///< file record: container names
     QString Size;        ///< file record: bytes
-    QString BitRate;     ///< file record: bits per second
+    QString BitRate;     ///< file record: bits per second; streams too where the probe was read as JSON
     QString Encoder;     ///< file record: muxing application
+
+    // Filled where the probe was read as JSON only.
+    QString Id = {};           ///< streams: the container's own number of the track ("0x1e0")
+    QString SampleAspect = {}; ///< video: "1:1", "16:15"
+    bool Literal = false;      ///< the texts are as the file has them: nothing in them is escaped
 };
 
 /// The records of the one file in work; element 0 is the file record. Never without an entry.
@@ -53,5 +58,7 @@ struct Media_State
     QString Video_Duration; ///< HH:MM:SS and the fraction, of the current video
     QString MKVMerge_Ident_Output;
     QStringList Video_Info_Lines;
+    QStringList Probe_Warnings; ///< careful: what is odd about the current video, in words
+    QStringList Unread_Files;   ///< careful: why added files of the current video can't be read; its user empties it
     int Show_Codec_Private = 0; ///< 1 keeps the codec-private values in Video_Info_Lines
 };

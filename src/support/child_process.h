@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <optional>
 
-/// One child with both output streams in one pipe, no console and no standard input, in a process group of its own.
-/// Hands out what one read delivered and never assembles lines. Used by the tool runners only.
+/// One child with both output streams in one pipe (or each in its own), no console and no standard input, in a process
+/// group of its own. Hands out what one read delivered and never assembles lines. Used by the tool runners only.
 ///
 /// The destructor kills and reaps a child that still runs: a run-time error that unwinds through a run leaves none.
 class Child_Process
@@ -26,6 +26,12 @@ class Child_Process
         Ended
     };
 
+    enum class Outputs
+    {
+        Together, ///< standard output and messages in one pipe, in the order in which they were written
+        Apart     ///< a pipe each
+    };
+
     Child_Process();
     Child_Process(const Child_Process&) = delete;
     Child_Process& operator=(const Child_Process&) = delete;
@@ -33,11 +39,14 @@ class Child_Process
 
     /// Starts `executable` (an absolute path; PATH is not searched) with `arguments`. A program that can't be executed
     /// is No_Process with the system's error number in System_Error, never a child that ends with 127.
-    Started Start(const QString& executable, const QStringList& arguments);
+    Started Start(const QString& executable, const QStringList& arguments, Outputs outputs = Outputs::Together);
 
     /// What one read delivers, up to `most` bytes, into `chunk`. Returns after at most 50 ms with Nothing_Yet while the
     /// child is silent. Ended: every writer has closed the pipe.
     Read Read_Chunk(QByteArray& chunk, std::size_t most);
+
+    /// The same for a child with its outputs apart: what one read of each pipe delivers. Ended: both are closed.
+    Read Read_Chunks(QByteArray& output, QByteArray& messages, std::size_t most);
 
     /// Kills the child's process group and reaps the child.
     void Kill();
@@ -64,10 +73,14 @@ class Child_Process
 
   private:
     bool Reap(int milliseconds);
-    void Close_Pipe();
+    /// What one read of an open pipe delivers at once; closes it at its end.
+    static Read Read_Now(int& pipe, QByteArray& chunk, std::size_t most);
+    static void Close_Pipe(int& pipe);
+    void Close_Pipes();
 
     long process_ = 0;
     int pipe_ = -1;
+    int messages_pipe_ = -1;
     int system_error_ = 0;
     std::optional<int> exit_status_;
 };

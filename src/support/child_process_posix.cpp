@@ -62,14 +62,15 @@ static std::vector<char*> Pointers_To(std::vector<QByteArray>& texts)
     return pointers;
 }
 
-/// Starts the program with both output streams at `write_end`; 0 or the system's error number. posix_spawn tells a
+/// Starts the program with its output streams at these pipes; 0 or the system's error number. posix_spawn tells a
 /// program that can't be executed apart from a child that ends early, and doesn't copy our memory.
-static int Spawn(pid_t& process, const QByteArray& executable, std::vector<QByteArray>& arguments, int write_end)
+static int Spawn(pid_t& process, const QByteArray& executable, std::vector<QByteArray>& arguments, int output,
+                 int messages)
 {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, write_end, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, write_end, STDERR_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, messages, STDERR_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
 
     posix_spawnattr_t attributes;
@@ -91,65 +92,109 @@ static int Spawn(pid_t& process, const QByteArray& executable, std::vector<QByte
     return error;
 }
 
+/// A pipe whose reading end never blocks; the child's writes are to wait for us. 0 or the system's error number.
+static int Make_Pipe(int& read_end, int& write_end)
+{
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+        return errno;
+    read_end = ends[0];
+    write_end = ends[1];
+    ::fcntl(read_end, F_SETFL, ::fcntl(read_end, F_GETFL) | O_NONBLOCK);
+    return 0;
+}
+
 Child_Process::Child_Process() = default;
 
 Child_Process::~Child_Process()
 {
     Kill();
-    Close_Pipe();
+    Close_Pipes();
 }
 
-Child_Process::Started Child_Process::Start(const QString& executable, const QStringList& arguments)
+Child_Process::Started Child_Process::Start(const QString& executable, const QStringList& arguments, Outputs outputs)
 {
     Kill();
-    Close_Pipe();
+    Close_Pipes();
     exit_status_.reset();
-    system_error_ = 0;
 
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0) {
-        system_error_ = errno;
+    int output = -1;
+    int messages = -1;
+    system_error_ = Make_Pipe(pipe_, output);
+    if (system_error_ == 0 && outputs == Outputs::Apart)
+        system_error_ = Make_Pipe(messages_pipe_, messages);
+    if (system_error_ != 0) {
+        Close_Pipe(output);
+        Close_Pipes();
         return Started::No_Pipe;
     }
-    pipe_ = ends[0];
-    // Only our end: the child's writes are to wait for us.
-    ::fcntl(pipe_, F_SETFL, ::fcntl(pipe_, F_GETFL) | O_NONBLOCK);
 
     std::vector<QByteArray> words = {QFile::encodeName(executable)};
     for (const QString& argument : arguments)
         words.push_back(argument.toUtf8());
     pid_t process = 0;
-    system_error_ = executable.startsWith(u'/') ? Spawn(process, words.front(), words, ends[1]) : ENOENT;
-    ::close(ends[1]);
+    system_error_ = executable.startsWith(u'/')
+                        ? Spawn(process, words.front(), words, output, messages < 0 ? output : messages)
+                        : ENOENT;
+    Close_Pipe(output);
+    Close_Pipe(messages);
     if (system_error_ != 0) {
-        Close_Pipe();
+        Close_Pipes();
         return Started::No_Process;
     }
     process_ = process;
     return Started::Yes;
 }
 
-Child_Process::Read Child_Process::Read_Chunk(QByteArray& chunk, std::size_t most)
+Child_Process::Read Child_Process::Read_Now(int& pipe, QByteArray& chunk, std::size_t most)
 {
-    if (pipe_ < 0)
+    chunk.clear();
+    if (pipe < 0)
         return Read::Ended;
     chunk.resize(static_cast<qsizetype>(most));
-    ssize_t count = ::read(pipe_, chunk.data(), most);
-    if (count < 0 && errno == EAGAIN) {
-        pollfd waited{.fd = pipe_, .events = POLLIN, .revents = 0};
-        // A signal ends the wait early: it may be the one that asks for a halt.
-        if (::poll(&waited, 1, Longest_Silence) > 0)
-            count = ::read(pipe_, chunk.data(), most);
-    }
-    if (count > 0) {
-        chunk.resize(count);
+    const ssize_t count = ::read(pipe, chunk.data(), most);
+    const int error = errno;
+    chunk.resize(std::max<ssize_t>(count, 0));
+    if (count > 0)
         return Read::Data;
-    }
-    chunk.clear();
-    if (count < 0 && (errno == EAGAIN || errno == EINTR))
+    if (count < 0 && (error == EAGAIN || error == EINTR))
         return Read::Nothing_Yet;
-    Close_Pipe();
+    Close_Pipe(pipe);
     return Read::Ended;
+}
+
+Child_Process::Read Child_Process::Read_Chunk(QByteArray& chunk, std::size_t most)
+{
+    const Read read = Read_Now(pipe_, chunk, most);
+    if (read != Read::Nothing_Yet)
+        return read;
+    pollfd waited{.fd = pipe_, .events = POLLIN, .revents = 0};
+    // A signal ends the wait early: it may be the one that asks for a halt.
+    return ::poll(&waited, 1, Longest_Silence) > 0 ? Read_Now(pipe_, chunk, most) : read;
+}
+
+/// What two pipes together have delivered.
+static Child_Process::Read Both(Child_Process::Read one, Child_Process::Read other)
+{
+    using Read = Child_Process::Read;
+    if (one == Read::Data || other == Read::Data)
+        return Read::Data;
+    return one == Read::Ended && other == Read::Ended ? Read::Ended : Read::Nothing_Yet;
+}
+
+Child_Process::Read Child_Process::Read_Chunks(QByteArray& output, QByteArray& messages, std::size_t most)
+{
+    const auto read_both = [&] {
+        const Read one = Read_Now(pipe_, output, most);
+        return Both(one, Read_Now(messages_pipe_, messages, most));
+    };
+    const Read read = read_both();
+    if (read != Read::Nothing_Yet)
+        return read;
+    // poll passes over a descriptor below 0, which a closed pipe's is.
+    pollfd waited[] = {{.fd = pipe_, .events = POLLIN, .revents = 0},
+                       {.fd = messages_pipe_, .events = POLLIN, .revents = 0}};
+    return ::poll(waited, 2, Longest_Silence) > 0 ? read_both() : read;
 }
 
 void Child_Process::Kill()
@@ -195,9 +240,15 @@ bool Child_Process::Reap(int milliseconds)
     return true;
 }
 
-void Child_Process::Close_Pipe()
+void Child_Process::Close_Pipe(int& pipe)
 {
-    if (pipe_ >= 0)
-        ::close(pipe_);
-    pipe_ = -1;
+    if (pipe >= 0)
+        ::close(pipe);
+    pipe = -1;
+}
+
+void Child_Process::Close_Pipes()
+{
+    Close_Pipe(pipe_);
+    Close_Pipe(messages_pipe_);
 }

@@ -1,0 +1,96 @@
+#include "tools/ask_tool.h"
+
+#include "state/program.h"
+#include "support/child_process.h"
+#include "support/command_line.h"
+
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+static constexpr std::size_t Answer_Read_Bytes = 65536;
+/// No answer about a file is longer; a tool that prints without end would fill the memory.
+static constexpr qsizetype Longest_Answer = 64 << 20;
+static constexpr qsizetype Longest_First_Line = 300;
+
+bool Tool_Answer::Ended_Well(int also) const
+{
+    return Not_Started.isEmpty() && !Halted && !Too_Long && (Exit_Status == 0 || Exit_Status == also);
+}
+
+QString First_Line(const QByteArray& messages)
+{
+    for (const QString& line : QString::fromUtf8(messages).split(u'\n')) {
+        QString text = line;
+        for (QChar& letter : text)
+            if (letter.category() == QChar::Other_Control)
+                letter = u' ';
+        text = text.simplified();
+        if (!text.isEmpty())
+            return text.size() > Longest_First_Line ? text.left(Longest_First_Line) + u"..."_s : text;
+    }
+    return {};
+}
+
+QString Tool_Answer::Why_Not(const QString& tool) const
+{
+    if (!Not_Started.isEmpty())
+        return tool + u" could not be started: "_s + Not_Started;
+    if (Halted)
+        return tool + u" was ended by the halt"_s;
+    if (Too_Long)
+        return tool + u" printed without end"_s;
+    const QString said = First_Line(Messages);
+    QString how = u" did not end as it should"_s;
+    if (Exit_Status && *Exit_Status < 0)
+        how = u" was ended by signal %1"_s.arg(-*Exit_Status);
+    else if (Exit_Status)
+        how = u" ended with status %1"_s.arg(*Exit_Status);
+    return tool + how + (said.isEmpty() ? QString() : u": "_s + said);
+}
+
+/// Reads until both pipes are closed, or until the child is given up.
+static void Read_Answer(Program& program, Child_Process& child, Tool_Answer& answer)
+{
+    QByteArray output;
+    QByteArray messages;
+    for (;;) {
+        program.Person.Pump_Events();
+        const Child_Process::Read read = child.Read_Chunks(output, messages, Answer_Read_Bytes);
+        if (read == Child_Process::Read::Ended)
+            break;
+        answer.Output += output;
+        answer.Messages += messages;
+        answer.Halted = program.Run.Halt_Requested;
+        answer.Too_Long = answer.Output.size() + answer.Messages.size() > Longest_Answer;
+        if (answer.Halted || answer.Too_Long)
+            return child.Kill();
+    }
+    const bool ended = child.Wait([&program] {
+        program.Person.Pump_Events();
+        return !program.Run.Halt_Requested;
+    });
+    if (!ended) {
+        answer.Halted = true;
+        child.Kill();
+    }
+}
+
+Tool_Answer Ask_Tool(Program& program, const QString& executable, const Command_Line& command)
+{
+    Run_State& run = program.Run;
+    run.Exit_Status.reset();
+    Tool_Answer answer;
+    Child_Process child;
+    const Child_Process::Started started = child.Start(executable, command.Arguments(), Child_Process::Outputs::Apart);
+    run.Pipe_Result = started == Child_Process::Started::No_Pipe ? 0 : 1;
+    run.Process_Result = started == Child_Process::Started::Yes ? -1 : child.System_Error();
+    if (started != Child_Process::Started::Yes) {
+        answer.Not_Started = QString::fromLocal8Bit(std::strerror(child.System_Error()));
+        return answer;
+    }
+    Read_Answer(program, child, answer);
+    answer.Exit_Status = child.Exit_Status();
+    run.Exit_Status = answer.Exit_Status;
+    return answer;
+}
