@@ -8,22 +8,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMimeData>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
-
-/// Stands in for the desktop's program for documents.
-class Document_Opener : public QObject
-{
-    Q_OBJECT
-
-  public:
-    QUrl Opened;
-
-  public slots:
-
-    void Open(const QUrl& url) { Opened = url; }
-};
 
 /// Each command of the menu bar, each button that opens something, and the words on them.
 struct Commands : Form_Test
@@ -309,5 +295,3 @@ TEST_F(Commands, TheAttachmentFolderIsPickedByItsButtonAndItsPopup)
         menu->close();
     });
 }
-
-#include "commands_test.moc"

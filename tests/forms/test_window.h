@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <functional>
 #include <map>
 #include <memory>
@@ -81,6 +82,19 @@ class Test_Window
 
   private:
     std::unique_ptr<Instance_Lock> lock_;
+};
+
+/// Stands in for the desktop's program for documents.
+class Document_Opener : public QObject
+{
+    Q_OBJECT
+
+  public:
+    QUrl Opened;
+
+  public slots:
+
+    void Open(const QUrl& url) { Opened = url; }
 };
 
 /// A mouse button down and up on the window below the pointer, as the window system delivers it. Without a place:
