@@ -1,8 +1,10 @@
 #include "command/attachments.h"
 
+#include "command/companion_files.h"
 #include "support/files.h"
 #include "support/operator.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 
 #include <algorithm>
 #include <array>
@@ -16,7 +18,8 @@ void Find_Attachments(const QString& folder, AttachmentList& list, clsStringBuil
     const qsizetype name_start = folder.lastIndexOf(Path_Separator) + 1;
     const QString prefix = folder.mid(name_start);
     for (const QString& name : List_Files(folder.left(name_start))) {
-        if (!name.startsWith(prefix, Qt::CaseInsensitive) || !Match_File_Masks(name, Attachment_Masks))
+        if (!name.startsWith(prefix, Qt::CaseInsensitive) || !Match_File_Masks(name, Attachment_Masks) ||
+            !Can_Be_Added(name, faults))
             continue;
         if (!list.back().FullPath.isEmpty())
             list.emplace_back();
@@ -24,7 +27,7 @@ void Find_Attachments(const QString& folder, AttachmentList& list, clsStringBuil
     }
     if (!list.front().FullPath.isEmpty())
         for (const Attachment& attachment : list)
-            faults.AppendLine(u"-- Adding Attachment \""_s + attachment.FullPath + u'"');
+            faults.AppendLine(u"-- Adding Attachment \""_s + As_One_Line(attachment.FullPath) + u'"');
     person.Pump_Events();
 }
 
@@ -33,7 +36,7 @@ void Find_Attachments_Of_Video(const JobOptions& options, const QString& base_na
 {
     list.assign(1, Attachment());
     const QString titled = options.Path_Attachments + base_name;
-    const QString own_folder = titled + u"_Attachments"_s + Path_Separator;
+    const QString own_folder = As_On_Disk(titled + u"_Attachments"_s + Path_Separator);
     if (!options.Use_Attachment_Subfolders)
         Find_Attachments(options.Path_Attachments, list, faults, person);
     else if (Folder_Exists(own_folder))

@@ -2,6 +2,7 @@
 
 #include "command/chapter_text.h"
 #include "state/program.h"
+#include "support/disk_names.h"
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
@@ -71,9 +72,10 @@ int Convert_Chapters(Program& program, const QString& stem, bool convert, QStrin
     bool from_txt = false;
     const QString xml_path = stem + u"_Chapters.xml"_s;
     for (const QString& suffix : {u"_Chapters.ogg"_s, u"_Chapters.ogm"_s, u"_Chapters.txt"_s}) {
-        if (!File_Exists(stem + suffix))
+        const QString candidate = As_On_Disk(stem + suffix);
+        if (!File_Exists(candidate))
             continue;
-        input = stem + suffix;
+        input = candidate;
         from_txt = suffix.endsWith(u".txt"_s);
         break;
     }
@@ -108,6 +110,9 @@ void Find_Chapters_Xml(const QString& folder, const QString& base_name, QString&
     const QString wanted = base_name.toLower() + u"_chapters.xml"_s;
     for (const QString& name : List_Files(folder)) {
         if (!Match_File_Masks(name, u"*_chapters.xml"_s) || !name.toLower().contains(wanted))
+            continue;
+        // What its name's text leads to isn't the file.
+        if (Has_Stand_Ins(name))
             continue;
         chapter_file = folder + name;
         return;

@@ -1,18 +1,30 @@
 #include "command/companion_files.h"
 
+#include "support/disk_names.h"
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
+#include "support/string_builder.h"
 #include "support/text.h"
 
 using namespace Qt::StringLiterals;
 
-QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks)
+bool Can_Be_Added(const QString& name, clsStringBuilder& faults)
+{
+    if (!Has_Stand_Ins(name))
+        return true;
+    faults.AppendLine(u"*** Left out, as its name is not valid UTF-8: \""_s + As_One_Line(name) + u'"');
+    return false;
+}
+
+QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks,
+                            clsStringBuilder& faults)
 {
     const QString lowered_base = base_name.toLower();
     QStringList names;
     for (const QString& name : List_Files(folder))
-        if (name.toLower().contains(lowered_base) && Match_File_Masks(name, masks))
+        if (name.toLower().contains(lowered_base) && Match_File_Masks(name, masks) && Can_Be_Added(name, faults))
             names += name;
     return names;
 }

@@ -7,12 +7,20 @@
 #include <QString>
 #include <QStringList>
 
+class clsStringBuilder;
+
 /// What external audio and external subtitles have in common: which files belong to a video, and how a record takes its
 /// settings from an option file or from the sticky values.
 
+/// False for a name that isn't valid UTF-8, and then `faults` has a line: mkvmerge can't open such a file, and would
+/// fail the whole video for it.
+bool Can_Be_Added(const QString& name, clsStringBuilder& faults);
+
 /// Names of the files in `folder` that match `masks` and hold `base_name` anywhere, both without regard to case, in the
-/// order of the listing. Deliberate: the name isn't anchored, so "The Movie 2.mp3" belongs to "Movie.mkv" too.
-QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks);
+/// order of the listing, without those that can't be added. Deliberate: the name isn't anchored, so "The Movie 2.mp3"
+/// belongs to "Movie.mkv" too.
+QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks,
+                            clsStringBuilder& faults);
 
 /// The record to fill next: the last one of the list, or a new one behind it if that is in use. It comes in use.
 ExternalTrack& Add_Track(ExternalTrackList& list);

@@ -4,6 +4,7 @@
 #include "inspect/external_probe.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 
 #include <array>
@@ -39,7 +40,7 @@ void Find_External_Audio(Program& program, const QString& folder, const QString&
                          bool& default_claimed)
 {
     default_claimed = false;
-    const QStringList names = Find_Companions(folder, base_name, Audio_File_Masks);
+    const QStringList names = Find_Companions(folder, base_name, Audio_File_Masks, program.Logs.Log_Faults);
     if (names.isEmpty())
         return;
     for (qsizetype i = 0; i < names.size(); ++i) {
@@ -94,7 +95,8 @@ void Log_External_Audio(const ExternalTrackList& list, const JobOptions& options
         return;
     for (const ExternalTrack& track : list) {
         const QString language = track.Language.isEmpty() ? u"und"_s : track.Language;
-        faults.AppendLine(u"-- Adding audio track - \""_s + track.FileName + u'"' + Language_Part(table, language));
+        faults.AppendLine(u"-- Adding audio track - \""_s + As_One_Line(track.FileName) + u'"' +
+                          Language_Part(table, language));
         if (options.chk_UseAudioOpts.Value == 1)
             faults.AppendLine(Status_Lines.at(static_cast<std::size_t>(track.OptionStatus)));
     }

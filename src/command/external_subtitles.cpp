@@ -8,6 +8,7 @@
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 
 using namespace Qt::StringLiterals;
@@ -75,8 +76,9 @@ void Find_External_Subtitles(Program& program, const QString& folder, const QStr
                              ExternalTrackList& unpaired)
 {
     program.Run.Process_Failed = false;
-    const QStringList names =
-        Find_Companions(folder, base_name, Subtitle_File_Masks) + Find_Companions(folder, base_name, Idx_File_Mask);
+    clsStringBuilder& faults = program.Logs.Log_Faults;
+    const QStringList names = Find_Companions(folder, base_name, Subtitle_File_Masks, faults) +
+                              Find_Companions(folder, base_name, Idx_File_Mask, faults);
     if (names.isEmpty())
         return;
     // Deliberate: extensions are compared with their case here, so "x.IDX" counts as a plain file.
@@ -152,7 +154,7 @@ static void Log_Files(const ExternalTrackList& list, const JobOptions& options, 
             option_line += u" Applying Default Subtitle Options."_s;
     }
     for (const ExternalTrack& track : list) {
-        faults.AppendLine(u"-- Adding subtitle track - \""_s + track.FileName + u'"' +
+        faults.AppendLine(u"-- Adding subtitle track - \""_s + As_One_Line(track.FileName) + u'"' +
                           Language_Part(table, track.Language));
         if (!track.OptionFileUsed && !option_line.isEmpty())
             faults.AppendLine(option_line);
@@ -175,7 +177,7 @@ void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackLi
     const QString reason =
         brief ? u"\". The '*.sub' file was not found."_s : u"\". The acompanying '*.sub' file was not found."_s;
     for (const ExternalTrack& track : unpaired)
-        faults.AppendLine(u"   *** Cannot add subtitle; \""_s + track.FileName + reason);
+        faults.AppendLine(u"   *** Cannot add subtitle; \""_s + As_One_Line(track.FileName) + reason);
 }
 
 void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTrackList& list, const JobOptions& options,
@@ -187,8 +189,9 @@ void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTra
     for (const ExternalTrack& track : list) {
         if (track.IsIdxPair && !track.HasSubFile)
             continue;
-        // Deliberate: a name that is a part of the names added so far, written side by side, is skipped.
-        if (added.Contains(track.FileName))
+        // Deliberate: a name that is a part of the names added so far, written side by side, is skipped. That rule was
+        // made for a file system where two names never differ in case alone; here both are files of their own.
+        if (added.Contains(track.FileName) && !added.Differs_Only_In_Case(track.FileName))
             continue;
         const QString id = QString::number(track.TrackId) + u':';
         command.Add_Option(u" --language "_s, Track_Language(track));

@@ -43,8 +43,16 @@ void Joined_Names::Add_Letter(char16_t letter)
 
 void Joined_Names::Add(const QString& name)
 {
-    for (const QChar letter : name.toLower())
+    const QString lowered = name.toLower();
+    names_[lowered] += name;
+    for (const QChar letter : lowered)
         Add_Letter(letter.unicode());
+}
+
+bool Joined_Names::Differs_Only_In_Case(const QString& name) const
+{
+    const auto found = names_.constFind(name.toLower());
+    return found != names_.constEnd() && !found->contains(name);
 }
 
 bool Joined_Names::Contains(const QString& text) const

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 #include <utility>
 #include <vector>
 
@@ -13,6 +15,8 @@ class Joined_Names
     void Add(const QString& name);
     /// True for a text that lies within one name or across the borders of several; the empty text occurs everywhere.
     bool Contains(const QString& text) const;
+    /// True for a name that was added in other letters, small for capital, and not in these.
+    bool Differs_Only_In_Case(const QString& name) const;
 
   private:
     /// All places in the joined text where the same set of substrings ends.
@@ -27,6 +31,7 @@ class Joined_Names
 
     void Add_Letter(char16_t letter);
 
+    QHash<QString, QStringList> names_; ///< as they were added, by their lowered form
     std::vector<State> states_{1};
     int last_ = 0;
 };

@@ -4,6 +4,7 @@
 #include "command/track_order.h"
 #include "inspect/stream_parser.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 
 using namespace Qt::StringLiterals;
@@ -39,7 +40,7 @@ int Split_Video_Mod(Program& program, const QString& target_path, const QString&
     FileInfoList& streams = program.Media.FileInfoList;
     clsStringBuilder& faults = program.Logs.Log_Faults;
     const Source_Names names = Name_Source(video_path, streams);
-    faults.AppendLine(u"-- Processing video file - \""_s + video_path + u'"');
+    faults.AppendLine(u"-- Processing video file - \""_s + As_One_Line(video_path) + u'"');
     const QString output_path = Output_Path_Of(target_path, Video_Base_Name_Of(video_path));
 
     // The filters don't run here, so every track counts; subtitles have no entries.

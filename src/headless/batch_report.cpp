@@ -6,6 +6,7 @@
 #include "headless/print.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +19,7 @@ std::unique_ptr<Batch_Report> Batch_Report::Make(const Batch_Options& options, s
 
 void Batch_Report::Complain(const QString& line)
 {
-    Print_Text(err_, u"vantorra-batch: "_s + Printable(line).simplified() + u'\n');
+    Print_Text(err_, u"vantorra-batch: "_s + Printable(line.simplified()) + u'\n');
 }
 
 void Batch_Report::Show_Message(const Message_Box& box)

@@ -4,6 +4,7 @@
 #include "headless/print.h"
 #include "inspect/identification.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 #include "tools/tool_discovery.h"
 #include "workbenches/video_info_viewer.h"

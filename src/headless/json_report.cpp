@@ -2,6 +2,7 @@
 
 #include "headless/print.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 
 #include <cmath>
 #include <nlohmann/json.hpp>
@@ -11,7 +12,7 @@ using Json = nlohmann::ordered_json;
 
 static std::string Text(const QString& text)
 {
-    return text.toStdString();
+    return Bytes_Shown(text).toStdString();
 }
 
 void Json_Report::Run_Started(int files)

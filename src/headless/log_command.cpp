@@ -1,26 +1,26 @@
 #include "headless/log_command.h"
 
+#include "headless/print.h"
 #include "logs/log_rotation.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
+#include "support/text.h"
 #include "workbenches/log_viewer.h"
 
 #include <QFile>
-#include <algorithm>
+#include <QStringDecoder>
 #include <cerrno>
 
 using namespace Qt::StringLiterals;
 
-/// A file's name in the log may hold what would play with a terminal. UTF-8 passes.
-static bool Is_Control(char byte)
+/// A file's name in the log may hold what would play with a terminal.
+static void Print_Lines(std::FILE* out, const QString& text)
 {
-    return (byte >= 0 && byte < ' ' && byte != '\n' && byte != '\t') || byte == '\x7f';
-}
-
-static void Print(std::FILE* out, QByteArray bytes)
-{
-    std::replace_if(bytes.begin(), bytes.end(), Is_Control, ' ');
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), out);
+    QStringList lines = text.split(u'\n');
+    for (QString& line : lines)
+        line = Printable(line);
+    Print_Text(out, lines.join(u'\n'));
 }
 
 /// Piece by piece: an appended log grows without bound. A CR goes only together with its LF.
@@ -31,17 +31,18 @@ static void Print_All(const QString& log, std::FILE* out)
     errno = 0;
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         Raise_File_Error(u"Opening the process log to print it"_s, log, errno);
+    QStringDecoder decoder(QStringDecoder::Utf8);
     QByteArray bytes;
-    QByteArray held_back;
+    QString held_back;
     while (!(bytes = file.read(piece)).isEmpty()) {
-        bytes.prepend(held_back);
-        held_back = bytes.endsWith('\r') ? "\r" : "";
-        bytes.chop(held_back.size());
-        Print(out, bytes.replace("\r\n", "\n"));
+        QString text = held_back + QString(decoder(bytes));
+        held_back = text.endsWith(u'\r') ? u"\r"_s : QString();
+        text.chop(held_back.size());
+        Print_Lines(out, text.replace(Line_Break, u"\n"_s));
     }
     if (file.error() != QFileDevice::NoError)
         Raise_File_Error(u"Reading the process log to print it"_s, log, errno);
-    Print(out, held_back);
+    Print_Lines(out, held_back);
 }
 
 void Print_Log(const QString& app_folder, bool full, std::FILE* out)
@@ -54,6 +55,5 @@ void Print_Log(const QString& app_folder, bool full, std::FILE* out)
         Print_All(log, out);
     else
         for (const QString& line : Read_Log_Lines(log, newest_lines - 1))
-            Print(out, line.toUtf8() + '\n');
-    std::fflush(out);
+            Print_Lines(out, line + u'\n');
 }

@@ -3,6 +3,7 @@
 #include "headless/print.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 
 using namespace Qt::StringLiterals;
 

@@ -16,12 +16,3 @@ void Print_Json(std::FILE* stream, const nlohmann::ordered_json& object)
     std::fwrite(line.data(), 1, line.size(), stream);
     std::fflush(stream);
 }
-
-QString Printable(const QString& text)
-{
-    QString printable = text;
-    for (QChar& letter : printable)
-        if (letter.category() == QChar::Other_Control)
-            letter = u' ';
-    return printable;
-}

@@ -9,6 +9,3 @@ void Print_Text(std::FILE* stream, const QString& text);
 
 /// Writes one JSON object as one line. Text that is no Unicode is replaced, never refused.
 void Print_Json(std::FILE* stream, const nlohmann::ordered_json& object);
-
-/// The text with every control character made a blank: safe to print on a terminal, and one line.
-QString Printable(const QString& text);

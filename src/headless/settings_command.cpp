@@ -5,6 +5,7 @@
 #include "headless/print.h"
 #include "settings/settings_store.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

@@ -18,5 +18,5 @@ inline const QString Video_Extensions = QStringLiteral(
 bool Is_Video_File(const QString& path, QString& out);
 
 /// Fills `list` with the names of the files of `folder` (ending in a separator) that match `patterns`, in the order of
-/// the file system. One empty entry, and false, if there is none or the folder can't be opened.
+/// List_Files. One empty entry, and false, if there is none or the folder can't be opened.
 bool Find_Video_Files(Program& program, const QString& folder, const QString& patterns, QStringList& list);

@@ -2,6 +2,7 @@
 
 #include "inspect/stream_parser.h"
 #include "state/program.h"
+#include "support/disk_names.h"
 #include "support/paths.h"
 #include "tools/failure_reports.h"
 #include "tools/tool_runner.h"
@@ -34,6 +35,9 @@ int Run_FFProbe_Video(Program& program, const QString& video_path)
 {
     QString& output = program.Media.FFProbe_Output;
     output.clear();
+    // mkvmerge can't open a name that isn't valid UTF-8: it gets the report that speaks of such names.
+    if (Has_Stand_Ins(video_path))
+        return Report_Run_Failure(program, 13, u"FFProbe"_s, Quote_Path(video_path));
     Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_format"_s, video_path), output);
     if (!Check_FFProbe_Run(program, video_path))
         return 0;

@@ -1,6 +1,7 @@
 #include "logs/results_digest.h"
 
 #include "state/program.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 
 using namespace Qt::StringLiterals;
@@ -77,7 +78,7 @@ static void Add_Deletion_Notes(Program& program)
             program.Logs.Log_Results.AppendLine(u"@");
         first = false;
         Add_Indented(program.Logs.Log_Results, separated ? Line_Indent : Console_Indent,
-                     note.Text + u'"' + run.Current_Video_Path + u'"');
+                     note.Text + u'"' + As_One_Line(run.Current_Video_Path) + u'"');
     }
 }
 

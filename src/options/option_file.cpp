@@ -34,7 +34,7 @@ static QString Language_Of_Line(const LanguageTable& table, const QString& value
 bool Read_Option_File(const LanguageTable& table, const QString& media_path, Option_Values& values)
 {
     values = {};
-    const QString path = media_path + u".opt"_s;
+    const QString path = As_On_Disk(media_path + u".opt"_s);
     if (!File_Exists(path))
         return false;
     for (const QString& line : Read_Lines(path)) {

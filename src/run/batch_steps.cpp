@@ -2,6 +2,7 @@
 
 #include "inspect/video_names.h"
 #include "state/program.h"
+#include "support/disk_names.h"
 #include "support/paths.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 /// text: it isn't passed over but goes on to its report.
 static bool Is_Gone(const QString& path)
 {
-    return !File_Exists(path) && !path.contains(QChar::ReplacementCharacter);
+    return !File_Exists(path) && !Has_Stand_Ins(path);
 }
 
 bool Is_Looked_At(const QString& path)

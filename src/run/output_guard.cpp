@@ -2,6 +2,7 @@
 
 #include "support/files.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 
 #include <QStringList>
 
@@ -32,6 +33,6 @@ QString File_That_Is_Output(const Command_Line& command, const QString& output, 
 
 QString Refused_Output(const QString& file, const QString& output)
 {
-    return u"*** Not processed: the output \""_s + output + u"\" is the same file on disk as \""_s + file +
-           u"\", which would be destroyed. Choose another target folder."_s;
+    return u"*** Not processed: the output \""_s + As_One_Line(output) + u"\" is the same file on disk as \""_s +
+           As_One_Line(file) + u"\", which would be destroyed. Choose another target folder."_s;
 }

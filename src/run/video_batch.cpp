@@ -11,6 +11,7 @@
 #include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
 #include "tools/tool_runner.h"
@@ -31,7 +32,7 @@ struct Batch
 
 static QString Quoted(const QString& path)
 {
-    return u'"' + path + u'"';
+    return u'"' + As_One_Line(path) + u'"';
 }
 
 /// Moves the video's companions to the trash, and its attachments.
@@ -48,7 +49,7 @@ static void Delete_Companions(Program& program, Batch& batch)
         return;
     if (program.Options.Use_Attachment_Subfolders) {
         // Deliberate: the folder beside the video, though the attachments were looked for in the attachments' folder.
-        run.Attachment_Folder_Deleted = Delete_To_Recycle(folder + base + u"_Attachments"_s, faults);
+        run.Attachment_Folder_Deleted = Delete_To_Recycle(As_On_Disk(folder + base + u"_Attachments"_s), faults);
         return;
     }
     // Deliberate: all that was attached goes after the first video, so that the next has none; an empty list sets the

@@ -1,5 +1,7 @@
 #include "support/child_process.h"
 
+#include "support/disk_names.h"
+
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
@@ -131,7 +133,7 @@ Child_Process::Started Child_Process::Start(const QString& executable, const QSt
 
     std::vector<QByteArray> words = {QFile::encodeName(executable)};
     for (const QString& argument : arguments)
-        words.push_back(argument.toUtf8());
+        words.push_back(Bytes_Of_Name(argument));
     pid_t process = 0;
     system_error_ = executable.startsWith(u'/')
                         ? Spawn(process, words.front(), words, output, messages < 0 ? output : messages)

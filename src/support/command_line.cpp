@@ -1,6 +1,7 @@
 #include "support/command_line.h"
 
 #include "support/paths.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 
 #include <QRegularExpression>
@@ -91,8 +92,8 @@ QString Command_Line::Refused_Value(const QString& option, const QString& value)
 {
     constexpr qsizetype longest_quote = 200;
     const QString argument = Argument_Of(value);
-    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + argument.left(longest_quote) + u"\" "_s +
-           Refusal_Reason(argument);
+    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + As_One_Line(argument.left(longest_quote)) +
+           u"\" "_s + Refusal_Reason(argument);
 }
 
 static bool Is_Plain(QChar character)
@@ -100,13 +101,13 @@ static bool Is_Plain(QChar character)
     return character.unicode() < 128 && (character.isLetterOrNumber() || u"_-+=:,./@%"_s.contains(character));
 }
 
-/// What stands for a character between single quotes. A control character but the line feed is spelled out by printf,
-/// so that the words can be shown on a terminal.
+/// What stands for a character between single quotes. What could mislead on a terminal, but for the line feed, is
+/// spelled out by printf, so that the words can be shown on a terminal.
 static QString Shell_Letter(QChar letter)
 {
     if (letter == u'\'')
         return u"'\\''"_s;
-    if (letter.category() != QChar::Other_Control || letter == u'\n')
+    if (!Can_Mislead(letter) || letter == u'\n')
         return letter;
     QString octal;
     for (const char byte : QString(letter).toUtf8())

@@ -1,7 +1,9 @@
 #include "support/files.h"
 
+#include "support/disk_names.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
 #include "support/string_builder.h"
 #include "support/text.h"
 
@@ -12,6 +14,7 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QStringDecoder>
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <unistd.h>
@@ -21,20 +24,64 @@ namespace fs = std::filesystem;
 
 static fs::path Native_Path(const QString& path)
 {
-    return fs::path(QFile::encodeName(path).toStdString());
+    return fs::path(Bytes_Of_Name(path).toStdString());
+}
+
+/// A name raised to upper case letter by letter, which never changes its length.
+static QString Raised(QString name)
+{
+    for (QChar& letter : name)
+        letter = letter.toUpper();
+    return name;
+}
+
+/// Sorts names as the system's home platform lists them: by code unit, capitals and small letters as one.
+static QStringList By_Name(const std::vector<std::string>& entries)
+{
+    std::vector<std::pair<QString, QString>> raised;
+    raised.reserve(entries.size());
+    for (const std::string& entry : entries) {
+        const QString name = Text_Of_Name(QByteArray::fromStdString(entry));
+        raised.emplace_back(Raised(name), name);
+    }
+    std::sort(raised.begin(), raised.end());
+    QStringList names;
+    names.reserve(static_cast<qsizetype>(raised.size()));
+    for (const auto& [key, name] : raised)
+        names += name;
+    return names;
 }
 
 QStringList List_Files(const QString& folder)
 {
-    QStringList names;
+    std::vector<std::string> names;
     std::error_code error;
     for (fs::directory_iterator entry(Native_Path(folder), error), end; !error && entry != end;
          entry.increment(error)) {
         std::error_code status_error;
         if (entry->is_regular_file(status_error))
-            names += QString::fromStdString(entry->path().filename().string());
+            names.push_back(entry->path().filename().string());
     }
-    return names;
+    return By_Name(names);
+}
+
+QString As_On_Disk(const QString& path)
+{
+    const bool is_folder = path.endsWith(Path_Separator);
+    const QString plain = is_folder ? path.chopped(1) : path;
+    std::error_code error;
+    if (fs::exists(Native_Path(plain), error))
+        return path;
+    const QString folder = plain.left(plain.lastIndexOf(Path_Separator) + 1);
+    const QString wanted = Raised(File_Name_Of(plain));
+    QString found;
+    for (fs::directory_iterator entry(Native_Path(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const QString name = Text_Of_Name(QByteArray::fromStdString(entry->path().filename().string()));
+        if (Raised(name) == wanted && (found.isEmpty() || name < found))
+            found = name;
+    }
+    return found.isEmpty() ? path : folder + found + (is_folder ? QString(Path_Separator) : QString());
 }
 
 Folder_Counts Count_Folder(const QString& folder)
@@ -145,16 +192,16 @@ static bool Can_Be_Described(const QString& path)
 
 bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
 {
-    // A dangling link exists as a thing to move though it names no file.
-    const QFileInfo info(path);
-    if (!info.exists() && !info.isSymLink())
-        return true;
     QString plain = path;
     while (plain.size() > 1 && plain.endsWith(Path_Separator))
         plain.chop(1);
-    if (Trash_Can_Be_Made() && Can_Be_Described(plain) && QFile::moveToTrash(plain))
+    // A dangling link exists as a thing to move though it names no file.
+    std::error_code error;
+    if (fs::symlink_status(Native_Path(plain), error).type() == fs::file_type::not_found)
         return true;
-    faults.AppendLine(u"-- Could not be moved to the trash - \""_s + plain + u'"');
+    if (!Has_Stand_Ins(plain) && Trash_Can_Be_Made() && Can_Be_Described(plain) && QFile::moveToTrash(plain))
+        return true;
+    faults.AppendLine(u"-- Could not be moved to the trash - \""_s + As_One_Line(plain) + u'"');
     return false;
 }
 
@@ -167,8 +214,12 @@ void Recycle_If_Exists(const QString& path, clsStringBuilder& faults)
 bool Recycle_By_Prefix(const QString& folder, const QString& prefix, clsStringBuilder& faults)
 {
     bool all_gone = true;
-    for (const QString& name : List_Files(folder))
-        if (name.startsWith(prefix))
+    std::vector<std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator entry(Native_Path(folder), error), end; !error && entry != end; entry.increment(error))
+        names.push_back(entry->path().filename().string());
+    for (const QString& name : By_Name(names))
+        if (name.startsWith(prefix, Qt::CaseInsensitive))
             all_gone = Delete_To_Recycle(With_Separator(folder) + name, faults) && all_gone;
     return all_gone;
 }

@@ -8,10 +8,15 @@ class clsStringBuilder;
 
 /// Files and folders on disk: listing, reading whole, writing whole, and the trash.
 
-/// The names of the regular files in a folder (and links to them), in the order in which the file system lists them,
-/// hidden ones and names that aren't valid UTF-8 included; no folder, pipe, socket or device. A folder that can't be
-/// opened gives an empty list.
+/// The names of the regular files in a folder (and links to them), hidden ones and names that aren't valid UTF-8
+/// included (Text_Of_Name); no folder, pipe, socket or device. They come by name, as the system's home platform lists
+/// them: compared by UTF-16 code unit after raising letters to upper case, equal ones by the plain name. A folder that
+/// can't be opened gives an empty list.
 QStringList List_Files(const QString& folder);
+
+/// `path` if something is there; else the path of what stands in the same folder under that name but for the case of
+/// its letters, the first by name, as the system's home platform would find it; else `path` again.
+QString As_On_Disk(const QString& path);
 
 /// How many subfolders and files (of any kind) a folder holds.
 struct Folder_Counts
@@ -35,5 +40,6 @@ void Write_Whole_File(const QString& path, const QByteArray& content);
 bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults);
 /// Delete_To_Recycle if the path names an existing file.
 void Recycle_If_Exists(const QString& path, clsStringBuilder& faults);
-/// Moves every file of `folder` whose name begins with `prefix`, taken literally, to the trash. False if one stays.
+/// Moves every file and folder of `folder` whose name begins with `prefix`, taken literally but for the case of its
+/// letters, to the trash. False if one stays.
 bool Recycle_By_Prefix(const QString& folder, const QString& prefix, clsStringBuilder& faults);

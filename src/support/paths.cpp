@@ -1,5 +1,6 @@
 #include "support/paths.h"
 
+#include "support/disk_names.h"
 #include "support/text.h"
 
 #include <QFileInfo>
@@ -8,19 +9,25 @@
 
 using namespace Qt::StringLiterals;
 
-static bool Is_Absolute(const QString& path)
+/// A name that isn't valid UTF-8 is none that can be asked for by its text; see disk_names.h.
+static bool Can_Be_Asked_For(const QString& path)
 {
-    return path.startsWith(Path_Separator);
+    return path.startsWith(Path_Separator) && !Has_Stand_Ins(path);
+}
+
+static std::filesystem::path Native_Path_Of(const QString& path)
+{
+    return Bytes_Of_Name(path).toStdString();
 }
 
 bool File_Exists(const QString& path)
 {
-    return Is_Absolute(path) && QFileInfo(path).exists() && !QFileInfo(path).isDir();
+    return Can_Be_Asked_For(path) && QFileInfo(path).exists() && !QFileInfo(path).isDir();
 }
 
 bool Folder_Exists(const QString& path)
 {
-    return Is_Absolute(path) && QFileInfo(path).isDir();
+    return Can_Be_Asked_For(path) && QFileInfo(path).isDir();
 }
 
 bool Path_Exists(const QString& path)
@@ -117,12 +124,12 @@ bool Same_Folder(const QString& one, const QString& other)
 bool Same_File(const QString& one, const QString& other)
 {
     std::error_code error;
-    return std::filesystem::equivalent(one.toStdU16String(), other.toStdU16String(), error) && !error;
+    return std::filesystem::equivalent(Native_Path_Of(one), Native_Path_Of(other), error) && !error;
 }
 
 bool Has_Other_Names(const QString& path)
 {
-    const std::filesystem::path file = path.toStdU16String();
+    const std::filesystem::path file = Native_Path_Of(path);
     std::error_code error;
     return std::filesystem::is_symlink(file, error) || std::filesystem::hard_link_count(file, error) > 1;
 }

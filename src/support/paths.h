@@ -7,9 +7,9 @@
 /// The separator that a folder's path ends in.
 inline constexpr char16_t Path_Separator = u'/';
 
-/// True for an existing file. A path that doesn't begin with "/" never exists.
+/// True for an existing file. A path that doesn't begin with "/" never exists, nor one that isn't valid UTF-8.
 bool File_Exists(const QString& path);
-/// True for an existing folder. A path that doesn't begin with "/" never exists.
+/// True for an existing folder. A path that doesn't begin with "/" never exists, nor one that isn't valid UTF-8.
 bool Folder_Exists(const QString& path);
 /// True for an existing folder; the empty text never exists. Unlike Folder_Exists it takes a relative path too.
 bool Path_Exists(const QString& path);

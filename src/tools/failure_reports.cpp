@@ -2,6 +2,7 @@
 
 #include "logs/results_digest.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 #include "support/system_identification.h"
 
 #include <algorithm>
@@ -144,7 +145,7 @@ int Report_Run_Failure(Program& program, int code, const QString& text_1, const 
     program.Person.Show_Message(
         {.Code = code, .Title = fill(report->Title), .Text = fill(report->Text), .Icon = report->Icon});
     if (Holds(Codes_That_Log_Text_2, code) && !text_2.isEmpty())
-        program.Logs.Log_Faults.AppendLine(text_2);
+        program.Logs.Log_Faults.AppendLine(As_One_Line(text_2));
     program.Logs.Log_Faults.AppendLine(fill(report->Log_Line));
     Digest_Results(program,
                    code == Unicode_Note_Code

@@ -6,6 +6,7 @@
 #include "support/text.h"
 #include "workbenches/viewer_text_size.h"
 
+#include <QHash>
 #include <QSet>
 #include <algorithm>
 #include <numeric>
@@ -128,16 +129,23 @@ void Scan_Option_Folder(Program& program)
     // Events have their turn while the folder is listed: the rows change all at once.
     std::vector<OptionFileRow> rows;
     if (!editor.Folder.isEmpty()) {
+        const QStringList option_names = Names_By_Masks(program, editor.Folder, editor.Kind.Option_Masks);
+        QHash<QString, QString> in_other_case;
+        for (const QString& name : option_names)
+            if (QString& first = in_other_case[name.toLower()]; first.isEmpty())
+                first = name;
         QSet<QString> paired;
         for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Media_Masks)) {
             OptionFileRow row{name, {}};
-            if (const QString option_name = name + u".opt"_s; File_Exists(editor.Folder + option_name)) {
-                row.OptionFileName = option_name;
-                paired += option_name;
-            }
+            if (const QString own = name + u".opt"_s; File_Exists(editor.Folder + own))
+                row.OptionFileName = own;
+            else
+                row.OptionFileName = in_other_case.value(own.toLower());
+            if (!row.OptionFileName.isEmpty())
+                paired += row.OptionFileName;
             rows.push_back(row);
         }
-        for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Option_Masks))
+        for (const QString& name : option_names)
             if (!paired.contains(name))
                 rows.push_back({{}, name});
     }

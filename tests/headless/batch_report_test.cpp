@@ -81,8 +81,8 @@ TEST(Batch_Report, PlainLinesNameEachFileAndCountThem)
     run.File(u"e.avi"_s, File_Outcome::Kind::Not_Run, -1, u"halted"_s);
     run.File(u"f.avi"_s, File_Outcome::Kind::Done, 1, {}, {u"w"_s});
     run.Report->Ended(Batch_End::Finished, 2);
-    EXPECT_EQ(run.Out.Text(), u"done     a [2J.avi -> /t/my film.mkv (1.3 s)\n"
-                              "failed   b.avi (b ad)\n"
+    EXPECT_EQ(run.Out.Text(), u"done     a\\x1B[2J.avi -> /t/my film.mkv (1.3 s)\n"
+                              "failed   b.avi (b\\u009Bad)\n"
                               "failed   c.avi\n"
                               "skipped  d\n"
                               "not run  e.avi (halted)\n"

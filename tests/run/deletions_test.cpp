@@ -24,8 +24,8 @@ struct Deletions : testing::Test
         Merge_Ends_With(0);
         Prog.Options.Log_Verbosity = 1;
         Prog.Options.Delete_Video_After = true;
-        for (const QString& name : {u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"ab_Track1.mp3"_s,
-                                    u"a*.srt"_s, u"a*_Attachments/font.ttf"_s})
+        for (const QString& name : {u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"A*_track dir/x"_s,
+                                    u"ab_Track1.mp3"_s, u"a*.srt"_s, u"a*_Attachments/font.ttf"_s})
             Test.Write(u"videos/"_s + name, "x");
         Test.Write(u"attachments/one.ttf"_s, "x");
         Test.Write(u"attachments/notes.txt"_s, "x");
@@ -97,6 +97,7 @@ TEST_F(Deletions, CompanionsGoByTheirLiteralPrefix)
 {
     Prog.Options.Delete_Sundry_Files = true;
     EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s}));
+    EXPECT_FALSE(QDir(Test.Path(u"videos/A*_track dir"_s)).exists());
     EXPECT_EQ(Notes(u"Ancillary files"_s), 1);
     EXPECT_EQ(Notes(u"ATTACHMENT files"_s) + Notes(u"ATTACHMENT folder"_s), 0);
 }
@@ -126,7 +127,7 @@ TEST_F(Deletions, WhatCannotBeMovedToTheTrashStaysAndIsNotCalledDeleted)
     EXPECT_EQ(Run(), All);
     EXPECT_FALSE(Prog.Run.Source_Deleted);
     EXPECT_FALSE(Prog.Run.Ancillary_Deleted);
-    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 3);
+    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 4);
     EXPECT_EQ(Test.Results().filter(u"DELETED"_s).size(), 0);
 }
 

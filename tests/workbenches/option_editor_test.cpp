@@ -58,7 +58,7 @@ TEST(OptionEditor, ListsMediaFilesThenOrphansInOrderOfNames)
         test.Write(u"videos/"_s + QString::fromLatin1(name));
     test.Edit([&] {
         EXPECT_EQ(test.Listed(),
-                  (QStringList{u"C.flac|"_s, u"a.mp3|a.mp3.opt"_s, u"b.mp3|"_s, u"|b.mp3.OPT"_s, u"|gone.ogg.opt"_s}));
+                  (QStringList{u"C.flac|"_s, u"a.mp3|a.mp3.opt"_s, u"b.mp3|b.mp3.OPT"_s, u"|gone.ogg.opt"_s}));
         EXPECT_EQ(test.Editor().Focus, u"btn_Close"_s);
     });
 }
