@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
+    // No display name: the desktop would hang it behind every window's title.
     QApplication::setApplicationName(u"vantorra"_s);
-    QApplication::setApplicationDisplayName(u"Vantorra"_s);
     QApplication::setApplicationVersion(QStringLiteral(VANTORRA_VERSION));
     QApplication::setDesktopFileName(u"vantorra"_s);
     QApplication::setStyle(new Readable_Style);
