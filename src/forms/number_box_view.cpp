@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <utility>
 
 Number_Box_View::Number_Box_View(Program& program, Slot_Guard& guard, QLineEdit& edit, Text_Box& record,
                                  Number_Box_Rules rules)
@@ -12,6 +13,7 @@ Number_Box_View::Number_Box_View(Program& program, Slot_Guard& guard, QLineEdit&
 {
     edit.installEventFilter(this);
     connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+        entered_ = true;
         guard_.Call([&] {
             record_.Text = text;
             record_.Caret = edit_.cursorPosition();
@@ -34,6 +36,18 @@ void Number_Box_View::Render()
     edit_.setBackgroundRole(record_.Active ? QPalette::Base : QPalette::Window);
 }
 
+void Number_Box_View::Leave()
+{
+    if (std::exchange(entered_, false))
+        guard_.Call([this] { rules_.Lost_Focus(program_); });
+}
+
+/// Focus that goes for these reasons comes back to the box by itself.
+static bool Comes_Back(Qt::FocusReason reason)
+{
+    return reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason || reason == Qt::ActiveWindowFocusReason;
+}
+
 bool Number_Box_View::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
@@ -42,9 +56,18 @@ bool Number_Box_View::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyRelease:
         backspace_ = false;
         return false;
+    case QEvent::FocusIn:
+        entered_ = true;
+        clicked_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+        return false;
+    case QEvent::MouseButtonRelease:
+        // The click that comes into the box selects what the next digit replaces, as Tab does.
+        if (std::exchange(clicked_, false) && !edit_.hasSelectedText())
+            QMetaObject::invokeMethod(&edit_, &QLineEdit::selectAll, Qt::QueuedConnection);
+        return false;
     case QEvent::FocusOut:
-        if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
-            guard_.Call([this] { rules_.Lost_Focus(program_); });
+        if (!Comes_Back(static_cast<QFocusEvent*>(event)->reason()))
+            Leave();
         return false;
     default:
         return QObject::eventFilter(watched, event);

@@ -2,6 +2,7 @@
 
 #include "rules/recent_folders.h"
 
+#include <QApplication>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -54,6 +55,15 @@ void Recent_List_View::showEvent(QShowEvent* event)
         if (cmbo_MRU_->count() > 0)
             cmbo_MRU_->showPopup();
     });
+}
+
+/// Another form in front means that nothing is chosen. The list itself is no other form.
+void Recent_List_View::changeEvent(QEvent* event)
+{
+    Program_Dialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isVisible() && !isActiveWindow() &&
+        !QApplication::activePopupWidget())
+        guard_.Call([this] { Leave(); });
 }
 
 void Recent_List_View::Leave()

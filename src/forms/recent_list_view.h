@@ -43,6 +43,7 @@ class Recent_List_View : public Program_Dialog
 
   protected:
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void Leave() override;
 
   private:

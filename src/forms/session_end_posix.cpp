@@ -41,8 +41,10 @@ static void On_Exit()
 Session_End::Session_End(Program& program, Slot_Guard& guard, Startform& form)
     : program_(program), guard_(guard), form_(form)
 {
-    connect(qApp, &QGuiApplication::commitDataRequest, this,
-            [this](QSessionManager&) { guard_.Call([this] { Write_Settings(program_, false); }); });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
+        form_.Leave_Number_Boxes();
+        guard_.Call([this] { Write_Settings(program_, false); });
+    });
     program_to_save = &program;
     std::atexit(On_Exit);
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_pipe) != 0)

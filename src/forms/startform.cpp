@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QButtonGroup>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -92,12 +93,13 @@ void Startform::Connect_Folders()
     panel(ui_->pic_ChaptersPath, ui_->btn_BrowseChapters, Drop_On_Chapters_Panel, mnu_PopupChapsBrowse1_Click);
     panel(ui_->pic_TargetPath, ui_->btn_BrowseTarget, Drop_On_Target_Panel, mnu_PopupTargetBrowse1_Click);
 
-    const auto arrow = [this](QToolButton* button, auto press, auto click) {
+    const auto arrow = [this](QToolButton* button, auto press, auto release, auto click) {
         connect(button, &QToolButton::pressed, this, [=, this] { guard_.Call([&] { press(program_); }); });
+        connect(button, &QToolButton::released, this, [=, this] { guard_.Call([&] { release(program_); }); });
         connect(button, &QToolButton::clicked, this, [=, this] { guard_.Call([&] { click(program_); }); });
     };
-    arrow(ui_->img_SourceMRU, img_SourceMRU_MouseDown, img_SourceMRU_Click);
-    arrow(ui_->img_TargetMRU, img_TargetMRU_MouseDown, img_TargetMRU_Click);
+    arrow(ui_->img_SourceMRU, img_SourceMRU_MouseDown, img_SourceMRU_MouseUp, img_SourceMRU_Click);
+    arrow(ui_->img_TargetMRU, img_TargetMRU_MouseDown, img_TargetMRU_MouseUp, img_TargetMRU_Click);
 }
 
 void Startform::Connect_Run()
@@ -277,7 +279,7 @@ void Startform::Render_Progress()
 
 void Startform::Render_Focus()
 {
-    QString& name = program_.Form.Focus;
+    QString name = std::exchange(program_.Form.Focus, {});
     if (name.isEmpty())
         return;
     // Deliberate: a check box that a key has clicked keeps the focus, or the next key would go nowhere. A click with
@@ -287,7 +289,13 @@ void Startform::Render_Focus()
     if (!keep) {
         if (focusWidget() && focusWidget() != ui_->btn_NOP)
             left_ = focusWidget();
+        Leave_Number_Boxes(); // a window that isn't in front tells nobody that its focus went elsewhere
         Give_Focus(*this, name);
     }
-    name.clear();
+}
+
+void Startform::Leave_Number_Boxes()
+{
+    for (Number_Box_View* box : number_boxes_)
+        box->Leave();
 }

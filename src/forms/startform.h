@@ -38,6 +38,8 @@ class Startform : public QMainWindow, public Form_View
     /// Tells the rules of the first activation: from now on they act.
     void Become_Ready();
     void Set_Topmost(bool on);
+    /// What was typed into a number box counts as left there: the settings are about to be written.
+    void Leave_Number_Boxes();
 
     /// True once the close query let the form go.
     bool Unloaded() const { return unloaded_; }

@@ -168,6 +168,7 @@ void Startform::closeEvent(QCloseEvent* event)
         event->accept();
         return;
     }
+    Leave_Number_Boxes();
     guard_.Call([this] {
         if (!program_.Form.Options_Ready || program_.Run.Run_In_Progress || !Query_Unload(program_))
             return;

@@ -43,6 +43,8 @@ static void Return_To_Good(Text_Box& box, const QString& last_good)
 void Apply_Delay_Rule(Text_Box& box, QString& last_good)
 {
     const QString& text = box.Text;
+    if (text.isEmpty())
+        last_good = u""_s; // the box may be empty: a letter that is typed next leaves it so
     if (text.isEmpty() || text == u"-"_s || text == u"0"_s)
         return;
     if (text == u"--"_s || text == u"-0"_s)

@@ -59,14 +59,26 @@ void img_TargetMRU_MouseDown(Program& program)
     program.Target_MRU_Form.Arrow_Pressed = true;
 }
 
+void img_SourceMRU_MouseUp(Program& program)
+{
+    program.Source_MRU_Form.Arrow_Pressed = false;
+}
+
+void img_TargetMRU_MouseUp(Program& program)
+{
+    program.Target_MRU_Form.Arrow_Pressed = false;
+}
+
 static void Open_List(Program& program, const Recent_List& recent)
 {
+    recent.Form.Arrow_Pressed = false;
+    if (recent.List.isEmpty())
+        return; // a form with nothing to choose would only be in the way
     recent.Form.Text = recent.Shown.Caption;
     recent.Form.Visible = true;
     Show_Dialog(program, recent.Form_Name);
     recent.Form.Visible = false;
     recent.Shown.Caption = recent.Path;
-    recent.Form.Arrow_Pressed = false;
     Follow_Folders(program);
 }
 
@@ -87,6 +99,8 @@ static void Choose_Item(const Recent_List& recent, int index)
     const QString chosen = recent.List.takeAt(index);
     recent.List.prepend(recent.Path);
     recent.Path = chosen;
+    if (!chosen.isEmpty())
+        recent.Fault.Caption.clear(); // it spoke of the folder before
     recent.Form.Visible = false;
 }
 

@@ -15,9 +15,12 @@ void Insert_Recent_Folder(QStringList& list, const QString& folder);
 /// Takes every item equal to `folder` out of `list`; empty items stay.
 void Remove_Recent_Folder(QStringList& list, const QString& folder);
 
-/// The little arrow beside the path box: pressed, and clicked, which shows the list and waits for its end.
+/// The little arrow beside the path box: pressed, let go wherever the pointer is by then, and clicked, which shows the
+/// list and waits for its end. A list without an item isn't shown.
 void img_SourceMRU_MouseDown(Program& program);
 void img_TargetMRU_MouseDown(Program& program);
+void img_SourceMRU_MouseUp(Program& program);
+void img_TargetMRU_MouseUp(Program& program);
 void img_SourceMRU_Click(Program& program);
 void img_TargetMRU_Click(Program& program);
 

@@ -173,8 +173,9 @@ static void Take_Audio(const Settings_Reader& reader)
 
     // Deliberate: a text that is no number leaves the text box as it stands.
     const QString delay = reader.Take(Row::Delay);
+    form.Audio_Delay_Last_Good = u""_s;
     if (Is_Signed_Number(delay))
-        form.txt_AudioDelayValue.Text = options.Audio_Delay;
+        form.Audio_Delay_Last_Good = form.txt_AudioDelayValue.Text = options.Audio_Delay;
 
     for (const int row : {Row::Add_Audio, Row::Use_Audio_Opts, Row::Apply_Audio_Opts, Row::Alternate_Audio})
         reader.Take(row);

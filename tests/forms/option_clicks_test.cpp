@@ -4,7 +4,9 @@
 #include "rules/click_rules.h"
 #include "rules/option_rules.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -229,4 +231,65 @@ TEST_F(Option_Clicks, EscapeEnterAndLeavingEndAnEditOfTheDelayBox)
     type("");
     Window.Get("chk_StripOrigAudio").setFocus();
     EXPECT_EQ(Window.Prog().Options.chk_AudioDelayAdjust.Value, 0) << "no delay is none to apply";
+}
+
+TEST_F(Option_Clicks, ABoxIsLeftForAnotherControlAndByTheEndOnly)
+{
+    QWidget other;
+    Click_On(Window.Get("chk_SplitVideos"));
+    auto& edit = Window.Get<QLineEdit>("txt_SplitVideosValue");
+    const std::function<void()> no_leaving[] = {
+        [&] {
+            other.show();
+            other.activateWindow();
+            QCoreApplication::processEvents();
+            Window.Form().activateWindow();
+        },
+        [&] {
+            Press(edit, Qt::Key_F, Qt::AltModifier);
+            Press(*QApplication::activePopupWidget(), Qt::Key_Escape);
+            Press(Window.Form(), Qt::Key_Escape);
+        },
+        [&] {
+            auto& bar = Window.Get<QMenuBar>("menubar");
+            Click_On(bar, bar.actionGeometry(bar.actions().constFirst()).center(), Qt::LeftButton, {});
+            Press(*QApplication::activePopupWidget(), Qt::Key_Escape);
+        },
+    };
+    for (const auto& way : no_leaving) {
+        Click_On(edit);
+        EXPECT_EQ(edit.selectedText(), edit.text()) << "the click selects what the digits replace";
+        Press(edit, Qt::Key_4);
+        Press(edit, Qt::Key_4);
+        way();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Window.Prog().Options.Split_Minutes, u"30") << &way - no_leaving;
+        edit.setFocus();
+        Press(edit, Qt::Key_Escape);
+        Click_On(Window.Get("chk_StripChaps"));
+    }
+    // A rule may take the focus while another window is in front.
+    Click_On(edit);
+    Press(edit, Qt::Key_5);
+    Press(edit, Qt::Key_5);
+    other.activateWindow();
+    QCoreApplication::processEvents();
+    Window.Choose("mnu_KeepTopmost");
+    EXPECT_EQ(Window.Prog().Options.Split_Minutes, u"55");
+    Window.Form().activateWindow();
+    Click_On(edit);
+    Press(edit, Qt::Key_6);
+    Press(edit, Qt::Key_6);
+    Window.Quit();
+    EXPECT_TRUE(Window.Files.Read(u"app/Vantorra.ini"_s).contains("=66"));
+}
+
+TEST_F(Option_Clicks, ALetterLeavesAnEmptyDelayBoxEmpty)
+{
+    Click_On(Window.Get("chk_AudioDelayAdjust"));
+    auto& edit = Window.Get<QLineEdit>("txt_AudioDelayValue");
+    Click_On(edit);
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_8, Qt::Key_Backspace, Qt::Key_X})
+        Press(edit, key);
+    EXPECT_EQ(edit.text(), u"");
 }

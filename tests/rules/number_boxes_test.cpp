@@ -61,7 +61,7 @@ TEST_F(NumberBoxes, TheDelayRuleTakesSignedNumbersOfFiveDigits)
 {
     Hold(
         {
-            {u""_s, 0, u"5"_s, u""_s, 0, u"5"_s},
+            {u""_s, 0, u"5"_s, u""_s, 0, u""_s},
             {u"-"_s, 1, u"5"_s, u"-"_s, 1, u"5"_s},
             {u"--"_s, 2, u"5"_s, u"-"_s, 1, u"5"_s},
             {u"-0"_s, 2, u"5"_s, u"-"_s, 1, u"5"_s},

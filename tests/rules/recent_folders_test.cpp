@@ -114,6 +114,7 @@ TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
     Prog.Form.Topmost_On = true;
     Prog.Options.Path_Videos = Folder(0);
     Prog.Form.ulbl_VideosPath.Caption = Folder(0);
+    Prog.Form.lbl_VideoPathFault.Caption = u"NO VIDEO FILES FOUND!"_s;
     Prog.Settings.Source_MRU = Folders(1, 2);
     QString shown;
     bool topmost_inside = true;
@@ -131,6 +132,7 @@ TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
     EXPECT_FALSE(Prog.Source_MRU_Form.Arrow_Pressed);
     EXPECT_EQ(Prog.Options.Path_Videos, Folder(2));
     EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Folder(2));
+    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s) << "it spoke of the folder before";
     EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{Folder(0), Folder(1)}));
 
     Person.On_Form[u"frm_SourceMRU"_s] = [&] { Choose_Recent_Source(Prog, 0); };
@@ -139,6 +141,11 @@ TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
     Person.On_Form[u"frm_SourceMRU"_s] = [&] { Choose_Recent_Source(Prog, 9); };
     img_SourceMRU_Click(Prog);
     EXPECT_EQ(Prog.Options.Path_Videos, Folder(0));
+    Prog.Settings.Source_MRU.clear();
+    Person.On_Form[u"frm_SourceMRU"_s] = [] { ADD_FAILURE() << "there is nothing to choose"; };
+    img_SourceMRU_MouseDown(Prog);
+    img_SourceMRU_Click(Prog);
+    EXPECT_FALSE(Prog.Source_MRU_Form.Arrow_Pressed);
 }
 
 TEST_F(RecentFolders, TheRunButtonFollowsAChoiceOnlyWithItsExtension)
