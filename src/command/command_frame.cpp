@@ -121,7 +121,8 @@ int Parse_VideoData_A(Program& program, const QString& target_path, const QStrin
     Append_Head(command, program, work);
     Append_Source(command, program, work);
     Append_Files_Beside(command, program, work);
-    Append_File_Title(command, options, work.Video_Base_Name, work.Names.Title, streams.front().Title);
+    Append_File_Title(command, options, work.Video_Base_Name, work.Names.Title, streams.front().Title,
+                      streams.front().Literal);
     Append_Chapter_Arguments(command, program.Companions.Chapter_File, options);
     Append_Track_Order(command, work.Order);
     for (const QString& line : command.Refusals())

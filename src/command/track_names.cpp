@@ -10,6 +10,16 @@ QString Wrap_Title(const QString& name)
     return u"\\\""_s + Unescape_Title(name) + u"\\\""_s;
 }
 
+/// "TRACK:NAME", or with `track` empty the name, in backslash-quote pairs. A literal name gets there to the letter.
+static void Append_Wrapped(Command_Line& command, const QString& option, const QString& track, const QString& name,
+                           bool literal)
+{
+    if (literal)
+        command.Add_Literal(option, Quote_Path(track + u"\\\""_s + name + u"\\\""_s), track + u'"' + name + u'"');
+    else
+        command.Add_Option(option, Quote_Path(track + Wrap_Title(name)));
+}
+
 void Append_Video_Name(Command_Line& command, const FileInfo& stream, const JobOptions& options,
                        const QString& source_base)
 {
@@ -23,33 +33,36 @@ void Append_Video_Name(Command_Line& command, const FileInfo& stream, const JobO
         command.Add_Option(option, Quote_Path(track + Wrap_Title(options.Custom_Video_Title)));
     else if (options.chk_SetVideoTitle.Value == 1 && options.opt_SetVideoTitle.Selected == 2)
         // Deliberate: two blanks behind this option, and only here.
-        command.Add_Option(u" --track-name  "_s, Quote_Path(track + Wrap_Title(source_base)));
+        Append_Wrapped(command, u" --track-name  "_s, track, source_base, stream.Literal);
     else if (options.chk_SetVideoTitle.Value == 1 && options.opt_SetVideoTitle.Selected == 1 && stream.Title.isEmpty())
-        command.Add_Option(option, Quote_Path(track + Wrap_Title(source_base)));
+        Append_Wrapped(command, option, track, source_base, stream.Literal);
 }
 
 /// The name of an audio or subtitle track: none, or the given one.
-static void Append_Name(Command_Line& command, const QString& index, const QString& title, bool strip)
+static void Append_Name(Command_Line& command, const FileInfo& stream, const QString& title, bool strip)
 {
+    const QString track = stream.Index + u':';
     if (strip)
-        command.Add_Option(u" --track-name "_s, index + u':');
+        command.Add_Option(u" --track-name "_s, track);
+    else if (!title.isEmpty() && stream.Literal)
+        command.Add_Literal(u" --track-name "_s, Quote_Path(track + title), track + title);
     else if (!title.isEmpty())
-        command.Add_Option(u" --track-name "_s, Quote_Path(index + u':' + title));
+        command.Add_Option(u" --track-name "_s, Quote_Path(track + title));
 }
 
 void Append_Audio_Name(Command_Line& command, const FileInfo& stream, bool strip_titles)
 {
     // Deliberate: an audio title keeps its escapes, a subtitle's are undone.
-    Append_Name(command, stream.Index, stream.Title, strip_titles);
+    Append_Name(command, stream, stream.Title, strip_titles);
 }
 
 void Append_Subtitle_Name(Command_Line& command, const FileInfo& stream, bool strip_titles)
 {
-    Append_Name(command, stream.Index, Unescape_Title(stream.Title), strip_titles);
+    Append_Name(command, stream, stream.Literal ? stream.Title : Unescape_Title(stream.Title), strip_titles);
 }
 
 void Append_File_Title(Command_Line& command, const JobOptions& options, const QString& video_base_name,
-                       const QString& source_title, const QString& first_title)
+                       const QString& source_title, const QString& first_title, bool literal)
 {
     const QString option = u" --title "_s;
     if (options.chk_RemoveFileTitle.Value == 1) {
@@ -60,8 +73,8 @@ void Append_File_Title(Command_Line& command, const JobOptions& options, const Q
     } else if (options.chk_SetFileTitle.Value == 1) {
         const int selected = options.opt_SetFileTitle.Selected;
         if (selected == 2 || (selected == 1 && source_title.isEmpty()))
-            command.Add_Option(option, Quote_Path(Wrap_Title(video_base_name)));
+            Append_Wrapped(command, option, {}, video_base_name, literal);
         else if (selected != 1)
-            command.Add_Option(option, Quote_Path(Wrap_Title(first_title)));
+            Append_Wrapped(command, option, {}, first_title, literal);
     }
 }

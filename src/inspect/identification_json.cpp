@@ -1,36 +1,17 @@
 #include "inspect/identification_json.h"
 
+#include "inspect/json_value.h"
 #include "support/text.h"
 
 #include <QStringList>
-#include <nlohmann/json.hpp>
 
 using namespace Qt::StringLiterals;
-// Keeps the order of keys, and 64-bit numbers as they are.
-using Json = nlohmann::ordered_json;
-
-/// The member of an object; null where there is none.
-static const Json& Member(const Json& value, const char* key)
-{
-    static const Json null;
-    const auto found = value.is_object() ? value.find(key) : value.end();
-    return found == value.end() ? null : *found;
-}
-
-/// A single value as text: numbers as they stand, true and false as 1 and 0.
-static QString Scalar_Text(const Json& value)
-{
-    if (value.is_string())
-        return QString::fromStdString(value.get_ref<const std::string&>());
-    if (value.is_boolean())
-        return value.get<bool>() ? u"1"_s : u"0"_s;
-    return value.is_number() ? QString::fromStdString(value.dump()) : QString();
-}
+using Json = Tool_Json;
 
 /// A text outside the brackets: a line break would tear the line.
 static QString Plain_Text(const Json& value)
 {
-    return Scalar_Text(value).replace(Line_Break, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
+    return Json_Text(value).replace(Line_Break, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
 }
 
 static QString Escaped(const QString& text)
@@ -59,14 +40,14 @@ static void Add_Item(const QString& key, const Json& value, QStringList& items)
         for (const Json& entry : value)
             Add_Item(key, entry, items);
     else if (!value.is_null())
-        items += Escaped(key) + u':' + Escaped(Scalar_Text(value));
+        items += Escaped(key) + u':' + Escaped(Json_Text(value));
 }
 
 /// " [key:value key:value]", or nothing where an element has no properties.
 static QString Bracket(const Json& element)
 {
     QStringList items;
-    const Json& properties = Member(element, "properties");
+    const Json& properties = Json_Member(element, "properties");
     if (properties.is_object())
         Add_Items(properties, items);
     return items.isEmpty() ? QString() : u" ["_s + items.join(u' ') + u']';
@@ -74,7 +55,7 @@ static QString Bracket(const Json& element)
 
 static QString Attachment_Line(const Json& attachment)
 {
-    const auto text = [&attachment](const char* key) { return Plain_Text(Member(attachment, key)); };
+    const auto text = [&attachment](const char* key) { return Plain_Text(Json_Member(attachment, key)); };
     const QString description = text("description");
     return u"Attachment ID "_s + text("id") + u": type '"_s + text("content_type") + u"', size "_s + text("size") +
            u" bytes"_s + (description.isEmpty() ? QString() : u", description '"_s + description + u'\'') +
@@ -83,7 +64,7 @@ static QString Attachment_Line(const Json& attachment)
 
 static QString Entries(const Json& element)
 {
-    const QString count = Scalar_Text(Member(element, "num_entries"));
+    const QString count = Json_Text(Json_Member(element, "num_entries"));
     return count + (count == u"1"_s ? u" entry"_s : u" entries"_s);
 }
 
@@ -91,7 +72,7 @@ static QString Entries(const Json& element)
 static void Add_Messages(const Json& messages, const QString& kind, QStringList& lines)
 {
     for (const Json& message : messages) {
-        QString text = Scalar_Text(message);
+        QString text = Json_Text(message);
         if (text.endsWith(u'\n'))
             text.chop(1);
         lines += kind + Plain_Text(text.toStdString());
@@ -101,9 +82,9 @@ static void Add_Messages(const Json& messages, const QString& kind, QStringList&
 /// The lines behind the messages.
 static void Add_Content(const Json& json, const QString& path, QStringList& lines)
 {
-    const Json& container = Member(json, "container");
-    const QString type = Plain_Text(Member(container, "type"));
-    const auto is_off = [&container](const char* key) { return Member(container, key) == Json(false); };
+    const Json& container = Json_Member(json, "container");
+    const QString type = Plain_Text(Json_Member(container, "type"));
+    const auto is_off = [&container](const char* key) { return Json_Member(container, key) == Json(false); };
     if (container.is_null())
         return;
     if (is_off("recognized")) {
@@ -115,28 +96,28 @@ static void Add_Content(const Json& json, const QString& path, QStringList& line
         return;
     }
     lines += u"File '"_s + path + u"': container: "_s + type + Bracket(container);
-    for (const Json& track : Member(json, "tracks"))
-        lines += u"Track ID "_s + Plain_Text(Member(track, "id")) + u": "_s + Plain_Text(Member(track, "type")) +
-                 u" ("_s + Plain_Text(Member(track, "codec")) + u')' + Bracket(track);
-    for (const Json& attachment : Member(json, "attachments"))
+    for (const Json& track : Json_Member(json, "tracks"))
+        lines += u"Track ID "_s + Plain_Text(Json_Member(track, "id")) + u": "_s +
+                 Plain_Text(Json_Member(track, "type")) + u" ("_s + Plain_Text(Json_Member(track, "codec")) + u')' +
+                 Bracket(track);
+    for (const Json& attachment : Json_Member(json, "attachments"))
         lines += Attachment_Line(attachment);
-    for (const Json& chapters : Member(json, "chapters"))
+    for (const Json& chapters : Json_Member(json, "chapters"))
         lines += u"Chapters: "_s + Entries(chapters);
-    for (const Json& tags : Member(json, "global_tags"))
+    for (const Json& tags : Json_Member(json, "global_tags"))
         lines += u"Global tags: "_s + Entries(tags);
-    for (const Json& tags : Member(json, "track_tags"))
-        lines += u"Tags for track ID "_s + Plain_Text(Member(tags, "track_id")) + u": "_s + Entries(tags);
+    for (const Json& tags : Json_Member(json, "track_tags"))
+        lines += u"Tags for track ID "_s + Plain_Text(Json_Member(tags, "track_id")) + u": "_s + Entries(tags);
 }
 
 QString Verbose_Text_Of_Json(const QString& json, const QString& path)
 {
-    const QByteArray bytes = json.toUtf8();
-    const Json value = Json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    const Json value = Parse_Tool_Json(json.toUtf8());
     if (!value.is_object())
         return json;
     QStringList lines;
-    Add_Messages(Member(value, "warnings"), u"Warning: "_s, lines);
-    Add_Messages(Member(value, "errors"), u"Error: "_s, lines);
+    Add_Messages(Json_Member(value, "warnings"), u"Warning: "_s, lines);
+    Add_Messages(Json_Member(value, "errors"), u"Error: "_s, lines);
     QString plain_path = path;
     Add_Content(value, plain_path.replace(u'\n', u' ').replace(u'\r', u' '), lines);
     return lines.isEmpty() ? QString() : lines.join(Line_Break) + Line_Break;

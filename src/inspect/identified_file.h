@@ -24,9 +24,8 @@ struct Identified_File
     bool Readable = false; ///< mkvmerge knows the container and can read it
     QString Container;
     std::vector<Identified_Track> Tracks;
-    QStringList Attachments;       ///< "NAME, N bytes" each, in the file's order
-    int Chapters = 0;              ///< all editions' entries
-    std::optional<double> Seconds; ///< how long the file runs, where the container says so
+    QStringList Attachments; ///< "NAME, N bytes" each, in the file's order
+    int Chapters = 0;        ///< all editions' entries
 };
 
 /// Reads mkvmerge's JSON. Nothing for a text that is none.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "inspect/identified_file.h"
+#include "state/companions.h"
 #include "state/media_state.h"
 #include "support/command_line.h"
 
@@ -40,6 +41,8 @@ struct Asked_Output
     std::vector<Asked_Input> Inputs; ///< the source first
     QStringList Attached;            ///< paths of --attach-file
     bool Has_Chapter_File = false;
+    bool Times_Changed = false; ///< a frame rate or a delay was asked for: the output may run for another time
+    bool Is_Split = false;      ///< several files come of it
 };
 
 /// Reads a command back. `streams` are the source's records behind the selection of tracks: those that are still in are
@@ -51,13 +54,16 @@ Asked_Output Asked_Of(const Command_Line& command, const FileInfoList& streams);
 QStringList Tracks_Taken(const QString& mkvmerge_output, const QString& input);
 
 /// Checks one mkvmerge run: the tracks that it took, that the file at `output` ends where its Segment says, and its
-/// duration against `seconds` (the probe's; nothing: not known, or not comparable as for a piece of a split). To be
-/// called once it ended with 0 or 1. `exit` 1 becomes a warning with mkvmerge's own first line.
+/// duration against `seconds` (the probe's; nothing: not known). To be called once it ended with 0 or 1; with 1, what
+/// mkvmerge warned of is a warning.
 Check_Result Check_Output(const Asked_Output& asked, const QString& mkvmerge_output, int exit, const QString& output,
                           std::optional<double> seconds);
 
-/// The part of Check_Output that looks at one file: for each further piece of a split.
-void Check_File(const QString& output, std::optional<double> seconds, Check_Result& result);
+/// The part of Check_Output that looks at one file: for each further piece of a split. Returns its duration.
+std::optional<double> Check_File(const QString& output, Check_Result& result);
+
+/// A warning if the command leaves out all audio that the source has and none is added; empty: it doesn't.
+QString Warning_Of_No_Audio(const Asked_Output& asked, const Companions& companions);
 
 /// Compares what went in with what came out, both as mkvmerge identifies them. `inputs` are in the order of
 /// `asked.Inputs`.
@@ -68,5 +74,5 @@ void Compare_Identified(const Asked_Output& asked, const std::vector<Identified_
 /// compares. What couldn't be asked is a warning.
 void Check_Identified(Program& program, const Asked_Output& asked, const QString& output, Check_Result& result);
 
-/// The seconds of a Video_Duration ("00:01:02.5"); nothing if it is empty or none.
-std::optional<double> Seconds_Of(const QString& duration);
+/// The seconds of a file record's Duration ("62.500000"); nothing if it isn't known.
+std::optional<double> Seconds_Of(const FileInfo& file_record);

@@ -9,6 +9,36 @@
 
 using namespace Qt::StringLiterals;
 
+/// True for what mkvmerge's first pass over its arguments may take for an option of its own.
+static bool Reads_Like_An_Option(const QString& argument)
+{
+    static const QRegularExpression option(u"\\A(-[A-Za-z?]|--[a-z]+(-[a-z]+)*)\\z"_s);
+    return argument.startsWith(u'-') && option.match(argument).hasMatch();
+}
+
+/// The most bytes of one argument that the system passes to a child.
+static constexpr qsizetype Longest_Argument = 131'071;
+
+/// Why an argument can't be given to mkvmerge as a value; empty if it can.
+static QString Refusal_Reason(const QString& argument)
+{
+    if (argument.startsWith(u'@'))
+        return u"begins with \"@\", which mkvmerge takes for a file of options."_s;
+    if (Reads_Like_An_Option(argument))
+        return u"reads like an option of mkvmerge."_s;
+    // A child that can't be started would end the whole run.
+    if (argument.size() > Longest_Argument / 4 && argument.toUtf8().size() > Longest_Argument)
+        return u"is longer than the system can pass on."_s;
+    return {};
+}
+
+static QString Refusal(const QString& option, const QString& argument)
+{
+    constexpr qsizetype longest_quote = 200;
+    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + As_One_Line(argument.left(longest_quote)) +
+           u"\" "_s + Refusal_Reason(argument);
+}
+
 void Command_Line::Add(const QString& text, const QString& argument)
 {
     text_.Append(text);
@@ -23,12 +53,17 @@ void Command_Line::Add_Options(const QString& text)
 
 void Command_Line::Add_Option(const QString& option, const QString& value)
 {
-    if (Is_Refused(value)) {
-        refusals_ += Refused_Value(option, value);
+    Add_Literal(option, value, Argument_Of(value));
+}
+
+void Command_Line::Add_Literal(const QString& option, const QString& text, const QString& argument)
+{
+    if (!Refusal_Reason(argument).isEmpty()) {
+        refusals_ += Refusal(option, argument);
         return;
     }
     Add_Options(option);
-    Add(value, Argument_Of(value));
+    Add(text, argument);
 }
 
 void Command_Line::Add_Path(const QString& option, const QString& path)
@@ -60,29 +95,6 @@ QString Command_Line::Argument_Of(const QString& value)
     return argument;
 }
 
-/// True for what mkvmerge's first pass over its arguments may take for an option of its own.
-static bool Reads_Like_An_Option(const QString& argument)
-{
-    static const QRegularExpression option(u"\\A(-[A-Za-z?]|--[a-z]+(-[a-z]+)*)\\z"_s);
-    return argument.startsWith(u'-') && option.match(argument).hasMatch();
-}
-
-/// The most bytes of one argument that the system passes to a child.
-static constexpr qsizetype Longest_Argument = 131'071;
-
-/// Why an argument can't be given to mkvmerge as a value; empty if it can.
-static QString Refusal_Reason(const QString& argument)
-{
-    if (argument.startsWith(u'@'))
-        return u"begins with \"@\", which mkvmerge takes for a file of options."_s;
-    if (Reads_Like_An_Option(argument))
-        return u"reads like an option of mkvmerge."_s;
-    // A child that can't be started would end the whole run.
-    if (argument.size() > Longest_Argument / 4 && argument.toUtf8().size() > Longest_Argument)
-        return u"is longer than the system can pass on."_s;
-    return {};
-}
-
 bool Command_Line::Is_Refused(const QString& value)
 {
     return !Refusal_Reason(Argument_Of(value)).isEmpty();
@@ -90,10 +102,7 @@ bool Command_Line::Is_Refused(const QString& value)
 
 QString Command_Line::Refused_Value(const QString& option, const QString& value)
 {
-    constexpr qsizetype longest_quote = 200;
-    const QString argument = Argument_Of(value);
-    return u"*** "_s + Trim_Blanks(option) + u" is left out: \""_s + As_One_Line(argument.left(longest_quote)) +
-           u"\" "_s + Refusal_Reason(argument);
+    return Refusal(option, Argument_Of(value));
 }
 
 static bool Is_Plain(QChar character)

@@ -26,6 +26,9 @@ class Command_Line
     /// An option and its value: text is `option` followed by `value`; `option` ends in the blanks that separate them
     /// and may hold several words, one argument each. The value is one argument.
     void Add_Option(const QString& option, const QString& value);
+    /// The same for a value that comes from a file as it is: `argument` is what the child receives, to the letter,
+    /// `text` how the command words it.
+    void Add_Literal(const QString& option, const QString& text, const QString& argument);
     /// `option` followed by the quoted path, whose argument is the path itself. `option` as for Add_Option.
     void Add_Path(const QString& option, const QString& path);
     /// " ( " + quoted path + " )": the source or a companion. The argument is the path itself.
