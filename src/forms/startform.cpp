@@ -104,8 +104,12 @@ void Startform::Connect_Folders()
 
 void Startform::Connect_Run()
 {
-    connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this,
-            [this](const Mouse_Release& release) { guard_.Call([&] { btn_RunVantorra_MouseUp(program_, release); }); });
+    connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this, [this](const Mouse_Release& release) {
+        guard_.Call([&] {
+            btn_RunVantorra_MouseUp(program_, release);
+            Show_Run_Warnings(program_);
+        });
+    });
     connect(ui_->img_Quit, &QPushButton::clicked, this, [this] { guard_.Call([this] { img_Quit_Click(program_); }); });
     connect(ui_->btn_ViewVidInfo, &QPushButton::clicked, this,
             [this] { guard_.Call([this] { btn_ViewVidInfo_Click(program_); }); });

@@ -5,7 +5,6 @@
 #include "headless/plain_report.h"
 #include "headless/print.h"
 #include "state/program.h"
-#include "support/paths.h"
 #include "support/shown_text.h"
 
 using namespace Qt::StringLiterals;
@@ -55,12 +54,9 @@ void Batch_Report::File_Started(int, const QString& source)
     source_ = source;
 }
 
-void Batch_Report::Command_Ready(const QString& source, const QString& output, const Command_Line&)
+void Batch_Report::Warned(const QString& title, const QString& text)
 {
-    if (const auto writer = writers_.constFind(output); writer != writers_.constEnd())
-        Warn(u"Two videos write the same file"_s, u"%1 and %2 write the same file, %3: only the second stays."_s.arg(
-                                                      File_Name_Of(writer.value()), File_Name_Of(source), output));
-    writers_.insert(output, source);
+    Warn(title, text);
 }
 
 void Batch_Report::File_Finished(const File_Outcome& outcome)

@@ -4,7 +4,6 @@
 #include "support/operator.h"
 #include "support/run_time_error.h"
 
-#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <cstdio>
@@ -60,7 +59,7 @@ class Batch_Report : public Run_Listener
     virtual void Ended(Batch_End end, int exit) = 0;
 
     void File_Started(int index, const QString& source) override;
-    void Command_Ready(const QString& source, const QString& output, const Command_Line& command) override;
+    void Warned(const QString& title, const QString& text) override;
     void File_Finished(const File_Outcome& outcome) override;
     void Refused(const QString& reason) override;
 
@@ -82,6 +81,5 @@ class Batch_Report : public Run_Listener
     std::FILE* err_;
     const Program* program_ = nullptr;
     QString source_;
-    QMap<QString, QString> writers_; ///< output path to the source that wrote it last
     Outcome_Counts counts_;
 };

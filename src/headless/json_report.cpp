@@ -32,7 +32,6 @@ void Json_Report::File_Started(int index, const QString& source)
 
 void Json_Report::Command_Ready(const QString& source, const QString& output, const Command_Line& command)
 {
-    Batch_Report::Command_Ready(source, output, command);
     Json arguments = Json::array();
     for (const QString& argument : command.Arguments())
         arguments.push_back(Text(argument));
@@ -75,14 +74,17 @@ void Json_Report::File_Finished(const File_Outcome& outcome)
     Json warnings = Json::array();
     for (const QString& warning : outcome.Warnings)
         warnings.push_back(Text(warning));
-    Print_Json(Out(), {{"event", "result"},
-                       {"source", Text(outcome.Source)},
-                       {"output", Text(outcome.Output)},
-                       {"status", Status_Word(outcome.Status)},
-                       {"exit", outcome.Exit},
-                       {"seconds", std::round(outcome.Seconds * 1000) / 1000},
-                       {"reason", Text(outcome.Reason)},
-                       {"warnings", std::move(warnings)}});
+    Json result{{"event", "result"},
+                {"source", Text(outcome.Source)},
+                {"output", Text(outcome.Output)},
+                {"status", Status_Word(outcome.Status)},
+                {"exit", outcome.Exit},
+                {"seconds", std::round(outcome.Seconds * 1000) / 1000},
+                {"reason", Text(outcome.Reason)},
+                {"warnings", std::move(warnings)}};
+    for (const QString& piece : outcome.Pieces)
+        result["pieces"].push_back(Text(piece));
+    Print_Json(Out(), result);
 }
 
 void Json_Report::Ended(Batch_End end, int exit)

@@ -17,9 +17,8 @@ void Plain_Report::Complain(const QString& line)
     Batch_Report::Complain(line);
 }
 
-void Plain_Report::Command_Ready(const QString& source, const QString& output, const Command_Line& command)
+void Plain_Report::Command_Ready(const QString&, const QString&, const Command_Line& command)
 {
-    Batch_Report::Command_Ready(source, output, command);
     if (Watched().Run.Dry_Run)
         Print_Text(Out(),
                    Shell_Quoted(QStringList{Watched().Tools.System_MKVMerge_Path} + command.Arguments()) + u'\n');
@@ -36,6 +35,15 @@ static QString In_Brackets(const QString& reason)
     return reason.isEmpty() ? QString() : u" ("_s + Printable(reason) + u')';
 }
 
+/// What stands in the target now: one file, or the pieces of a split run.
+static QString Written_Files(const File_Outcome& outcome)
+{
+    if (outcome.Pieces.size() < 2)
+        return Printable(outcome.Output);
+    return u"%1 to %2, %3 pieces"_s.arg(Printable(outcome.Output), Printable(File_Name_Of(outcome.Pieces.constLast())),
+                                        QString::number(outcome.Pieces.size()));
+}
+
 void Plain_Report::File_Finished(const File_Outcome& outcome)
 {
     Batch_Report::File_Finished(outcome);
@@ -45,7 +53,7 @@ void Plain_Report::File_Finished(const File_Outcome& outcome)
     bar_.Wipe();
     switch (outcome.Status) {
     case File_Outcome::Kind::Done:
-        Print_Text(Out(), u"done     %1 -> %2 (%3 s)\n"_s.arg(name, Printable(outcome.Output),
+        Print_Text(Out(), u"done     %1 -> %2 (%3 s)\n"_s.arg(name, Written_Files(outcome),
                                                               QString::number(outcome.Seconds, 'f', 1)));
         break;
     case File_Outcome::Kind::Failed:

@@ -3,10 +3,14 @@
 #include "inspect/video_names.h"
 #include "state/program.h"
 #include "support/disk_names.h"
+#include "support/file_identity.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
 #include "tools/tool_runner.h"
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -29,21 +33,74 @@ void Count_Video(Program& program, int files_done)
     run.File_Index = Checked_Int16(files_done, u"Counting the files done"_s);
 }
 
-After_Entry Run_Assembled_Command(Program& program, const QString& video_path, File_Outcome& outcome)
+void Forget_Outputs(Run_State& run)
+{
+    run.Half_Written_Output.clear();
+    run.Shared_Outputs.clear();
+}
+
+/// Two sources of a run write one file: told in the log and to the listener, and kept for the end of the run.
+static void Warn_Of_Shared_Output(Program& program, const QString& first, File_Outcome& outcome)
+{
+    const QString warning = u"%1 and %2 write the same file, %3: only the second stays."_s.arg(
+        File_Name_Of(first), File_Name_Of(outcome.Source), outcome.Output);
+    program.Logs.Log_Faults.AppendLine(u"-- WARNING: "_s + As_One_Line(warning));
+    program.Run.Shared_Outputs += warning;
+    outcome.Warnings += warning;
+    if (program.Listener)
+        program.Listener->Warned(Shared_Output_Title, warning);
+}
+
+bool May_Write(Program& program, const QStringList& outputs, const Written_Outputs& written, File_Outcome& outcome)
+{
+    const Guarded_Folders folders{program.Options.Path_Videos, program.Options.Path_Target};
+    const QString reason = Why_Not_Written(program.Run.Mkvmerge_Arguments, outputs, folders);
+    if (!reason.isEmpty()) {
+        program.Logs.Log_Faults.AppendLine(u"*** Not processed: "_s + reason);
+        outcome.Reason = reason;
+        return false;
+    }
+    if (const QString first = written.Writer_Of(outputs); !first.isEmpty())
+        Warn_Of_Shared_Output(program, first, outcome);
+    return true;
+}
+
+/// What a mkvmerge that the halt killed has left unfinished; empty if it had ended by itself, or hadn't begun to write.
+static QString Left_Half_Written(const Run_State& run, const std::optional<File_Identity>& before)
+{
+    const bool killed = run.Exit_Status.value_or(0) < 0;
+    const auto now = Identity_Of(run.Output_Path);
+    const bool written = now && !(before && before->Is_Unchanged(*now));
+    return killed && written ? run.Output_Path : QString();
+}
+
+After_Entry Run_Assembled_Command(Program& program, File_Outcome& outcome)
 {
     Run_State& run = program.Run;
+    if (run.Halt_Requested) {
+        outcome.Status = File_Outcome::Kind::Not_Run;
+        outcome.Reason = Halted_Reason;
+        return After_Entry::Halted;
+    }
     if (program.Listener)
-        program.Listener->Command_Ready(video_path, run.Output_Path, run.Mkvmerge_Arguments);
+        program.Listener->Command_Ready(outcome.Source, run.Output_Path, run.Mkvmerge_Arguments);
     if (run.Dry_Run) {
         outcome.Status = File_Outcome::Kind::Not_Run;
         outcome.Reason = u"dry run"_s;
         return After_Entry::Next;
     }
+    const auto before = Identity_Of(run.Output_Path);
     program.Logs.Log_Console.Clear();
     Run_Mkvmerge(program, program.Tools.System_MKVMerge_Path, run.Mkvmerge_Arguments);
     outcome.Exit = run.Exit_Status.value_or(-1);
-    if (run.Halt_Requested)
+    // 1 means that it wrote the file and warned.
+    const bool successful = outcome.Exit == 0 || outcome.Exit == 1;
+    outcome.Status = successful ? File_Outcome::Kind::Done : File_Outcome::Kind::Failed;
+    if (run.Halt_Requested) {
+        outcome.Reason = successful ? QString() : Halted_Reason;
+        run.Half_Written_Output = Left_Half_Written(run, before);
         return After_Entry::Halted;
+    }
     // A mkvmerge that never ran must not count as a run: nothing is deleted for it.
     if (run.Pipe_Result == 0) {
         Report_Run_Failure(program, 8, program.Tools.Local_MKVMerge_Path);
@@ -53,9 +110,6 @@ After_Entry Run_Assembled_Command(Program& program, const QString& video_path, F
         Report_Run_Failure(program, 9, program.Tools.System_MKVMerge_Path);
         return After_Entry::Stopped;
     }
-    // 1 means that it wrote the file and warned.
-    const bool successful = outcome.Exit == 0 || outcome.Exit == 1;
-    outcome.Status = successful ? File_Outcome::Kind::Done : File_Outcome::Kind::Failed;
     if (!successful)
         outcome.Reason = u"mkvmerge ended with status %1"_s.arg(outcome.Exit);
     return After_Entry::Next;

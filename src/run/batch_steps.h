@@ -1,10 +1,13 @@
 #pragma once
 
+#include "run/output_guard.h"
 #include "state/run_listener.h"
 
 #include <QString>
+#include <QStringList>
 
 struct Program;
+struct Run_State;
 
 /// The steps that the normal run and the split run have in common.
 
@@ -23,6 +26,18 @@ bool Is_Looked_At(const QString& path);
 /// Sets Files_Left and File_Index at the start of a video. Error 6 where they leave 16 bits.
 void Count_Video(Program& program, int files_done);
 
-/// Runs the command that was assembled for `video_path` (in a dry run only tells the listener of it), and sets how the
-/// video ended. Stopped, with report 8 or 9, if mkvmerge can't be started.
-After_Entry Run_Assembled_Command(Program& program, const QString& video_path, File_Outcome& outcome);
+/// Why a video that a halt reached has no output.
+inline const QString Halted_Reason = QStringLiteral("the run was halted");
+
+/// Clears what the run before left of its outputs.
+void Forget_Outputs(Run_State& run);
+
+/// Looks at what the command assembled for the outcome's source would overwrite: `outputs`. False, with the reason in
+/// Log_Faults and in the outcome, if that would destroy something; where another source of this run has written it, the
+/// operator is warned.
+bool May_Write(Program& program, const QStringList& outputs, const Written_Outputs& written, File_Outcome& outcome);
+
+/// Runs the command that was assembled for the outcome's source (in a dry run only tells the listener of it), and sets
+/// how the video ended. Halted, and nothing is started, if the halt is there already. Stopped, with report 8 or 9, if
+/// mkvmerge can't be started.
+After_Entry Run_Assembled_Command(Program& program, File_Outcome& outcome);

@@ -1,12 +1,20 @@
 #include "run/output_guard.h"
 
+#include "support/disk_names.h"
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
 
-#include <QStringList>
+#include <QFileInfo>
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+
+static fs::path Guarded_Path(const QString& text)
+{
+    return Bytes_Of_Name(text).toStdString();
+}
 
 static QString Input_That_Is_Output(const Command_Line& command, const QString& output)
 {
@@ -18,7 +26,8 @@ static QString Input_That_Is_Output(const Command_Line& command, const QString& 
     return {};
 }
 
-QString File_That_Is_Output(const Command_Line& command, const QString& output, const QString& videos_folder)
+/// An input of the command, or a file of the videos' folder, that is the same file on disk as the output.
+static QString File_That_Is_Output(const Command_Line& command, const QString& output, const QString& videos_folder)
 {
     if (!File_Exists(output))
         return {};
@@ -31,8 +40,92 @@ QString File_That_Is_Output(const Command_Line& command, const QString& output, 
     return {};
 }
 
-QString Refused_Output(const QString& file, const QString& output)
+/// The file that a chain of links leads to, whether or not it is there; empty for one that goes round in circles.
+static fs::path End_Of_Links(fs::path file)
 {
-    return u"*** Not processed: the output \""_s + As_One_Line(output) + u"\" is the same file on disk as \""_s +
-           As_One_Line(file) + u"\", which would be destroyed. Choose another target folder."_s;
+    constexpr int longest_chain = 40;
+    std::error_code error;
+    for (int steps = 0; steps < longest_chain; ++steps) {
+        if (!fs::is_symlink(file, error))
+            return fs::weakly_canonical(file.parent_path(), error) / file.filename();
+        file = file.parent_path() / fs::read_symlink(file, error);
+    }
+    return {};
+}
+
+/// Where an output that is a symbolic link leads to, if that isn't in the target folder or below it.
+static QString Outside_Of_Target(const QString& output, const QString& target)
+{
+    std::error_code error;
+    if (!fs::is_symlink(Guarded_Path(output), error))
+        return {};
+    const fs::path end = End_Of_Links(Guarded_Path(output));
+    const QString inside = With_Separator(QFileInfo(target).canonicalFilePath());
+    const QString leads_to = Text_Of_Name(QByteArray::fromStdString(end.string()));
+    if (leads_to.startsWith(inside))
+        return {};
+    return leads_to.isEmpty() ? output : leads_to;
+}
+
+/// True if the file has hard links that aren't names in the target folder.
+static bool Has_Names_Elsewhere(const QString& output, const QString& target)
+{
+    const auto file = Identity_Of(output);
+    if (!file || file->Names < 2)
+        return false;
+    std::uint64_t names_here = 0;
+    std::error_code error;
+    for (fs::directory_iterator entry(Guarded_Path(target), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code entry_error;
+        if (!entry->is_symlink(entry_error) && fs::equivalent(entry->path(), Guarded_Path(output), entry_error))
+            ++names_here;
+    }
+    return file->Names > names_here;
+}
+
+static QString Why_One_Is_Not_Written(const Command_Line& command, const QString& output,
+                                      const Guarded_Folders& folders)
+{
+    const QString shown = As_One_Line(output);
+    if (const QString file = File_That_Is_Output(command, output, folders.Videos); !file.isEmpty())
+        return u"the output \"%1\" is the same file on disk as \"%2\", which would be destroyed. Choose another target "
+               u"folder."_s.arg(shown, As_One_Line(file));
+    if (const QString outside = Outside_Of_Target(output, folders.Target); !outside.isEmpty())
+        return u"the output \"%1\" is a symbolic link that leads out of the target folder, to \"%2\", which would be "
+               u"overwritten. Remove the link or choose another target folder."_s.arg(shown, As_One_Line(outside));
+    if (Has_Names_Elsewhere(output, folders.Target))
+        return u"the output \"%1\" has names outside of the target folder too (hard links), under which it would be "
+               u"overwritten. Remove it from there or choose another target folder."_s.arg(shown);
+    return {};
+}
+
+QString Why_Not_Written(const Command_Line& command, const QStringList& outputs, const Guarded_Folders& folders)
+{
+    for (const QString& output : outputs)
+        if (QString reason = Why_One_Is_Not_Written(command, output, folders); !reason.isEmpty())
+            return reason;
+    return {};
+}
+
+QString Written_Outputs::Writer_Of(const QStringList& outputs) const
+{
+    for (const QString& output : outputs) {
+        if (const auto writer = by_path_.constFind(output); writer != by_path_.constEnd())
+            return *writer;
+        const auto file = Identity_Of(output);
+        const auto writer = file ? by_file_.constFind({file->Device, file->Number}) : by_file_.constEnd();
+        if (writer != by_file_.constEnd())
+            return *writer;
+    }
+    return {};
+}
+
+void Written_Outputs::Note(const QString& source, const QStringList& outputs)
+{
+    for (const QString& output : outputs) {
+        by_path_.insert(output, source);
+        if (const auto file = Identity_Of(output))
+            by_file_.insert({file->Device, file->Number}, source);
+    }
 }

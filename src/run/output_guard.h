@@ -1,17 +1,44 @@
 #pragma once
 
 #include "support/command_line.h"
+#include "support/file_identity.h"
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
+#include <utility>
+#include <vector>
 
 /// The last net under the folder checks. mkvmerge empties its output before it reads its inputs, so a command must not
-/// be run if what stands at its output's place is, by whatever name or link, one of the files that it reads or any
-/// other file of the videos' folder.
+/// be run if what stands at its output's place is, by whatever name or link, a file that it reads, another file of the
+/// videos' folder, or a file that has a name outside the target.
 
-/// The file that would be destroyed: an input of the command (source, companion, attachment, chapter file) or a file of
-/// `videos_folder` that is the same file on disk as `output`. Empty if there is none, as for an output that doesn't
-/// exist yet. The folder is only searched for an output that is a link.
-QString File_That_Is_Output(const Command_Line& command, const QString& output, const QString& videos_folder);
+/// Where a run reads and writes; each ends in a separator.
+struct Guarded_Folders
+{
+    QString Videos;
+    QString Target;
+};
 
-/// The line for Log_Faults that says so.
-QString Refused_Output(const QString& file, const QString& output);
+/// Why none of `outputs`, which the command would overwrite, may be written: a sentence or two for the operator. Empty
+/// if they may, as where nothing stands there yet. The folders are only searched for an output that has other names.
+QString Why_Not_Written(const Command_Line& command, const QStringList& outputs, const Guarded_Folders& folders);
+
+inline const QString Shared_Output_Title = QStringLiteral("Two videos write the same file");
+
+/// What the sources of one run have written, to tell two that write the same file: by path, or by the file that stands
+/// there, as for "Film.mkv" and "film.mkv" where case doesn't count.
+class Written_Outputs
+{
+  public:
+    /// The source that has written one of `outputs` in this run; empty if none has.
+    QString Writer_Of(const QStringList& outputs) const;
+    /// `source` has written `outputs`; in a dry run, would have.
+    void Note(const QString& source, const QStringList& outputs);
+
+  private:
+    using File_Key = std::pair<std::uint64_t, std::uint64_t>;
+
+    QHash<QString, QString> by_path_;
+    QHash<File_Key, QString> by_file_;
+};

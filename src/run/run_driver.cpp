@@ -4,6 +4,7 @@
 #include "logs/process_log.h"
 #include "rules/folders.h"
 #include "rules/option_rules.h"
+#include "run/output_guard.h"
 #include "run/split_run.h"
 #include "run/video_batch.h"
 #include "state/program.h"
@@ -13,6 +14,7 @@
 #include "workbenches/form_lock.h"
 
 #include <QScopeGuard>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -155,6 +157,13 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     Unlock_Main_Form(program.Form);
     Show_Idle(program);
     return halted ? Press_Result::Interrupted : Press_Result::Finished;
+}
+
+void Show_Run_Warnings(Program& program)
+{
+    const QStringList warnings = std::exchange(program.Run.Shared_Outputs, {});
+    if (!warnings.isEmpty())
+        program.Person.Show_Message({.Title = Shared_Output_Title, .Text = warnings.join(u"\r\n"_s)});
 }
 
 void btn_Halt_MouseUp(Program& program)

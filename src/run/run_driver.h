@@ -20,6 +20,9 @@ enum class Press_Result
 /// all that is done; Run_Time_Error passes through.
 Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release);
 
+/// A box with what the last run has warned of, if it has, for a driver that doesn't tell while it goes on.
+void Show_Run_Warnings(Program& program);
+
 /// A mouse button was let go over btn_Halt, or what stands for it (a signal): asks the run to stop. Only a flag is set
 /// and the button's look changes; the loops see the flag and do the rest.
 void btn_Halt_MouseUp(Program& program);

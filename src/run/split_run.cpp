@@ -6,6 +6,7 @@
 #include "logs/results_digest.h"
 #include "run/batch_captions.h"
 #include "run/batch_steps.h"
+#include "run/split_pieces.h"
 #include "state/program.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -17,23 +18,35 @@
 using namespace Qt::StringLiterals;
 
 /// Inspects a video and, if ffprobe had something to say, cuts it.
-static After_Entry Split_Video(Program& program, const QString& path, File_Outcome& outcome)
+static After_Entry Split_Video(Program& program, Written_Outputs& written, File_Outcome& outcome)
 {
-    const bool inspected = Run_FFProbe_Video(program, path) == 1;
-    if (program.Run.Halt_Requested) {
+    const Run_State& run = program.Run;
+    const QString& path = outcome.Source;
+    const bool inspected = !run.Halt_Requested && Run_FFProbe_Video(program, path) == 1;
+    if (run.Halt_Requested) {
         outcome.Status = File_Outcome::Kind::Not_Run;
-        outcome.Reason = u"the run was halted"_s;
+        outcome.Reason = Halted_Reason;
         return After_Entry::Halted;
     }
     if (!inspected || Split_Video_Mod(program, program.Options.Path_Target, program.Options.Path_Videos, path) != 1)
         return After_Entry::Next;
-    outcome.Output = program.Run.Output_Path;
-    return Run_Assembled_Command(program, path, outcome);
+    outcome.Output = run.Output_Path;
+    const Piece_Watch pieces(run.Output_Path);
+    // Which of the old pieces will be written again isn't known ahead.
+    if (!May_Write(program, QStringList(run.Output_Path) + pieces.Before(), written, outcome))
+        return After_Entry::Next;
+    const After_Entry after = Run_Assembled_Command(program, outcome);
+    if (!run.Dry_Run) {
+        outcome.Pieces = pieces.Written();
+        outcome.Output = outcome.Pieces.value(0);
+    }
+    written.Note(path, QStringList(run.Output_Path) + outcome.Pieces);
+    return after;
 }
 
 /// One entry of the folder, whatever it is. Deliberate: what a normal run left of its last file (the deletion flags,
 /// the separator mark, the path) is neither cleared nor set, and shows in the digest of these.
-static After_Entry Split_Entry(Program& program, const QString& name, int& files_done)
+static After_Entry Split_Entry(Program& program, const QString& name, Written_Outputs& written, int& files_done)
 {
     const QString path = program.Options.Path_Videos + name;
     if (!Is_Looked_At(path))
@@ -50,7 +63,7 @@ static After_Entry Split_Entry(Program& program, const QString& name, int& files
     if (Is_Video_File(name.toLower(), base_or_extension)) {
         program.Form.ulbl_Title1.Caption = name;
         Count_Video(program, files_done);
-        after = Split_Video(program, path, outcome);
+        after = Split_Video(program, written, outcome);
         if (after == After_Entry::Next)
             ++files_done;
     } else {
@@ -79,15 +92,17 @@ static bool Close_Walk(Program& program)
 bool Split_Video_Files(Program& program)
 {
     Run_State& run = program.Run;
+    Forget_Outputs(run);
     program.Person.Pump_Events();
     run.Files_Total = Checked_Int16(run.Video_File_List.size(), u"Counting the videos"_s);
     Show_Files_Found(program.Form, Videos_Box_Headline, run.Files_Total);
     if (program.Listener)
         program.Listener->Run_Started(run.Files_Total);
 
+    Written_Outputs written;
     int files_done = 0;
     for (const QString& name : List_Files(program.Options.Path_Videos)) {
-        const After_Entry after = Split_Entry(program, name, files_done);
+        const After_Entry after = Split_Entry(program, name, written, files_done);
         if (after == After_Entry::Stopped)
             return false;
         if (after == After_Entry::Halted)

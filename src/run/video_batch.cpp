@@ -17,6 +17,7 @@
 #include "tools/tool_runner.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +29,7 @@ struct Batch
     /// Base name of the last video whose attachments were searched, or the last pattern of deleted companions.
     /// Deliberate: never cleared during a walk, and it decides between the reports 70 and 71.
     QString Stale_Base;
+    Written_Outputs Written;
 };
 
 static QString Quoted(const QString& path)
@@ -82,10 +84,10 @@ static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& o
 {
     Run_State& run = program.Run;
     const JobOptions& options = program.Options;
-    const bool inspected = Run_FFProbe_Video(program, run.Current_Video_Path) == 1;
+    const bool inspected = !run.Halt_Requested && Run_FFProbe_Video(program, run.Current_Video_Path) == 1;
     if (run.Halt_Requested) {
         outcome.Status = File_Outcome::Kind::Not_Run;
-        outcome.Reason = u"the run was halted"_s;
+        outcome.Reason = Halted_Reason;
         return After_Entry::Halted;
     }
     if (!inspected)
@@ -101,12 +103,10 @@ static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& o
         return After_Entry::Next;
 
     outcome.Output = run.Output_Path;
-    const QString endangered = File_That_Is_Output(run.Mkvmerge_Arguments, run.Output_Path, options.Path_Videos);
-    if (!endangered.isEmpty()) {
-        program.Logs.Log_Faults.AppendLine(Refused_Output(endangered, run.Output_Path));
+    if (!May_Write(program, {run.Output_Path}, batch.Written, outcome))
         return After_Entry::Next;
-    }
-    const After_Entry after = Run_Assembled_Command(program, run.Current_Video_Path, outcome);
+    const After_Entry after = Run_Assembled_Command(program, outcome);
+    batch.Written.Note(run.Current_Video_Path, {run.Output_Path});
     if (after == After_Entry::Next && !run.Dry_Run) {
         Delete_After_Run(program, batch, outcome.Status == File_Outcome::Kind::Done);
         program.Person.Pump_Events();
@@ -166,9 +166,10 @@ static bool Close_Walk(Program& program, const Batch& batch)
     if (!program.Run.Halt_Requested)
         return true;
     program.Logs.Log_Faults.AppendLine(u"*** Process halted before finishing.");
-    // Deliberate: the source's name with its own extension, so a half-written output stays unless the source was .mkv.
+    // Deliberate: only where the source's name is the output's too, so a half-written output stays unless the source
+    // was .mkv. A link stays: what was written isn't the link.
     const QString output = program.Options.Path_Target + batch.Name;
-    if (!program.Run.Dry_Run && !Same_File(output, program.Run.Current_Video_Path))
+    if (output == program.Run.Half_Written_Output && !QFileInfo(output).isSymLink())
         Recycle_If_Exists(output, program.Logs.Log_Faults);
     return false;
 }
@@ -176,6 +177,7 @@ static bool Close_Walk(Program& program, const Batch& batch)
 bool Process_Video_Files(Program& program)
 {
     Run_State& run = program.Run;
+    Forget_Outputs(run);
     program.Person.Pump_Events();
     run.Files_Total = Checked_Int16(run.Video_File_List.size(), u"Counting the videos"_s);
     const QString videos_headline = u' ' + Videos_Box_Headline;

@@ -16,7 +16,8 @@ struct File_Outcome
         Not_Run  ///< its turn at mkvmerge never came: a halt, a dry run
     };
     QString Source;
-    QString Output;
+    QString Output;          ///< of a split run: its first piece
+    QStringList Pieces = {}; ///< of a split run: all files that it wrote
     Kind Status = Kind::Skipped;
     int Exit = 0; ///< mkvmerge's exit status, minus a signal's number, or -1 if it never ran
     double Seconds = 0;
@@ -47,6 +48,9 @@ class Run_Listener
 
     /// A numbered report was raised.
     virtual void Reported(int /*code*/) {}
+
+    /// Something that the operator should know and that stops nothing.
+    virtual void Warned(const QString& /*title*/, const QString& /*text*/) {}
 
     virtual void File_Finished(const File_Outcome&) {}
 };

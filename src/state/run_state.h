@@ -43,6 +43,8 @@ struct Run_State
     std::int16_t Digest_Separator_Written = 0;
     Command_Line Mkvmerge_Arguments; ///< the command of the current mkvmerge run
     QString Output_Path;             ///< the file that command writes
+    QString Half_Written_Output;     ///< what mkvmerge was writing when a halt killed it; empty: nothing
+    QStringList Shared_Outputs;      ///< warnings of this run: two sources write one file
 
     bool Strip_Audio_Titles = false; ///< sampled at the press of the button, as the two below
     bool Strip_Subtitle_Titles = false;

@@ -56,9 +56,19 @@ static bool Split(Test_Program& test, const QString& minutes)
     return Split_Video_Files(test.Prog);
 }
 
+/// Keeps what a driver hears of the last file.
+struct Split_Listener : Run_Listener
+{
+    File_Outcome Last;
+
+    void File_Finished(const File_Outcome& outcome) override { Last = outcome; }
+};
+
 TEST(Split, PiecesHaveTheSetLengthAndAllTracks)
 {
     Test_Program test;
+    Split_Listener heard;
+    test.Prog.Listener = &heard;
     const QString source = Place(test, Seven_Seconds(), u"videos/My Film.mkv"_s);
     test.Prog.Options.Delete_Video_After = true;
     test.Prog.Options.AudioFilterMode = 1;
@@ -71,6 +81,12 @@ TEST(Split, PiecesHaveTheSetLengthAndAllTracks)
         EXPECT_TRUE(tracks[1].startsWith(u"1 audio eng"_s));
         EXPECT_TRUE(tracks[2].startsWith(u"2 audio und"_s));
     }
+    const QString film = test.Path(u"target/My Film"_s);
+    EXPECT_EQ(heard.Last.Output, film + u"-001.mkv"_s);
+    EXPECT_EQ(heard.Last.Pieces, (QStringList{film + u"-001.mkv"_s, film + u"-002.mkv"_s, film + u"-003.mkv"_s}));
+    // Fewer pieces: what an earlier run left isn't this one's.
+    EXPECT_TRUE(Split(test, u"10"_s));
+    EXPECT_EQ(heard.Last.Pieces, QStringList{film + u"-001.mkv"_s});
     EXPECT_TRUE(QFile::exists(source));
 }
 

@@ -102,17 +102,6 @@ TEST(Batch_Report, ADryRunPrintsCommandsForAShellAndNothingElse)
     }
 }
 
-TEST(Batch_Report, TheSecondWriterOfAFileIsWarnedOf)
-{
-    Played_Run run({.Quiet = true});
-    run.File(u"a.avi"_s, File_Outcome::Kind::Done, 0);
-    EXPECT_EQ(run.Err.Text(), QString());
-    run.File(u"a.mp4"_s, File_Outcome::Kind::Done, 0);
-    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: a.avi and a.mp4 write the same file, /t/my film.mkv: only the "
-                              "second stays.\n"_s);
-    EXPECT_EQ(run.Out.Text(), QString()) << "quiet";
-}
-
 TEST(Batch_Report, AMessageNamesTheFileInWork)
 {
     Played_Run run({});

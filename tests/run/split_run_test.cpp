@@ -6,6 +6,7 @@
 #include "support/paths.h"
 
 #include <QDir>
+#include <QFile>
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -134,6 +135,18 @@ TEST_F(SplitRun, AHaltDigestsTheFileAndKeepsThePieces)
     EXPECT_EQ(Test.Results().filter(u"-- Processing video file - \""_s).size(), 1);
     EXPECT_EQ(Test.Read(u"target/a.mkv"_s), "piece\n");
     EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(SplitRun, APieceThatIsASourceOrLeadsOutOfTheTargetIsNotWritten)
+{
+    for (const QString& name : {u"a-001.mkv"_s, u"a-1000.mkv"_s}) {
+        const QString source = Test.Write(u"videos/a.mkv"_s, "precious");
+        const QString piece = Test.Path(u"target/"_s + name);
+        ASSERT_TRUE(QFile::link(source, piece));
+        EXPECT_TRUE(Run());
+        EXPECT_EQ(Test.Results().filter(u"*** Not processed: the output \""_s + piece).size(), 1);
+        QFile::remove(piece);
+    }
 }
 
 TEST_F(SplitRun, ADryRunWritesNothing)

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -307,12 +308,58 @@ TEST_F(VideoBatch, AnOutputThatIsAnotherVideoOfTheFolderIsNotWritten)
         EXPECT_EQ(Test.Read(u"videos/a.mkv_kept"_s), "precious");
         EXPECT_EQ(Heard.Outcomes.back().Status, File_Outcome::Kind::Failed);
     }
-    // A link to a file elsewhere is the operator's own affair.
-    const QString output = Test.Path(u"target/a.mkv"_s);
-    QFile::remove(output);
-    ASSERT_TRUE(QFile::link(Test.Write(u"elsewhere/old.mkv"_s, "old"), output));
+}
+
+TEST_F(VideoBatch, AnOutputWithANameOutsideOfTheTargetIsNotWrittenThrough)
+{
+    struct Claim
+    {
+        const char* What;
+        std::function<bool(const QString& output, const QString& elsewhere)> Make;
+        bool Written;
+    };
+
+    const auto link = [](const QString& to, const QString& name) { return QFile::link(to, name); };
+    const Claim claims[] = {
+        {"link out", [&](auto& output, auto& elsewhere) { return link(elsewhere, output); }, false},
+        {"link out by steps",
+         [&](auto& output, auto&) {
+             return link(u"step"_s, output) && link(u"../elsewhere/old.mkv"_s, Test.Path(u"target/step"_s));
+         },
+         false},
+        {"link to nothing out", [&](auto& output, auto& elsewhere) { return link(elsewhere + u"2"_s, output); }, false},
+        {"link to itself", [&](auto& output, auto&) { return link(output, output); }, false},
+        {"link within", [&](auto& output, auto&) { return link(Test.Write(u"target/b.mkv"_s), output); }, true},
+        {"hard link out", [](auto& output, auto& elsewhere) { return Link(elsewhere, output, false); }, false},
+        {"hard link within", [&](auto& output, auto&) { return Link(Test.Write(u"target/c.mkv"_s), output, false); },
+         true},
+    };
+    Test.Write(u"videos/a.avi"_s, "x");
+    const QString elsewhere = Test.Write(u"elsewhere/old.mkv"_s, "precious");
+    for (const Claim& claim : claims) {
+        const QString output = Test.Path(u"target/a.mkv"_s);
+        QFile::remove(output);
+        ASSERT_TRUE(claim.Make(output, elsewhere)) << claim.What;
+        EXPECT_TRUE(Run());
+        EXPECT_EQ(Heard.Outcomes.back().Status == File_Outcome::Kind::Done, claim.Written) << claim.What;
+        EXPECT_EQ(Test.Read(u"elsewhere/old.mkv"_s), "precious") << claim.What;
+        EXPECT_FALSE(QFile::exists(elsewhere + u"2"_s)) << claim.What;
+    }
+}
+
+TEST_F(VideoBatch, TheSecondWriterOfAFileIsWarnedOfByWhateverName)
+{
+    for (const QString& name : {u"a.avi"_s, u"a.mp4"_s, u"b.avi"_s, u"c.avi"_s})
+        Test.Write(u"videos/"_s + name, "x");
+    // As where case doesn't count: two names, one file.
+    ASSERT_TRUE(Link(Test.Write(u"target/b.mkv"_s), Test.Path(u"target/c.mkv"_s), false));
     EXPECT_TRUE(Run());
-    EXPECT_EQ(Heard.Outcomes.back().Status, File_Outcome::Kind::Done);
+    EXPECT_EQ(Prog.Run.Shared_Outputs.size(), 2);
+    EXPECT_EQ(Test.Results().filter(u"write the same file"_s).size(), 2);
+    EXPECT_EQ(Prog.Run.Shared_Outputs.filter(u"a.avi"_s).filter(u"a.mp4"_s).size(), 1);
+    Prog.Run.Dry_Run = true;
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(Prog.Run.Shared_Outputs.size(), 2);
 }
 
 TEST_F(VideoBatch, ThreeHundredVideosLeaveNoDescriptorAndNoZombie)
@@ -343,28 +390,39 @@ TEST_F(VideoBatch, BeyondTheLimitOfThePercentageTheRunEndsAndSaysWhatItLeaves)
     EXPECT_EQ(Children_Left(), 0);
 }
 
-TEST_F(VideoBatch, AHaltLeavesTheWalkAndTakesOnlyAnMkvsHalfAway)
+TEST_F(VideoBatch, AHaltTakesOnlyAwayWhatItsOwnMkvmergeWasWriting)
 {
     struct Claim
     {
+        const char* What;
         QString Name;
-        bool Stays;
+        QByteArray Merge;
+        QString Halt_At; ///< once this file is there
+        QByteArray Left; ///< of the output; empty: it went to the trash
     };
 
-    for (const Claim& claim : {Claim{u"a.mkv"_s, false}, Claim{u"a.avi"_s, true}}) {
+    const QByteArray wait = "; : > \"$4.now\"; exec sleep 1000";
+    const QString now = u"target/a.mkv.now"_s;
+    const Claim claims[] = {
+        {"half an .mkv", u"a.mkv"_s, "echo half > \"$4\"" + wait, now, ""},
+        {"half an .avi", u"a.avi"_s, "echo half > \"$4\"" + wait, now, "half\n"},
+        {"not begun", u"a.mkv"_s, wait.mid(2), now, "earlier"},
+        {"ended by itself", u"a.mkv"_s, "echo whole > \"$4\"; : > \"$4.now\"", now, "whole\n"},
+        {"during the inspection", u"a.mkv"_s, "echo half > \"$4\"", u"videos/a.mkv"_s, "earlier"},
+    };
+    for (const Claim& claim : claims) {
         Test_Program test;
         test.Prog.Tools.FFProbe_Path = Prog.Tools.FFProbe_Path;
-        test.Prog.Tools.System_MKVMerge_Path =
-            Write_Stand_In(test, u"mkvmerge"_s, "echo half > \"$4\"; exec sleep 1000");
+        test.Prog.Tools.System_MKVMerge_Path = Write_Stand_In(test, u"mkvmerge"_s, claim.Merge);
         test.Prog.Options.Delete_Video_After = true;
         test.Write(u"videos/"_s + claim.Name, "x");
-        const QString output = test.Path(u"target/a.mkv"_s);
-        test.Person.On_Pump = [&] { test.Prog.Run.Halt_Requested = QFile::exists(output); };
+        test.Write(u"target/a.mkv"_s, "earlier");
+        test.Person.On_Pump = [&] { test.Prog.Run.Halt_Requested = QFile::exists(test.Path(claim.Halt_At)); };
         EXPECT_FALSE(Process_Video_Files(test.Prog));
-        EXPECT_EQ(QFile::exists(output), claim.Stays);
-        EXPECT_TRUE(QFile::exists(test.Path(u"videos/"_s + claim.Name)));
+        EXPECT_EQ(test.Read(u"target/a.mkv"_s), claim.Left) << claim.What;
+        EXPECT_EQ(QFile::exists(test.Path(u"target/a.mkv"_s)), !claim.Left.isEmpty()) << claim.What;
+        EXPECT_TRUE(QFile::exists(test.Path(u"videos/"_s + claim.Name)) || claim.Left == "whole\n") << claim.What;
         EXPECT_EQ(test.Faults().constLast(), u"*** Process halted before finishing."_s);
-        EXPECT_EQ(test.Prog.Form.pic_TargetPath.Caption, u" Target Path (drag 'n drop)   0 Files Done "_s);
         EXPECT_EQ(Children_Left(), 0);
     }
 }
