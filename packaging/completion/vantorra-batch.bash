@@ -1,14 +1,5 @@
 # bash completion for vantorra-batch
 
-_vantorra_batch_boxes='
-    chk_StripOrigAudio chk_StripOrigAudioTitle chk_CustomAudioFilter chk_EngAudioOnly chk_AudioDelayAdjust chk_AddAudio
-    chk_UseAudioOpts chk_ApplyDefaultAudioOpts chk_AudioPath chk_StripOrigSubs chk_StripOrigSubsTitle
-    chk_CustomSubsFilter chk_EngSubsOnly chk_SubDefaults chk_SubForces chk_AddSubs chk_UseSubOpts
-    chk_ApplyDefaultSubOpts chk_SubsPath chk_StripChaps chk_ReplaceChapters chk_ConvertTXT chk_ChaptersPath
-    chk_VideoFrameRate chk_VideoFormatOptions chk_SetFileTitle chk_RemoveFileTitle chk_CustomFileTitle
-    chk_SetVideoTitle chk_RemoveVideoTitle chk_CustomVideoTitle chk_RemoveAllTags chk_RemoveAllAttachments
-    chk_AddAttachments chk_UseSubfolders chk_SplitVideos chk_RemoveUnicode chk_DeleteVideoAP'
-
 _vantorra_batch()
 {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= at
@@ -30,7 +21,8 @@ _vantorra_batch()
             return
             ;;
         --tick | --untick)
-            mapfile -t COMPREPLY < <(compgen -W "$_vantorra_batch_boxes" -- "$word")
+            # The program knows its boxes.
+            mapfile -t COMPREPLY < <(compgen -W "$("${COMP_WORDS[0]}" --list-boxes 2>/dev/null)" -- "$word")
             return
             ;;
         --set)

@@ -2,16 +2,8 @@
 # zsh completion for vantorra-batch
 
 _vantorra_batch_boxes() {
-    local -a boxes=(
-        chk_StripOrigAudio chk_StripOrigAudioTitle chk_CustomAudioFilter chk_EngAudioOnly chk_AudioDelayAdjust
-        chk_AddAudio chk_UseAudioOpts chk_ApplyDefaultAudioOpts chk_AudioPath chk_StripOrigSubs
-        chk_StripOrigSubsTitle chk_CustomSubsFilter chk_EngSubsOnly chk_SubDefaults chk_SubForces chk_AddSubs
-        chk_UseSubOpts chk_ApplyDefaultSubOpts chk_SubsPath chk_StripChaps chk_ReplaceChapters chk_ConvertTXT
-        chk_ChaptersPath chk_VideoFrameRate chk_VideoFormatOptions chk_SetFileTitle chk_RemoveFileTitle
-        chk_CustomFileTitle chk_SetVideoTitle chk_RemoveVideoTitle chk_CustomVideoTitle chk_RemoveAllTags
-        chk_RemoveAllAttachments chk_AddAttachments chk_UseSubfolders chk_SplitVideos chk_RemoveUnicode
-        chk_DeleteVideoAP
-    )
+    # The program knows its boxes.
+    local -a boxes=(${(f)"$(_call_program boxes ${(q)words[1]} --list-boxes 2>/dev/null)"})
     compadd -a boxes
 }
 

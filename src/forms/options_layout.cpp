@@ -22,6 +22,21 @@ static int Column_Width(const QGridLayout& grid, int column)
     return width;
 }
 
+/// How many rows the items of a grid take. QGridLayout::rowCount() counts the row of the stretch, too.
+static int Rows_Taken(const QGridLayout& grid)
+{
+    int taken = 0;
+    for (int i = 0; i < grid.count(); ++i) {
+        int row = 0;
+        int column = 0;
+        int rows = 0;
+        int columns = 0;
+        grid.getItemPosition(i, &row, &column, &rows, &columns);
+        taken = std::max(taken, row + rows);
+    }
+    return taken;
+}
+
 /// A box whose caption changes has room for the widest, so that no change of a caption moves anything.
 static void Reserve(QCheckBox& box, const QString& widest)
 {
@@ -38,9 +53,8 @@ Options_Layout::Options_Layout(Ui::Startform& ui, QObject* parent) : QObject(par
 void Options_Layout::Measure()
 {
     const int row = ui_.txt_AudioDelayValue->sizeHint().height();
-    const std::pair<QGridLayout*, int> grids[] = {
-        {ui_.lay_Audio, 10}, {ui_.lay_Subs, 10}, {ui_.lay_Chapters, 2}, {ui_.lay_Other, 7}};
-    for (const auto& [grid, rows] : grids) {
+    for (QGridLayout* grid : {ui_.lay_Audio, ui_.lay_Subs, ui_.lay_Chapters, ui_.lay_Other}) {
+        const int rows = Rows_Taken(*grid);
         grid->setVerticalSpacing(Row_Gap);
         for (int i = 0; i < rows; ++i)
             grid->setRowMinimumHeight(i, row);

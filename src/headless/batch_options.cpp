@@ -1,6 +1,7 @@
 #include "headless/batch_options.h"
 
 #include "life/app_folder.h"
+#include "rules/click_rules.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -31,6 +32,10 @@ static void Describe(QCommandLineParser& parser)
         {u"full"_s, u"log: print all of the log."_s},
         {u"codec-private"_s, u"identify: print the codec-private values, too."_s},
     });
+    QCommandLineOption list_boxes(u"list-boxes"_s,
+                                  u"For the shells' completion: print the names of the check boxes."_s);
+    list_boxes.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(list_boxes);
     parser.addVersionOption();
     parser.addHelpOption();
     parser.addPositionalArgument(u"command"_s,
@@ -115,6 +120,15 @@ static QString Take_Options(const QCommandLineParser& parser, Batch_Options& opt
     return {};
 }
 
+/// The check boxes by name, a line each.
+static QString Box_Lines()
+{
+    QString names;
+    for (const Click_Rule& rule : Click_Rules())
+        names += rule.Name + u'\n';
+    return names;
+}
+
 Batch_Line Parse_Batch_Line(const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -127,6 +141,8 @@ Batch_Line Parse_Batch_Line(const QStringList& arguments)
         line.Text = parser.helpText();
     else if (parser.isSet(u"version"_s))
         line.Text = QStringLiteral("vantorra-batch " VANTORRA_VERSION "\n");
+    else if (parser.isSet(u"list-boxes"_s))
+        line.Text = Box_Lines();
     else if (Batch_Options options; (line.Mistake = Take_Options(parser, options)).isEmpty())
         line.Options = std::move(options);
     return line;

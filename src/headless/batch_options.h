@@ -38,7 +38,7 @@ struct Batch_Options
     QStringList Files = {};     ///< identify: absolute paths
 };
 
-/// What became of the command line: options, or a text to print (help, version), or a mistake.
+/// What became of the command line: options, or a text to print (help, version, names), or a mistake.
 struct Batch_Line
 {
     std::optional<Batch_Options> Options;

@@ -84,33 +84,3 @@ void Only_The_Tick(Program& program)
     if (program.Form.Options_Ready)
         Default_Run(program);
 }
-
-void chk_StripChaps_Click(Program& program)
-{
-    Only_The_Tick(program);
-}
-
-void chk_VideoFrameRate_Click(Program& program)
-{
-    Only_The_Tick(program);
-}
-
-void chk_VideoFormatOptions_Click(Program& program)
-{
-    Only_The_Tick(program);
-}
-
-void chk_RemoveAllTags_Click(Program& program)
-{
-    Only_The_Tick(program);
-}
-
-void chk_RemoveAllAttachments_Click(Program& program)
-{
-    Only_The_Tick(program);
-}
-
-void chk_RemoveUnicode_Click(Program& program)
-{
-    Only_The_Tick(program);
-}

@@ -12,7 +12,7 @@ struct Program;
 
 /// Parks the focus on the invisible btn_NOP, so that no control keeps a focus mark. Every rule ends with it.
 void Default_Run(Program& program);
-/// The rule of a box that has none but its tick.
+/// The rule of a box whose click changes nothing beyond its tick; the table of clicks names it for all of them.
 void Only_The_Tick(Program& program);
 /// Puts the main form above all other windows, or takes it from there.
 void Keep_On_Top(Program& program, bool on);
@@ -46,7 +46,6 @@ void chk_ApplyDefaultSubOpts_Click(Program& program);
 void chk_SubsPath_Click(Program& program);
 
 // Chapters
-void chk_StripChaps_Click(Program& program);
 void chk_ReplaceChapters_Click(Program& program);
 void chk_ConvertTXT_Click(Program& program);
 void lbl_ChapsFormat_Click(Program& program);
@@ -67,11 +66,6 @@ void Custom_File_Title_Caption(JobOptions& options);
 void Custom_Video_Title_Caption(JobOptions& options);
 
 // Other options
-void chk_VideoFrameRate_Click(Program& program);
-void chk_VideoFormatOptions_Click(Program& program);
-void chk_RemoveAllTags_Click(Program& program);
-void chk_RemoveAllAttachments_Click(Program& program);
 void chk_AddAttachments_Click(Program& program);
 void chk_SplitVideos_Click(Program& program);
-void chk_RemoveUnicode_Click(Program& program);
 void chk_DeleteVideoAP_Click(Program& program);

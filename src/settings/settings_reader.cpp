@@ -315,8 +315,9 @@ void Read_Settings_From(Program& program, const Ini_Document& document)
     Take_Attachments(reader);
     reader.Take(Row::Split_Minutes);
     program.Form.txt_SplitVideosValue.Text = options.Split_Minutes;
-    for (int row = Row::First_Extension; row <= Row::Last_Extension; ++row)
-        reader.Take(row);
+    for (const Settings_Row& row : Settings_Rows())
+        if (row.Section == u"Extensions"_s)
+            reader.Take(row.Number);
     reader.Take(Row::Sources);
     reader.Take(Row::Targets);
     program.Form.btn_RunVantorra.Enabled = !options.Path_Videos.isEmpty() && !options.Path_Target.isEmpty();

@@ -50,7 +50,8 @@ QString Default_Of(const Settings_Row& row, const Program& program);
 /// The row's value in force as text, for showing; a value without a text is shown as "(neither)".
 QString Value_In_Force(const Settings_Row& row, const Program& program);
 
-/// First and last rows of the groups that reading and writing name.
+/// The rows that reading and writing name. The section "Extensions", which ends the file, has none here: it is read as
+/// the table has it.
 namespace Row {
 inline constexpr int Save_On_Exit = 1;
 inline constexpr int Main_Left = 2;
@@ -139,7 +140,4 @@ inline constexpr int Remove_Attachments = 104;
 inline constexpr int Add_Attachments = 105;
 inline constexpr int Subfolders = 106;
 inline constexpr int Split_Minutes = 107;
-inline constexpr int Last_Modified = 111;
-inline constexpr int First_Extension = 112; ///< six rows
-inline constexpr int Last_Extension = 117;
 } // namespace Row
