@@ -23,22 +23,27 @@ static QString Escaped(const QString& text)
     return escaped.replace(u':', u"\\c"_s);
 }
 
-static void Add_Item(const QString& key, const Json& value, QStringList& items);
+/// How deep lists and objects in a property are followed; a text that nests without end must not end the program.
+static constexpr int Deepest = 100;
 
-static void Add_Items(const Json& object, QStringList& items)
+static void Add_Item(const QString& key, const Json& value, int depth, QStringList& items);
+
+static void Add_Items(const Json& object, int depth, QStringList& items)
 {
     for (const auto& [key, value] : object.items())
-        Add_Item(QString::fromStdString(key), value, items);
+        Add_Item(QString::fromStdString(key), value, depth, items);
 }
 
 /// One property. A list of values repeats its key; a list of objects gives what is in them.
-static void Add_Item(const QString& key, const Json& value, QStringList& items)
+static void Add_Item(const QString& key, const Json& value, int depth, QStringList& items)
 {
+    if (depth == Deepest)
+        return;
     if (value.is_object())
-        Add_Items(value, items);
+        Add_Items(value, depth + 1, items);
     else if (value.is_array())
         for (const Json& entry : value)
-            Add_Item(key, entry, items);
+            Add_Item(key, entry, depth + 1, items);
     else if (!value.is_null())
         items += Escaped(key) + u':' + Escaped(Json_Text(value));
 }
@@ -49,7 +54,7 @@ static QString Bracket(const Json& element)
     QStringList items;
     const Json& properties = Json_Member(element, "properties");
     if (properties.is_object())
-        Add_Items(properties, items);
+        Add_Items(properties, 0, items);
     return items.isEmpty() ? QString() : u" ["_s + items.join(u' ') + u']';
 }
 

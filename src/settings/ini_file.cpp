@@ -205,8 +205,11 @@ QByteArray Ini_Document::Content() const
         while (at < end) {
             const qsizetype line_end = std::min(Line_End_From(at), end);
             const bool is_whole = line_end < end;
-            const bool has_return = is_whole && line_end > at && content_.at(line_end - 1) == '\r';
-            result.append(QByteArrayView(content_).sliced(at, line_end - at - (has_return ? 1 : 0)));
+            qsizetype text_end = line_end;
+            // All of several, or the next save would take another one.
+            while (is_whole && text_end > at && content_.at(text_end - 1) == '\r')
+                --text_end;
+            result.append(QByteArrayView(content_).sliced(at, text_end - at));
             if (is_whole)
                 result += '\n';
             at = is_whole ? line_end + 1 : line_end;

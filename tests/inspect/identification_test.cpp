@@ -67,6 +67,9 @@ TEST(Identification_Json, IsWrittenOutAsVerboseText)
         {"content_type":"image/png","description":"two\nlines","file_name":"c.png","id":2,"size":0,"properties":{}}])");
     const std::string counts = with(R"("chapters":[{"num_entries":1},{"num_entries":12}],
         "global_tags":[{"num_entries":3}],"track_tags":[{"num_entries":1,"track_id":4}])");
+    const std::string nested(100000, '[');
+    const std::string deep = with(
+        ("\"tracks\":[{\"id\":0,\"properties\":{\"a\":" + nested + std::string(nested.size(), ']') + "}}]").c_str());
     const Case cases[] = {
         {"messages first, then the content",
          R"({"warnings":["w 1\n","w\n2"],"errors":["e\n"],"container":{"recognized":true,"supported":true,"type":"X"}})",
@@ -91,6 +94,7 @@ TEST(Identification_Json, IsWrittenOutAsVerboseText)
          counts.c_str(),
          {head, u"Chapters: 1 entry"_s, u"Chapters: 12 entries"_s, u"Global tags: 3 entries"_s,
           u"Tags for track ID 4: 1 entry"_s}},
+        {"lists in lists without end", deep.c_str(), {head, u"Track ID 0:  ()"_s}},
         {"no JSON at all", "Error: unknown option\r\n", {u"Error: unknown option"_s}},
         {"JSON of another kind", "[1]\r\n", {u"[1]"_s}},
     };

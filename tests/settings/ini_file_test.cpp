@@ -75,7 +75,7 @@ TEST(IniFile, ALongValueIsCutAndNeverInTheMiddleOfACharacter)
 
 TEST(IniFile, AChangeTouchesOnlyWhatItIsAbout)
 {
-    Ini_Document document("stray line\r\n"
+    Ini_Document document("stray line\r\r\n"
                           "; head\r\n"
                           "[First]\r\n"
                           "Key = old\r\n"
