@@ -115,15 +115,31 @@ static void Add_Content(const Json& json, const QString& path, QStringList& line
         lines += u"Tags for track ID "_s + Plain_Text(Json_Member(tags, "track_id")) + u": "_s + Entries(tags);
 }
 
+/// Where the first line that begins with "{" begins; -1 if there is none.
+static qsizetype Json_Begin(const QString& text)
+{
+    if (text.startsWith(u'{'))
+        return 0;
+    const qsizetype line_end = text.indexOf(u"\n{"_s);
+    return line_end < 0 ? -1 : line_end + 1;
+}
+
 QString Verbose_Text_Of_Json(const QString& json, const QString& path)
 {
-    const Json value = Parse_Tool_Json(json.toUtf8());
-    if (!value.is_object())
+    const QString plain_path = QString(path).replace(u'\n', u' ').replace(u'\r', u' ');
+    const qsizetype begin = Json_Begin(json);
+    if (begin < 0)
         return json;
     QStringList lines;
+    for (const QString& line : json.first(begin).split(u'\n'))
+        if (const QString text = line.simplified(); !text.isEmpty())
+            lines += u"Warning: "_s + text;
+    const Json value = Parse_Tool_Json(json.sliced(begin).toUtf8());
+    // Nothing of a text that can't be taken apart is shown: private data in it couldn't be masked.
+    if (!value.is_object())
+        lines += u"Error: mkvmerge's identification of '"_s + plain_path + u"' is no whole JSON."_s;
     Add_Messages(Json_Member(value, "warnings"), u"Warning: "_s, lines);
     Add_Messages(Json_Member(value, "errors"), u"Error: "_s, lines);
-    QString plain_path = path;
-    Add_Content(value, plain_path.replace(u'\n', u' ').replace(u'\r', u' '), lines);
+    Add_Content(value, plain_path, lines);
     return lines.isEmpty() ? QString() : lines.join(Line_Break) + Line_Break;
 }

@@ -96,6 +96,12 @@ TEST(Identification_Json, IsWrittenOutAsVerboseText)
           u"Tags for track ID 4: 1 entry"_s}},
         {"lists in lists without end", deep.c_str(), {head, u"Track ID 0:  ()"_s}},
         {"no JSON at all", "Error: unknown option\r\n", {u"Error: unknown option"_s}},
+        {"another program's words ahead",
+         "libfoo: {no version}\r\n\r\n{\"container\":{\"type\":\"T\",\"properties\":{\"a\":1}}}",
+         {u"Warning: libfoo: {no version}"_s, u"File '/v/a b.mkv': container: T [a:1]"_s}},
+        {"cut short",
+         "{\"codec_private_data\":\"0142",
+         {u"Error: mkvmerge's identification of '/v/a b.mkv' is no whole JSON."_s}},
         {"JSON of another kind", "[1]\r\n", {u"[1]"_s}},
     };
     for (const Case& one : cases) {
