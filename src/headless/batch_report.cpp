@@ -7,6 +7,8 @@
 #include "state/program.h"
 #include "support/shown_text.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 std::unique_ptr<Batch_Report> Batch_Report::Make(const Batch_Options& options, std::FILE* out, std::FILE* err)
@@ -25,8 +27,11 @@ void Batch_Report::Show_Message(const Message_Box& box)
 {
     const QString file = source_.isEmpty() || box.Text.contains(source_) ? QString() : u" ["_s + source_ + u']';
     const QString number = box.Code == 0 ? QString() : u"#%1 "_s.arg(box.Code);
-    Complain(number + box.Title + u' ' + box.Text + file);
-    Tell(box.Code, box.Title, box.Text);
+    // Nobody clicks here.
+    static const QRegularExpression click(u"\r\n(\r\n)*Click OK to [^\r\n]*"_s);
+    const QString text = QString(box.Text).remove(click);
+    Complain(number + box.Title + u' ' + text + file);
+    Tell(box.Code, box.Title, text);
 }
 
 void Batch_Report::Warn(const QString& title, const QString& text)
@@ -75,6 +80,11 @@ void Batch_Report::File_Finished(const File_Outcome& outcome)
         ++counts_.Not_Run;
         break;
     }
+    const QString name = File_Name_Of(outcome.Source);
+    if (outcome.Status == File_Outcome::Kind::Failed && !outcome.Reason.isEmpty())
+        Complain(name + u" failed: "_s + outcome.Reason);
+    for (const QString& warning : outcome.Warnings)
+        Complain(u"warning: "_s + name + u": "_s + warning);
     source_.clear();
 }
 

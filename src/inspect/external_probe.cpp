@@ -16,13 +16,16 @@ static bool Probe(Program& program, const QString& path, QString& output)
     const QString tool = u"FFProbe"_s;
     output.clear();
     Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_streams"_s, path), output);
+    int code = 0;
     if (program.Run.Pipe_Result == 0)
-        return Report_Run_Failure(program, 11, tool) != 0;
-    if (program.Run.Process_Result != -1)
-        return Report_Run_Failure(program, 12, tool) != 0;
-    if (output.isEmpty())
-        return Report_Run_Failure(program, 13, tool) != 0;
-    return true;
+        code = 11;
+    else if (program.Run.Process_Result != -1)
+        code = 12;
+    else if (output.isEmpty())
+        code = 13;
+    if (code != 0)
+        Report_Run_Failure(program, code, tool, Quote_Path(path), path);
+    return code == 0;
 }
 
 /// A careful run's probe of an added file. What can't be read is noted: it fails the video.

@@ -170,15 +170,14 @@ static QString Two_Digits(std::int32_t number)
     return (u"00"_s + QString::number(number)).right(2);
 }
 
-QString Format_Duration(const QString& text, const QString& file)
+QString Format_Duration(const QString& text, const QString& file, const QString& doing)
 {
     QString subject = file;
     if (subject.isEmpty())
         Get_Key_Value(text, u"filename="_s, subject);
     QString duration;
     Get_Key_Value(text, u"duration="_s, duration);
-    const auto seconds = static_cast<float>(
-        Require_Number(duration, u"Reading the duration of a file (a raw video stream has none)"_s, subject));
+    const auto seconds = static_cast<float>(Require_Number(duration, doing, subject));
     const float whole_part = std::trunc(seconds);
     // The fraction's text without its leading "0".
     const QString fraction = Single_To_Text(seconds - whole_part).mid(1);

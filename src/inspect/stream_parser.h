@@ -28,9 +28,12 @@ bool Parse_FFProbe_Output(Media_State& media, const QString& file);
 /// 0. Error 13 for a language that holds "[" and is followed by another item.
 int Get_Key_Value(const QString& text, const QString& key, QString& output, const QString& file = {});
 
+/// What is being done where a duration is no number, for a file that ffprobe has read well.
+inline const QString Reading_Duration = QStringLiteral("Reading the duration of a file (a raw video stream has none)");
+
 /// HH:MM:SS and the fraction behind it, ".5", of the "duration=" in `text`, in single precision; hours keep two digits.
 /// Error 13 if that is missing or no number ("N/A").
-QString Format_Duration(const QString& text, const QString& file = {});
+QString Format_Duration(const QString& text, const QString& file = {}, const QString& doing = Reading_Duration);
 
 /// Undoes the escapes of a title: "\s" becomes a blank, "\c" a colon, "\2" three double quotes.
 QString Unescape_Title(const QString& text);

@@ -6,6 +6,8 @@
 #include "support/file_identity.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
+#include "support/signal_name.h"
+#include "support/system_identification.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
 #include "tools/tool_runner.h"
@@ -31,6 +33,27 @@ void Count_Video(Program& program, int files_done)
     Run_State& run = program.Run;
     run.Files_Left = Checked_Int16(run.Video_File_List.size() - files_done, u"Counting the files left"_s);
     run.File_Index = Checked_Int16(files_done, u"Counting the files done"_s);
+}
+
+/// Why mkvmerge failed, in its own words where it has any.
+static QString Mkvmerge_Failure(const Run_State& run, int exit)
+{
+    const QString how = exit < 0 ? u"mkvmerge was ended by the signal "_s + Signal_Name(-exit)
+                                 : u"mkvmerge ended with status %1"_s.arg(exit);
+    if (!run.Tool_Error.isEmpty())
+        return exit < 0 ? how + u": "_s + run.Tool_Error : u"mkvmerge says: "_s + run.Tool_Error;
+    if (exit < 0)
+        return how;
+    return how + (run.Tool_Last_Line.isEmpty() ? u" and said nothing"_s : u"; its last words: "_s + run.Tool_Last_Line);
+}
+
+void Close_Outcome(Program& program, File_Outcome& outcome)
+{
+    if (outcome.Status == File_Outcome::Kind::Failed && outcome.Reason.isEmpty())
+        outcome.Reason = program.Run.File_Failure;
+    program.Run.File_Failure.clear();
+    if (program.Listener)
+        program.Listener->File_Finished(outcome);
 }
 
 void Forget_Outputs(Run_State& run)
@@ -103,14 +126,19 @@ After_Entry Run_Assembled_Command(Program& program, File_Outcome& outcome)
     }
     // A mkvmerge that never ran must not count as a run: nothing is deleted for it.
     if (run.Pipe_Result == 0) {
+        outcome.Reason = u"no pipe to mkvmerge could be made: "_s + Format_System_Error(run.Process_Result);
         Report_Run_Failure(program, 8, program.Tools.Local_MKVMerge_Path);
         return After_Entry::Stopped;
     }
     if (run.Process_Result != -1) {
+        outcome.Reason = u"mkvmerge could not be started: "_s + Format_System_Error(run.Process_Result);
         Report_Run_Failure(program, 9, program.Tools.System_MKVMerge_Path);
         return After_Entry::Stopped;
     }
     if (!successful)
-        outcome.Reason = u"mkvmerge ended with status %1"_s.arg(outcome.Exit);
+        outcome.Reason = Mkvmerge_Failure(run, outcome.Exit);
+    else if (outcome.Exit == 1)
+        outcome.Warnings +=
+            run.Tool_Warnings.isEmpty() ? QStringList{u"mkvmerge warned, and said nothing"_s} : run.Tool_Warnings;
     return After_Entry::Next;
 }

@@ -37,6 +37,9 @@ void Forget_Outputs(Run_State& run);
 /// operator is warned.
 bool May_Write(Program& program, const QStringList& outputs, const Written_Outputs& written, File_Outcome& outcome);
 
+/// The end of a file: gives a failed one the reason that is known, and tells the listener.
+void Close_Outcome(Program& program, File_Outcome& outcome);
+
 /// Runs the command that was assembled for the outcome's source (in a dry run only tells the listener of it), and sets
 /// how the video ended. Halted, and nothing is started, if the halt is there already. Stopped, with report 8 or 9, if
 /// mkvmerge can't be started.

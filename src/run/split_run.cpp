@@ -69,10 +69,10 @@ static After_Entry Split_Entry(Program& program, const QString& name, Written_Ou
     } else {
         Report_Run_Failure(program, 70, base_or_extension);
         outcome.Status = File_Outcome::Kind::Skipped;
+        outcome.Reason = u"its name has no extension"_s;
     }
     outcome.Seconds = static_cast<double>(clock.elapsed()) / 1000;
-    if (program.Listener)
-        program.Listener->File_Finished(outcome);
+    Close_Outcome(program, outcome);
     return after;
 }
 

@@ -63,20 +63,28 @@ static void Delete_Companions(Program& program, Batch& batch)
 }
 
 /// The deletions behind a run of mkvmerge. Deliberate: whatever its result was; only the extension asks for it.
-static void Delete_After_Run(Program& program, Batch& batch, bool successful)
+static void Delete_After_Run(Program& program, Batch& batch, File_Outcome& outcome)
 {
     const JobOptions& options = program.Options;
     Run_State& run = program.Run;
     if (!options.Delete_Video_After)
         return;
-    if (program.Settings.Extensions.Delete_Source_Only_After_Success && !successful) {
+    if (program.Settings.Extensions.Delete_Source_Only_After_Success && outcome.Status != File_Outcome::Kind::Done) {
         program.Logs.Log_Faults.AppendLine(u"-- Source video file KEPT, as mkvmerge did not succeed - "_s +
                                            Quoted(run.Current_Video_Path));
         return;
     }
     run.Source_Deleted = Delete_To_Recycle(run.Current_Video_Path, program.Logs.Log_Faults);
-    if (options.Delete_Sundry_Files)
-        Delete_Companions(program, batch);
+    if (!run.Source_Deleted)
+        outcome.Warnings += u"the source could not be moved to the trash"_s;
+    if (!options.Delete_Sundry_Files)
+        return;
+    Delete_Companions(program, batch);
+    const bool attachments_gone =
+        !run.Add_Attachments_On ||
+        (options.Use_Attachment_Subfolders ? run.Attachment_Folder_Deleted : run.Attachment_Files_Deleted);
+    if (!run.Ancillary_Deleted || !attachments_gone)
+        outcome.Warnings += u"a file that goes with the video could not be moved to the trash"_s;
 }
 
 /// Inspects the video in work and, if ffprobe had something to say, assembles its command and runs it.
@@ -108,7 +116,7 @@ static After_Entry Process_Video(Program& program, Batch& batch, File_Outcome& o
     const After_Entry after = Run_Assembled_Command(program, outcome);
     batch.Written.Note(run.Current_Video_Path, {run.Output_Path});
     if (after == After_Entry::Next && !run.Dry_Run) {
-        Delete_After_Run(program, batch, outcome.Status == File_Outcome::Kind::Done);
+        Delete_After_Run(program, batch, outcome);
         program.Person.Pump_Events();
     }
     return after;
@@ -152,10 +160,10 @@ static After_Entry Process_Entry(Program& program, Batch& batch, const QString& 
         // Only a name without an extension gets here.
         Report_Run_Failure(program, batch.Stale_Base.isEmpty() ? 70 : 71, base_or_extension, name);
         outcome.Status = File_Outcome::Kind::Skipped;
+        outcome.Reason = u"its name has no extension"_s;
     }
     outcome.Seconds = static_cast<double>(clock.elapsed()) / 1000;
-    if (program.Listener)
-        program.Listener->File_Finished(outcome);
+    Close_Outcome(program, outcome);
     return after;
 }
 

@@ -57,6 +57,11 @@ struct Run_State
     QString Last_Error_Text;
     std::optional<int> Exit_Status; ///< of the last child: 0 to 255, or minus a signal's number; nothing: never reaped
 
+    QString Tool_Error;        ///< what the last mkvmerge said behind "Error:", first line; empty: nothing
+    QStringList Tool_Warnings; ///< what it said behind "Warning:"
+    QString Tool_Last_Line;    ///< the last thing it said
+    QString File_Failure;      ///< why the file in work can't be done, in words; empty: nothing is known against it
+
     bool Kill_By_Name = true; ///< a halt kills every mkvmerge of this user; false: the run's own child only
     bool Dry_Run = false;     ///< inspect and assemble only: nothing is run, written, converted or trashed
 

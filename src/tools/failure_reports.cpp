@@ -119,7 +119,7 @@ bool Holds(const int (&codes)[Size], int code)
 
 } // namespace
 
-int Report_Run_Failure(Program& program, int code, const QString& text_1, const QString& text_2)
+int Report_Run_Failure(Program& program, int code, const QString& text_1, const QString& text_2, const QString& beside)
 {
     const auto* const report = std::find_if(std::begin(Failure_Reports), std::end(Failure_Reports),
                                             [code](const Failure_Report& candidate) { return candidate.Code == code; });
@@ -142,8 +142,9 @@ int Report_Run_Failure(Program& program, int code, const QString& text_1, const 
 
     if (program.Listener)
         program.Listener->Reported(code);
+    const QString about = beside.isEmpty() ? QString() : u"\r\n\r\nFile: "_s + As_One_Line(beside);
     program.Person.Show_Message(
-        {.Code = code, .Title = fill(report->Title), .Text = fill(report->Text), .Icon = report->Icon});
+        {.Code = code, .Title = fill(report->Title), .Text = fill(report->Text) + about, .Icon = report->Icon});
     if (Holds(Codes_That_Log_Text_2, code) && !text_2.isEmpty())
         program.Logs.Log_Faults.AppendLine(As_One_Line(text_2));
     program.Logs.Log_Faults.AppendLine(fill(report->Log_Line));

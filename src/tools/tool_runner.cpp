@@ -5,9 +5,11 @@
 #include "support/console_text.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
 #include "tools/kill_mkvmerge.h"
+#include "tools/message_lines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -141,12 +143,28 @@ static bool Holds_Progress(QByteArrayView bytes)
     return false;
 }
 
+/// mkvmerge prints names as they are. One of the command that holds a line break would make lines of the log.
+static QString With_Whole_Names(const QString& chunk, const Command_Line& command)
+{
+    if (!command.Text().contains(u'\n') && !command.Text().contains(u'\r'))
+        return chunk;
+    QString text = chunk;
+    for (const QString& name : command.Arguments()) {
+        // As Console_Text has made it of what came through the pipe.
+        QString printed = name;
+        printed.replace(Line_Break, u"\n"_s).replace(u"\n"_s, Line_Break);
+        if (const QString whole = As_One_Line(name); whole != name)
+            text.replace(printed, whole);
+    }
+    return text;
+}
+
 /// Keeps a chunk of mkvmerge's output, or drives the percentage with it. A chunk that isn't kept is never made text of.
 ///
 /// Deliberate: the whole chunk goes, whatever else it holds, if it speaks of progress or names the program's folder;
 /// for a program in "/" that is every chunk. A video called "Work in progress" loses its messages and shows 0 %.
-static void Take_Mkvmerge_Chunk(Program& program, const QByteArray& own_folder, QByteArrayView bytes,
-                                Console_Text& text)
+static void Take_Mkvmerge_Chunk(Program& program, const Command_Line& command, const QByteArray& own_folder,
+                                QByteArrayView bytes, Console_Text& text)
 {
     if (Holds_Progress(bytes)) {
         const QByteArrayView head = bytes.first(std::min(bytes.size(), Progress_Head));
@@ -156,7 +174,7 @@ static void Take_Mkvmerge_Chunk(Program& program, const QByteArray& own_folder, 
     } else if (bytes.contains(own_folder)) {
         text.Skip(bytes);
     } else if (const QString& chunk = text.Decode(bytes); chunk.size() > Longest_Dropped_Chunk) {
-        program.Logs.Log_Console.AppendLine(chunk);
+        program.Logs.Log_Console.AppendLine(With_Whole_Names(chunk, command));
     }
 }
 
@@ -164,10 +182,16 @@ void Run_Mkvmerge(Program& program, const QString& executable, const Command_Lin
 {
     QByteArray own_folder = program.Settings.App_Folder.toUtf8();
     own_folder.chop(1);
+    Message_Lines messages;
     Run_Tool(program, executable, command, Mkvmerge_Bytes, On_Halt::Kill_It,
-             [&program, &own_folder](QByteArrayView bytes, Console_Text& text) {
-                 Take_Mkvmerge_Chunk(program, own_folder, bytes, text);
+             [&program, &command, &own_folder, &messages](QByteArrayView bytes, Console_Text& text) {
+                 messages.Take(bytes);
+                 Take_Mkvmerge_Chunk(program, command, own_folder, bytes, text);
              });
+    messages.End();
+    program.Run.Tool_Error = messages.First_Error;
+    program.Run.Tool_Warnings = messages.Warnings;
+    program.Run.Tool_Last_Line = messages.Last_Line;
 }
 
 void Show_Progress(Program& program, int percent, int total)

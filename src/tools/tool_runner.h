@@ -16,7 +16,7 @@ void Run_Tool_Capture(Program& program, const QString& executable, const Command
 void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const Command_Line& command, QString& output);
 
 /// Runs mkvmerge: drives the percentage from its progress lines, keeps its messages in Log_Console, and kills it when
-/// a halt is requested, whether or not it prints.
+/// a halt is requested, whether or not it prints. Tool_Error, Tool_Warnings and Tool_Last_Line are what it said.
 void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command);
 
 /// Shows the progress of the whole batch for `percent` of the current file. 16-bit arithmetic: error 6 above 327

@@ -59,7 +59,7 @@ TEST(Batch_Report, JsonLinesHaveTheirKeysInTheirOrder)
 {"event":"message","code":13,"title":"T.","text":"one\r\ntwo"}
 {"event":"finished","status":"finished","done":0,"warnings":1,"failed":0,"skipped":0,"not_run":0,"exit":0}
 )"_s);
-    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: #13 T. one two\n"_s);
+    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: my \"film\" .avi: w\nvantorra-batch: #13 T. one two\n"_s);
 }
 
 TEST(Batch_Report, ATextThatIsNoUnicodeStillGivesALine)
@@ -88,6 +88,9 @@ TEST(Batch_Report, PlainLinesNameEachFileAndCountThem)
                               "not run  e.avi (halted)\n"
                               "done     f.avi -> /t/my film.mkv (1.3 s)\n"
                               "FINISHED: 1 done, 1 done with warnings, 2 failed, 1 skipped, 1 not run\n"_s);
+    for (const QString& line :
+         {u"vantorra-batch: b.avi failed: b\\u009Bad\n"_s, u"vantorra-batch: warning: f.avi: w\n"_s})
+        EXPECT_TRUE(run.Err.Text().contains(line)) << run.Err.Text().toStdString();
     EXPECT_FALSE(run.Err.Text().contains(u'\x1b')) << "nothing that isn't a terminal gets a bar";
 }
 
@@ -106,7 +109,8 @@ TEST(Batch_Report, AMessageNamesTheFileInWork)
 {
     Played_Run run({});
     run.Report->File_Started(1, u"/v/a.avi"_s);
-    run.Report->Show_Message({.Code = 12, .Title = u"T."_s, .Text = u"Failed."_s});
+    run.Report->Show_Message(
+        {.Code = 12, .Title = u"T."_s, .Text = u"Failed.\r\n\r\nClick OK to continue processing next video file."_s});
     run.Report->Show_Message({.Title = u"T."_s, .Text = u"About /v/a.avi"_s});
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: #12 T. Failed. [/v/a.avi]\nvantorra-batch: T. About /v/a.avi\n"_s);
 }

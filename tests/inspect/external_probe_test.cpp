@@ -24,7 +24,7 @@ TEST(ExternalProbe, AudioAnswersOneAndSubtitlesZeroThoughBothAreRead)
     EXPECT_TRUE(test.Person.Messages.empty());
 }
 
-TEST(ExternalProbe, AFailureIsReportedWithoutAFileAndLeavesTheLastAnswer)
+TEST(ExternalProbe, AFailureIsReportedWithItsFileAndLeavesTheLastAnswer)
 {
     Test_Program test;
     test.Prog.Options.Log_Verbosity = 1;
@@ -40,5 +40,6 @@ TEST(ExternalProbe, AFailureIsReportedWithoutAFileAndLeavesTheLastAnswer)
     ASSERT_EQ(test.Person.Messages.size(), 3U);
     EXPECT_EQ(test.Person.Messages[0].Code, 12);
     EXPECT_EQ(test.Person.Messages[1].Code, 13);
-    EXPECT_FALSE(test.Results().join(u'\n').contains(u"/v/"_s));
+    EXPECT_TRUE(test.Person.Messages[2].Text.endsWith(u"File: /v/b.srt"_s));
+    EXPECT_TRUE(test.Results().join(u'\n').contains(u"/v/b.srt"_s));
 }

@@ -18,7 +18,7 @@ namespace {
 
 /// What an ffprobe says about a file with one video track, and about nothing that is empty.
 const QByteArray Probe = "for file; do :; done\n"
-                         "[ -s \"$file\" ] || exit 1\n"
+                         "[ -s \"$file\" ] || { [ \"$2\" = quiet ] || echo \"[mov @ 0x5] no moov\" >&2; exit 1; }\n"
                          "case \"$*\" in\n"
                          "*-show_format*) printf 'format|filename=x|duration=1.5|size=1\\n' ;;\n"
                          "*) printf 'stream|index=0|codec_name=h264|codec_type=video|tag:language=eng\\n' ;;\n"
@@ -158,24 +158,33 @@ TEST_F(VideoBatch, AFailingFileDoesNotStopTheOthers)
         QByteArray Merge;
         int Exit;
         File_Outcome::Kind Status;
+        QString Reason; ///< or the warning
     };
 
     Test.Write(u"videos/empty.mkv"_s);
     EXPECT_TRUE(Run());
     EXPECT_EQ(Codes(), QList<int>{13});
     EXPECT_EQ(Heard.Outcomes.at(0).Exit, -1);
+    EXPECT_EQ(Heard.Outcomes.at(0).Reason, u"ffprobe says: mov: no moov"_s);
     EXPECT_TRUE(Prog.Form.pic_TargetPath.Caption.endsWith(u"1 File Done "_s));
 
     Test.Write(u"videos/empty.mkv"_s, "x");
     for (const Claim& claim :
-         {Claim{"exit 2", 2, File_Outcome::Kind::Failed}, Claim{"exit 1", 1, File_Outcome::Kind::Done},
-          Claim{"kill -9 $$", -9, File_Outcome::Kind::Failed}, Claim{"", 0, File_Outcome::Kind::Done}}) {
+         {Claim{"exit 2", 2, File_Outcome::Kind::Failed, u"mkvmerge ended with status 2 and said nothing"_s},
+          Claim{"echo banner; echo Bye; printf 'Progress: 3%%\\r'; exit 2", 2, File_Outcome::Kind::Failed,
+                u"mkvmerge ended with status 2; its last words: Bye"_s},
+          Claim{"printf 'Progress: 3%%\\rError: no\\001space\\nError: b'; exit 2", 2, File_Outcome::Kind::Failed,
+                u"mkvmerge says: no\u0001space"_s},
+          Claim{"echo 'Warning: odd'; exit 1", 1, File_Outcome::Kind::Done, u"odd"_s},
+          Claim{"kill -9 $$", -9, File_Outcome::Kind::Failed, u"mkvmerge was ended by the signal SIGKILL (9)"_s},
+          Claim{"", 0, File_Outcome::Kind::Done, {}}}) {
         Heard.Outcomes.clear();
         Write_Stand_In(Test, u"tools/mkvmerge"_s, claim.Merge);
         EXPECT_TRUE(Run());
         ASSERT_EQ(Heard.Outcomes.size(), 1U);
         EXPECT_EQ(Heard.Outcomes[0].Exit, claim.Exit);
         EXPECT_EQ(Heard.Outcomes[0].Status, claim.Status);
+        EXPECT_EQ(Heard.Outcomes[0].Reason + Heard.Outcomes[0].Warnings.join(u'|'), claim.Reason);
         EXPECT_EQ(Heard.Outcomes[0].Output, Test.Path(u"target/empty.mkv"_s));
     }
 }
@@ -291,6 +300,7 @@ TEST_F(VideoBatch, AnOutputThatIsItsOwnSourceOrCompanionIsNotWritten)
         EXPECT_TRUE(Run());
         EXPECT_EQ(Test.Read(u"videos/a.mkv"_s), "precious");
         EXPECT_EQ(Heard.Outcomes.back().Status, File_Outcome::Kind::Failed);
+        EXPECT_TRUE(Heard.Outcomes.back().Reason.contains(u"is the same file on disk as"_s));
     }
     EXPECT_TRUE(Heard.Commands.isEmpty());
     EXPECT_EQ(Test.Results().filter(u"is the same file on disk as"_s).size(), 2);
