@@ -4,6 +4,7 @@
 #include "forms/input_pause.h"
 #include "forms/viewer_keys.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 #include "ui_video_info_view.h"
 
 #include <QKeyEvent>
@@ -113,8 +114,14 @@ void Video_Info_View::Render()
 {
     const QScopedValueRollback filling(filling_, true);
     setWindowTitle(form_.Caption);
-    if (files_.stringList() != form_.lst_VideoFiles)
-        files_.setStringList(form_.lst_VideoFiles);
+    if (listed_ != form_.lst_VideoFiles) {
+        listed_ = form_.lst_VideoFiles;
+        // Two names that differ only in bytes that are no UTF-8 stay two.
+        QStringList shown = listed_;
+        for (QString& name : shown)
+            name = Bytes_Shown(name);
+        files_.setStringList(shown);
+    }
     if (Selected_Row() != form_.List_Index) {
         ui_->lst_VideoFiles->setCurrentIndex(files_.index(form_.List_Index));
         if (form_.List_Index < 0)

@@ -42,6 +42,7 @@ class Video_Info_View : public Program_Dialog
     frm_ViewVFI form_;
     Kept_Place place_;
     QStringListModel files_;
+    QStringList listed_; ///< the names that files_ was filled from
     QString shown_text_;
     bool filling_ = false; ///< the program sets the list's row, not the operator
     bool busy_ = false;    ///< until the tool has answered, the form stays and nothing else is asked of it
