@@ -16,6 +16,7 @@
 #include "run/run_driver.h"
 #include "state/program.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
 #include "workbenches/last_entry.h"
 
 using namespace Qt::StringLiterals;
@@ -53,7 +54,17 @@ static int Run_The_Batch(Program& program, const Batch_Options& options, Batch_R
     }
 }
 
-static int Run_Command(Program& program, const Batch_Options& options, Batch_Report& report, std::FILE* out)
+/// The exit status once all is said: whoever asked for an answer that didn't get through must not take it for whole.
+static int Status_Of_Output(int exit, std::FILE* out, std::FILE* err)
+{
+    if (std::fflush(out) == 0 && std::ferror(out) == 0)
+        return exit;
+    Print_Text(err, u"vantorra-batch: standard output could not be written to its end.\n"_s);
+    return exit == Exit_Finished ? Exit_Run_Time_Error : exit;
+}
+
+static int Run_Command(Program& program, const Batch_Options& options, Batch_Report& report, std::FILE* out,
+                       std::FILE* err)
 {
     program.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process(options.App_Folder));
     // Only the log's folder is needed to print it.
@@ -69,7 +80,9 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
         program.Media.Show_Codec_Private = options.Codec_Private ? 1 : 0;
         return Print_Identification(program, options.Files, options.Json, out);
     case Batch_Command::Log:
-        Print_Log(program.Settings.App_Folder, options.Full, out);
+        if (!Print_Log(program.Settings.App_Folder, options.Full, out))
+            Print_Text(err,
+                       u"vantorra-batch: there is no log in %1 yet.\n"_s.arg(Printable(program.Settings.App_Folder)));
         return Exit_Finished;
     }
     return Exit_Finished;
@@ -82,8 +95,8 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
     if (!line.Options) {
         const bool wrong = line.Text.isEmpty();
         Print_Text(wrong ? err : out,
-                   wrong ? u"vantorra-batch: %1 (--help lists all)\n"_s.arg(line.Mistake) : line.Text);
-        return wrong ? Exit_Bad_Usage : Exit_Finished;
+                   wrong ? u"vantorra-batch: %1 (--help lists all)\n"_s.arg(Printable(line.Mistake)) : line.Text);
+        return wrong ? Exit_Bad_Usage : Status_Of_Output(Exit_Finished, out, err);
     }
 
     const std::unique_ptr<Batch_Report> report = Batch_Report::Make(*line.Options, out, err);
@@ -97,12 +110,11 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
 
     // The one place where run-time errors end.
     try {
-        const int exit = Run_Command(program, *line.Options, *report, out);
-        if (std::ferror(out) != 0 && !stop_requested())
-            Print_Text(err, u"vantorra-batch: standard output could not be written to its end.\n"_s);
-        return exit;
+        const int exit = Run_Command(program, *line.Options, *report, out, err);
+        // A reader that went away halts the run, and has its own status.
+        return stop_requested() ? exit : Status_Of_Output(exit, out, err);
     } catch (const Bad_Usage& mistake) {
-        Print_Text(err, u"vantorra-batch: "_s + mistake.Text + u'\n');
+        Print_Text(err, u"vantorra-batch: "_s + Printable(mistake.Text) + u'\n');
         return Exit_Bad_Usage;
     } catch (const Run_Time_Error& error) {
         report->Show_Error(error);

@@ -5,6 +5,7 @@
 #include "headless/plain_report.h"
 #include "headless/print.h"
 #include "state/program.h"
+#include "support/paths.h"
 #include "support/shown_text.h"
 
 #include <QRegularExpression>
@@ -61,6 +62,7 @@ void Batch_Report::File_Started(int, const QString& source)
 
 void Batch_Report::Warned(const QString& title, const QString& text)
 {
+    warned_ += text;
     Warn(title, text);
 }
 
@@ -84,7 +86,9 @@ void Batch_Report::File_Finished(const File_Outcome& outcome)
     if (outcome.Status == File_Outcome::Kind::Failed && !outcome.Reason.isEmpty())
         Complain(name + u" failed: "_s + outcome.Reason);
     for (const QString& warning : outcome.Warnings)
-        Complain(u"warning: "_s + name + u": "_s + warning);
+        if (!warned_.contains(warning))
+            Complain(u"warning: "_s + name + u": "_s + warning);
+    warned_.clear();
     source_.clear();
 }
 

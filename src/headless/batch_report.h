@@ -81,5 +81,6 @@ class Batch_Report : public Run_Listener
     std::FILE* err_;
     const Program* program_ = nullptr;
     QString source_;
+    QStringList warned_; ///< warnings of the file in work that were told as they came up
     Outcome_Counts counts_;
 };

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QStringDecoder>
 #include <cerrno>
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -45,15 +46,22 @@ static void Print_All(const QString& log, std::FILE* out)
     Print_Lines(out, held_back);
 }
 
-void Print_Log(const QString& app_folder, bool full, std::FILE* out)
+bool Print_Log(const QString& app_folder, bool full, std::FILE* out)
 {
     constexpr int newest_lines = 500;
     const QString log = Process_Log_Path(app_folder);
-    if (!File_Exists(log))
-        return;
+    if (!File_Exists(log)) {
+        // A folder that can't be entered isn't one without a log.
+        std::error_code error;
+        const bool is_there = std::filesystem::exists(QFile::encodeName(log).toStdString(), error);
+        if (!is_there && error)
+            Raise_File_Error(u"Opening the process log to print it"_s, log, error.value());
+        return false;
+    }
     if (full)
         Print_All(log, out);
     else
         for (const QString& line : Read_Log_Lines(log, newest_lines - 1))
             Print_Lines(out, line + u'\n');
+    return true;
 }

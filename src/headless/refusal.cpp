@@ -25,6 +25,8 @@ QString Explain_Refusal(const Program& program, const Batch_Options& options)
     const QString& videos = program.Options.Path_Videos;
     if (videos.isEmpty())
         return Missing_Folder(u"--videos"_s, options.Videos);
+    if (const QString why = Why_Unreadable(videos); !why.isEmpty())
+        return u"\"%1\" can't be read: %2."_s.arg(videos, why);
     if (!program.Options.Path_Target.isEmpty())
         return Tools_Are_There(program.Tools) && program.Run.Video_File_List.constFirst().isEmpty()
                    ? u"\"%1\" holds no file with a video's extension."_s.arg(videos)

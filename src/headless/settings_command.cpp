@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 void Take_Assignments(Program& program, const QStringList& assignments, Batch_Report& report)
 {
     for (const QString& assignment : assignments) {
-        switch (Add_Override(program.Settings, assignment)) {
+        switch (Add_Override(program, assignment)) {
         case Override_Result::Taken:
             break;
         case Override_Result::Without_Effect:
@@ -26,6 +26,9 @@ void Take_Assignments(Program& program, const QStringList& assignments, Batch_Re
             throw Bad_Usage{
                 u"--set \"%1\": there is no such section and key (vantorra-batch settings lists all)."_s.arg(
                     assignment)};
+        case Override_Result::Not_Understood:
+            throw Bad_Usage{u"--set \"%1\": that key takes no such value (vantorra-batch settings lists the values in "
+                            u"force and the defaults)."_s.arg(assignment)};
         case Override_Result::No_Assignment:
             throw Bad_Usage{u"--set wants \"Section/Key=Value\", not \"%1\"."_s.arg(assignment)};
         }

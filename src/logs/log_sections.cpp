@@ -1,6 +1,8 @@
 #include "logs/log_sections.h"
 
 #include "state/program.h"
+#include "support/shown_text.h"
+#include "support/text.h"
 
 #include <algorithm>
 #include <array>
@@ -253,11 +255,20 @@ bool Is_Written(const Row& row, const Program& program)
            (row.When == nullptr || row.When(program));
 }
 
+/// What stands behind a row's words. A line break in a folder's name makes no line; the one at a version's end does.
+QString Appended_Text(const Row& row, const Program& program)
+{
+    if (row.Appended == nullptr)
+        return {};
+    const QString text = row.Appended(program);
+    return text.endsWith(Line_Break) ? As_One_Line(text.chopped(Line_Break.size())) + Line_Break : As_One_Line(text);
+}
+
 void Add_Lines(const std::vector<Row>& rows, const Program& program, QStringList& lines)
 {
     for (const Row& row : rows)
         if (Is_Written(row, program))
-            lines += QString(row.Indent, u' ') + row.Text + (row.Appended ? row.Appended(program) : QString());
+            lines += QString(row.Indent, u' ') + row.Text + Appended_Text(row, program);
 }
 
 } // namespace

@@ -55,6 +55,11 @@ static bool Find_Work(Program& program)
         return false;
     }
 
+    if (const QString why = Why_Unreadable(videos); !why.isEmpty()) {
+        program.Form.lbl_VideoPathFault.Caption = u"VIDEO PATH CAN'T BE READ!"_s;
+        Refuse(program, u"        -- The Video path can't be read: "_s + why);
+        return false;
+    }
     program.Run.Video_File_List = {QString()};
     Find_Video_Files(program, videos, Video_Extensions, program.Run.Video_File_List);
     if (program.Run.Video_File_List.constFirst().isEmpty()) {

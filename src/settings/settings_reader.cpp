@@ -20,7 +20,7 @@ struct Settings_Reader
     {
         const Settings_Row& row = number == 0 ? Settings_Rows().back() : Row_Of(number);
         QString text = Read_Ini_Key(Prog.Settings, Document, row.Section, row.Key, Default_Of(row, Prog));
-        row.Take(Prog, text, u"%1, [%2] \"%3\""_s.arg(Prog.Settings.Ini_File, row.Section, row.Key.trimmed()));
+        row.Take(Prog, text, Source_Of(Prog.Settings, row));
         return text;
     }
 };

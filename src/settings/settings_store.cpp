@@ -11,7 +11,43 @@ static QString Override_Name(const QString& section, const QString& key)
     return section.trimmed().toLower() + u'/' + key.trimmed().toLower();
 }
 
-Override_Result Add_Override(Settings_State& settings, const QString& assignment)
+/// What a row would write after it took a text; `refused` if it can't take it.
+static std::optional<QString> Read_Back(const Settings_Row& row, const QString& text, Operator& person, bool& refused)
+{
+    Program scratch(person);
+    try {
+        row.Take(scratch, text, {});
+        return row.Written(scratch);
+    } catch (const Run_Time_Error&) {
+        refused = true;
+        return {};
+    }
+}
+
+bool Is_Understood(const Settings_Row& row, const QString& text, Operator& person)
+{
+    if (!row.Take || !row.Written)
+        return true;
+    bool refused = false;
+    const std::optional<QString> kept = Read_Back(row, text, person, refused);
+    if (refused)
+        return false;
+    if (kept && kept->trimmed().compare(text.trimmed(), Qt::CaseInsensitive) == 0)
+        return true;
+    // A text that comes to the same as one that surely means nothing means nothing itself.
+    const std::optional<QString> of_nonsense = Read_Back(row, u"?"_s, person, refused);
+    return refused || kept != of_nonsense;
+}
+
+QString Source_Of(const Settings_State& settings, const Settings_Row& row)
+{
+    const QString key = row.Key.trimmed();
+    if (settings.Overrides.contains(Override_Name(row.Section, key)))
+        return u"--set \"%1/%2\""_s.arg(row.Section, key);
+    return u"%1, [%2] \"%3\""_s.arg(settings.Ini_File, row.Section, key);
+}
+
+Override_Result Add_Override(Program& program, const QString& assignment)
 {
     const qsizetype equals = assignment.indexOf(u'=');
     const qsizetype slash = assignment.indexOf(u'/');
@@ -22,8 +58,12 @@ Override_Result Add_Override(Settings_State& settings, const QString& assignment
     const Settings_Row* const row = Find_Row(section, key);
     if (row == nullptr)
         return Override_Result::Unknown_Key;
-    settings.Overrides[Override_Name(section, key)] = assignment.mid(equals + 1);
-    return row->Used == Settings_Row::Use::Read ? Override_Result::Taken : Override_Result::Without_Effect;
+    const QString value = assignment.mid(equals + 1);
+    const bool is_read = row->Used == Settings_Row::Use::Read;
+    if (is_read && !Is_Understood(*row, Ini_Value_As_Read(value), program.Person))
+        return Override_Result::Not_Understood;
+    program.Settings.Overrides[Override_Name(section, key)] = value;
+    return is_read ? Override_Result::Taken : Override_Result::Without_Effect;
 }
 
 QString Read_Ini_Key(const Settings_State& settings, const Ini_Document& document, const QString& section,

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 
+class Operator;
 struct Program;
 struct Settings_State;
 
@@ -44,6 +45,8 @@ void mnu_SaveOnQuit_Click(Program& program);
 /// One key of the settings: the override if there is one, else the document's value, else `missing`.
 QString Read_Ini_Key(const Settings_State& settings, const Ini_Document& document, const QString& section,
                      const QString& key, const QString& missing);
+/// Where a row's text comes from, for an error: the override, or the file, section and key.
+QString Source_Of(const Settings_State& settings, const Settings_Row& row);
 /// One key into the document; an empty value writes the key with nothing behind its "=".
 void Write_Ini_Key(Ini_Document& document, const QString& section, const QString& key, const QString& value);
 /// A section out of the document.
@@ -55,8 +58,13 @@ enum class Override_Result
     Taken,
     Without_Effect, ///< a key that the program never looks at, or whose text changes nothing
     Unknown_Key,    ///< no such section and key
+    Not_Understood, ///< the key takes certain words or numbers, and the value is none of them
     No_Assignment,  ///< not of the form Section/Key=Value
 };
 
+/// False for a text that the row takes for nothing that it knows: a word that is no On or Off, a number that is none or
+/// that the row would put another in place of.
+bool Is_Understood(const Settings_Row& row, const QString& text, Operator& person);
+
 /// Takes "Section/Key=Value" into Settings.Overrides, to be read as if the settings file said so, and never written.
-Override_Result Add_Override(Settings_State& settings, const QString& assignment);
+Override_Result Add_Override(Program& program, const QString& assignment);

@@ -16,6 +16,7 @@
 #include <QStringDecoder>
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <unistd.h>
 
@@ -63,6 +64,13 @@ QStringList List_Files(const QString& folder)
             names.push_back(entry->path().filename().string());
     }
     return By_Name(names);
+}
+
+QString Why_Unreadable(const QString& folder)
+{
+    std::error_code error;
+    const fs::directory_iterator first(Native_Path(folder), error);
+    return error ? QString::fromLocal8Bit(std::strerror(error.value())) : QString();
 }
 
 QString As_On_Disk(const QString& path)

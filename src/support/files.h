@@ -18,6 +18,9 @@ QStringList List_Files(const QString& folder);
 /// its letters, the first by name, as the system's home platform would find it; else `path` again.
 QString As_On_Disk(const QString& path);
 
+/// Why a folder's content can't be listed, in the system's words; empty if it can.
+QString Why_Unreadable(const QString& folder);
+
 /// How many subfolders and files (of any kind) a folder holds.
 struct Folder_Counts
 {

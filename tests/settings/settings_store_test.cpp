@@ -265,6 +265,10 @@ TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
         {u"Audio/Audio Delay Adjust=On"_s, Override_Result::Without_Effect},
         {u"Audio/Apply custom Audio Filter.Enabled=Disabled"_s, Override_Result::Without_Effect},
         {u"Vantorra - by Zarnegar/Version=9"_s, Override_Result::Without_Effect},
+        {u"Audio/Add Audio Files=maybe"_s, Override_Result::Not_Understood},
+        {u"Audio/Audio Delay=ten"_s, Override_Result::Not_Understood},
+        {u"Extensions/Careful Batch=yes"_s, Override_Result::Not_Understood},
+        {u"Menu/Log Verbosity=loud"_s, Override_Result::Not_Understood},
         {u"Audio/No Such Key=1"_s, Override_Result::Unknown_Key},
         {u"Audio Delay=1"_s, Override_Result::No_Assignment},
         {u"Audio/Audio Delay"_s, Override_Result::No_Assignment},
@@ -273,7 +277,7 @@ TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
     };
     Test_Program test;
     for (const Claim& claim : claims)
-        EXPECT_EQ(Add_Override(test.Prog.Settings, claim.Assignment), claim.Result) << claim.Assignment.toStdString();
+        EXPECT_EQ(Add_Override(test.Prog, claim.Assignment), claim.Result) << claim.Assignment.toStdString();
     Read_Text(test, "[Audio]\nAudio Delay=1\n");
     EXPECT_EQ(test.Prog.Options.Audio_Delay, u"70"_s);
     EXPECT_EQ(test.Prog.Options.chk_SubDefaults.Tag, u"no"_s);
