@@ -74,6 +74,8 @@ void Attachments_View::Render()
     Check_Box box = program_.Options.chk_UseSubfolders;
     box.Caption.clear();
     Show_Check_Box(*ui_->chk_UseSubfolders, box);
+    Show_Button(*ui_->btn_Clear, form.btn_Clear);
+    Show_Button(*ui_->btn_Restore, form.btn_Restore);
     Give_Focus(*this, form.Focus);
     Hide_Unless(form.Visible);
 }

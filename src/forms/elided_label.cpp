@@ -1,5 +1,7 @@
 #include "forms/elided_label.h"
 
+#include "forms/looks.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -13,8 +15,7 @@ void Elided_Label::Set_Text(const QString& text)
     if (text == this->text())
         return;
     setText(text);
-    // A tooltip guesses whether its text is markup; a path never is.
-    setToolTip(text.isEmpty() ? QString() : text.toHtmlEscaped().prepend(QStringLiteral("<qt>")));
+    setToolTip(Literal_Tool_Tip(text));
     setAccessibleName(text);
 }
 

@@ -29,10 +29,11 @@ void Kept_Place::Propose_Size(const QSize& usual)
 
 void Kept_Place::Open()
 {
-    const QSize size = QSize(place_.Width, place_.Height).expandedTo(form_.minimumSizeHint());
+    // A form that was maximised tells of its normal place on the way.
+    const Form_Place wanted = place_;
     form_.setWindowState(Qt::WindowNoState);
-    form_.setGeometry(Onto_Screen(QRect(QPoint(place_.Left, place_.Top), size)));
-    if (place_.Window_State == 2)
+    form_.setGeometry(Onto_Screen(Rect_Of(wanted, form_.minimumSizeHint())));
+    if (wanted.Window_State == 2)
         form_.setWindowState(Qt::WindowMaximized);
     Note();
 }

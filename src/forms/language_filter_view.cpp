@@ -54,7 +54,7 @@ void Language_Filter_View::Open()
 {
     const Language_Filter_Form& form = program_.Language_Filter;
     if (form.Has_Place)
-        setGeometry(Onto_Screen(QRect(form.Place.Left, form.Place.Top, form.Place.Width, form.Place.Height)));
+        setGeometry(Onto_Screen(Rect_Of(form.Place)));
     else
         Centre_On_Owner();
     ui_->lst_LanguageList->setFocus();
@@ -97,6 +97,12 @@ void Language_Filter_View::Note_Place()
 {
     if (isVisible())
         program_.Language_Filter.Place = {geometry().left(), geometry().top(), width(), height(), 0};
+}
+
+void Language_Filter_View::showEvent(QShowEvent* event)
+{
+    Program_Dialog::showEvent(event);
+    Note_Place();
 }
 
 void Language_Filter_View::moveEvent(QMoveEvent* event)

@@ -92,6 +92,11 @@ QFont Fixed_Font()
     return font;
 }
 
+QString Literal_Tool_Tip(const QString& text)
+{
+    return text.isEmpty() ? QString() : u"<qt>"_s + text.toHtmlEscaped();
+}
+
 void Tint(QLabel& label, const QColor& colour)
 {
     QPalette own = QApplication::palette(&label);

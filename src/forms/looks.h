@@ -27,6 +27,9 @@ QFont Fixed_Font();
 /// All letters are as wide as each other.
 bool Is_Fixed_Width(const QFont& font);
 
+/// A tool tip that shows the text as it is. Tool tips guess whether a text is markup; a name never is.
+QString Literal_Tool_Tip(const QString& text);
+
 /// Gives a label's words that colour, on whatever it stands.
 void Tint(QLabel& label, const QColor& colour);
 

@@ -17,6 +17,7 @@
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QMenuBar>
 
 using namespace Qt::StringLiterals;
 
@@ -85,7 +86,8 @@ void Connect_Menus(Startform& form, Program& program, Slot_Guard& guard)
     auto* levels = new QActionGroup(&form);
     for (int level = 0; level < static_cast<int>(Verbosity_Levels().size()); ++level) {
         auto* action = form.findChild<QAction*>(u"mnu_Verbosity"_s + QString::number(level));
-        action->setText(Verbosity_Levels()[static_cast<std::size_t>(level)].Item_Caption);
+        const QString& caption = Verbosity_Levels()[static_cast<std::size_t>(level)].Item_Caption;
+        action->setText(With_Letter(caption, caption.front()));
         levels->addAction(action);
         QObject::connect(action, &QAction::triggered, &form,
                          [&, level] { guard.Call([&] { Choose_Verbosity(program, level); }); });
@@ -94,6 +96,8 @@ void Connect_Menus(Startform& form, Program& program, Slot_Guard& guard)
 
 void Render_Menus(Startform& form, const Program& program)
 {
+    // As a whole: a bar with titles that are all off would still take the focus, and Escape with it.
+    form.menuBar()->setEnabled(program.Form.fram_WholeForm.Enabled);
     for (const auto* items : {&Menu_Ticks(), &Menu_Choices()})
         for (const Menu_Tick& item : *items)
             if (auto* action = form.findChild<QAction*>(item.Name))

@@ -43,7 +43,8 @@ Option_Editor_View::Option_Editor_View(Program& program, Slot_Guard& guard, QWid
     connect(ui_->btn_Close, &QAbstractButton::clicked, this, &Option_Editor_View::reject);
     On_Click(ui_->img_FontInc, [this] { OptionsFiles_img_FontInc(program_.Option_Files); });
     On_Click(ui_->img_FontDec, [this] { OptionsFiles_img_FontDec(program_.Option_Files); });
-    On_Click(ui_->img_FontReset, [this] { OptionsFiles_img_FontReset(program_.Option_Files); });
+    On_Click(ui_->img_FontReset,
+             [this] { OptionsFiles_img_FontReset(program_.Option_Files, program_.Form.Text_Size); });
     Set_Looks();
 }
 
@@ -88,7 +89,7 @@ void Option_Editor_View::Open()
     } else {
         kept_ = {};
         place_.Propose_Size({760, 600});
-        Place_Form(Placement::Centred, kept_, program_.Form.Place);
+        Place_Form(Placement::Centred, kept_, program_.Form.Shown_Place());
     }
     place_.Open();
     ui_->lvw_Files->scrollToTop();
@@ -139,11 +140,16 @@ void Option_Editor_View::Changed(Option_Slot slot, const QString& text)
 }
 
 /// Enter, the keypad's separator and Select go on to the next box.
-bool Option_Editor_View::Key_Between_Boxes(Option_Slot slot, const QKeyEvent& event)
+static bool Goes_On(const QKeyEvent& event)
 {
     const int key = event.key();
     const bool separator = key == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier);
-    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Select && !separator)
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Select || separator;
+}
+
+bool Option_Editor_View::Key_Between_Boxes(Option_Slot slot, const QKeyEvent& event)
+{
+    if (!Goes_On(event))
         return false;
     guard_.Call([&] {
         if (const QString next = Next_Box(slot); !next.isEmpty())
@@ -152,18 +158,40 @@ bool Option_Editor_View::Key_Between_Boxes(Option_Slot slot, const QKeyEvent& ev
     return true;
 }
 
+/// The list drops down, and the arrow keys go on, at the line that stands in the box.
+void Option_Editor_View::Begin_At_Text(QComboBox& list)
+{
+    const QScopedValueRollback filling(filling_, true);
+    const QString text = list.currentText();
+    const int line = text.isEmpty() ? -1 : list.findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    if (list.isEditable() && line != list.currentIndex() && (line >= 0 || text.isEmpty()))
+        list.setCurrentIndex(line);
+}
+
+/// What drops a list down, or goes from line to line without it.
+static bool Opens_Or_Moves(const QEvent& event)
+{
+    if (event.type() != QEvent::KeyPress)
+        return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::Wheel;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown || key == Qt::Key_PageUp ||
+           key == Qt::Key_F4;
+}
+
 bool Option_Editor_View::eventFilter(QObject* watched, QEvent* event)
 {
-    // A language that is marked in the proposals stands in the box already: the same key goes on.
-    if (watched == proposals_ && event->type() == QEvent::KeyPress &&
-        Key_Between_Boxes(Language_Slot, *static_cast<QKeyEvent*>(event))) {
+    // A language that is marked in the proposals stands in the box already: the same key goes on. While they are in
+    // view they keep it from the box that its focus has gone, so that its caret would blink on.
+    if (watched == proposals_ && event->type() == QEvent::KeyPress && Goes_On(*static_cast<QKeyEvent*>(event))) {
         proposals_->hide();
-        return true;
+        return Key_Between_Boxes(Language_Slot, *static_cast<QKeyEvent*>(event));
     }
     for (std::size_t at = 0; at < Option_Slot_Count; ++at) {
         if (watched != boxes_[at].Widget())
             continue;
         const auto slot = static_cast<Option_Slot>(at);
+        if (boxes_[at].List && Opens_Or_Moves(*event))
+            Begin_At_Text(*boxes_[at].List);
         if (event->type() == QEvent::KeyPress)
             return Key_Between_Boxes(slot, *static_cast<QKeyEvent*>(event));
         // A wheel that only passes by must not choose what is then written to files.

@@ -50,6 +50,7 @@ class Option_Editor_View : public Program_Dialog
     void Selection_Changed();
     std::vector<int> Selected_Rows() const;
     void Changed(Option_Slot slot, const QString& text);
+    void Begin_At_Text(QComboBox& list);
     bool Key_Between_Boxes(Option_Slot slot, const QKeyEvent& event);
 
     void Set_Looks();

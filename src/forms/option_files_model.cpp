@@ -1,4 +1,6 @@
 #include "forms/option_files_model.h"
+
+#include "forms/looks.h"
 #include "workbenches/option_editor.h"
 
 #include <QObject>
@@ -34,7 +36,7 @@ QVariant Option_Files_Model::data(const QModelIndex& index, int role) const
     if (role == Qt::DisplayRole)
         return QString(name).replace(u'\n', u' '); // a row is one line high
     if (role == Qt::ToolTipRole)
-        return name.toHtmlEscaped();
+        return Literal_Tool_Tip(name);
     return {};
 }
 

@@ -72,7 +72,8 @@ void Release_Button::mouseReleaseEvent(QMouseEvent* event)
                                 .X = event->position().toPoint().x(),
                                 .Y = event->position().toPoint().y(),
                                 .Width = width(),
-                                .Height = height()};
+                                .Height = height(),
+                                .Time = static_cast<std::int64_t>(event->timestamp())};
     QPushButton::mouseReleaseEvent(event);
     event->accept();
     emit Released_At(release);

@@ -20,3 +20,11 @@ QRect Onto_Screen(const QRect& place)
     moved.moveTop(std::clamp(moved.top(), area.top(), area.bottom() - moved.height() + 1));
     return moved;
 }
+
+QRect Rect_Of(const Form_Place& place, const QSize& least)
+{
+    static constexpr int far_away = 1'000'000;
+    const auto cut = [](int value, int lowest) { return std::clamp(value, lowest, far_away); };
+    const QSize size(cut(place.Width, 0), cut(place.Height, 0));
+    return {QPoint(cut(place.Left, -far_away), cut(place.Top, -far_away)), size.expandedTo(least)};
+}

@@ -20,6 +20,8 @@
 
 #include <QApplication>
 #include <QButtonGroup>
+#include <QFontInfo>
+#include <QStyleHints>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -45,10 +47,15 @@ Startform::Startform(Program& program, Slot_Guard& guard)
     Connect_Run();
     Connect_Popups(*this, program_, guard_);
     Connect_Menus(*this, program_, guard_);
-    // The buttons beside it stay where they are while a run hides it.
-    QSizePolicy kept = ui_->pic_QuitButton->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    ui_->pic_QuitButton->setSizePolicy(kept);
+    // What stands beside or below them stays under the pointer while they are hidden.
+    const std::initializer_list<QWidget*> come_and_go = {ui_->pic_QuitButton, ui_->pic_AudioPath, ui_->pic_SubsPath,
+                                                         ui_->pic_ChaptersPath};
+    for (QWidget* panel : come_and_go) {
+        QSizePolicy kept = panel->sizePolicy();
+        kept.setRetainSizeWhenHidden(true);
+        panel->setSizePolicy(kept);
+    }
+    program_.Form.Double_Click_Ms = QGuiApplication::styleHints()->mouseDoubleClickInterval();
     Set_Looks();
     qApp->installEventFilter(this);
 }
@@ -116,7 +123,7 @@ void Startform::Connect_Run()
     connect(ui_->img_ProcessFailed, &QToolButton::clicked, this,
             [this] { guard_.Call([this] { Flash_Process_Failed(program_); }); });
     connect(ui_->btn_Halt, &Release_Button::Released_At, this,
-            [this] { guard_.Call([this] { btn_Halt_MouseUp(program_); }); });
+            [this](const Mouse_Release& release) { guard_.Call([&] { btn_Halt_MouseUp(program_, release); }); });
 }
 
 void Startform::Set_Looks()
@@ -143,6 +150,7 @@ void Startform::Set_Looks()
 
 void Startform::Measure()
 {
+    program_.Form.Text_Size = static_cast<std::int16_t>(QFontInfo(font()).pointSize());
     // Nested layouts remember sizes of an earlier font.
     for (QLayout* nested : findChildren<QLayout*>())
         nested->invalidate();
@@ -240,7 +248,6 @@ static std::pair<QString, QString> Headline_And_Count(const QString& caption)
 void Startform::Render_Folders()
 {
     const Main_Form& form = program_.Form;
-    const int before = ui_->fram_Paths->sizeHint().height();
     for (const auto& [name, field] : Panel_Bindings())
         if (auto* panel = findChild<QWidget*>(QLatin1StringView(name))) {
             panel->setEnabled((form.*field).Enabled);
@@ -270,7 +277,6 @@ void Startform::Render_Folders()
     ui_->lbl_TargetPathCount->setVisible(!done.isEmpty());
     ui_->img_SourceMRU->setDown(program_.Source_MRU_Form.Arrow_Pressed);
     ui_->img_TargetMRU->setDown(program_.Target_MRU_Form.Arrow_Pressed);
-    Fit_Panels(before);
 }
 
 void Startform::Render_Progress()

@@ -73,8 +73,8 @@ class Startform : public QMainWindow, public Form_View
     void Note_Place();
     /// As large as it takes to show all without scrolling, if the screen has the room.
     void Make_Room();
-    void Fit_Panels(int panels_before);
     bool Too_Early(QObject* watched, const QEvent* event) const;
+    bool Into_Group(QObject* watched, const QEvent* event);
     bool Clicked_Pane(QObject* watched, QEvent* event);
     bool Right_Click(QObject* watched, QEvent* event);
 

@@ -62,7 +62,7 @@ void Startform::Show_First()
     shown_ = true;
     // Only a form that is shown knows for sure what its style asks for, and what the window's frame takes.
     Measure();
-    if (program_.Settings.First_Run)
+    if (program_.Form.Never_Placed)
         Make_Room();
     const QRect frame = frameGeometry();
     const QRect within = Onto_Screen(frame);
@@ -78,7 +78,7 @@ void Startform::Show_First()
 
 void Startform::Become_Ready()
 {
-    const bool first = program_.Settings.First_Run;
+    const bool first = program_.Form.Never_Placed;
     guard_.Call([this] { First_Activation(program_); });
     if (first)
         Make_Room(); // what the rules put in view has its size only now
@@ -109,24 +109,20 @@ void Startform::Render_Place()
     if (Same_Place(place, shown_place_) || isMaximized() || isFullScreen() || isMinimized())
         return;
     // A settings file may name a place on a screen that is gone, or no size at all.
-    const QSize wanted(place.Width, place.Height);
-    const QSize size = wanted.expandedTo(minimumSizeHint());
-    const QRect on_screen = Onto_Screen(QRect(QPoint(place.Left, place.Top), size));
-    setGeometry(on_screen);
+    setGeometry(Onto_Screen(Rect_Of(place, minimumSizeHint())));
     shown_place_ = place;
     Note_Place();
 }
 
 void Startform::Note_Place()
 {
-    if (isMaximized() || isFullScreen() || isMinimized())
+    if (isMinimized())
         return;
-    Form_Place& place = program_.Form.Place;
-    place.Left = geometry().left();
-    place.Top = geometry().top();
-    place.Width = geometry().width();
-    place.Height = geometry().height();
-    shown_place_ = place;
+    const Form_Place now{geometry().left(), geometry().top(), width(), height(), 0};
+    const bool whole_screen = isMaximized() || isFullScreen();
+    program_.Form.Whole_Screen = whole_screen ? now : Form_Place();
+    if (!whole_screen)
+        program_.Form.Place = shown_place_ = now;
 }
 
 void Startform::moveEvent(QMoveEvent* event)
@@ -141,24 +137,6 @@ void Startform::resizeEvent(QResizeEvent* event)
     QMainWindow::resizeEvent(event);
     if (shown_)
         Note_Place();
-}
-
-/// A panel that comes or goes takes its room from the window, not from the options.
-void Startform::Fit_Panels(int height_before)
-{
-    const int more = ui_->fram_Paths->sizeHint().height() - height_before;
-    if (more == 0 || !shown_ || isMaximized() || isFullScreen())
-        return;
-    QRect place = geometry();
-    place.setHeight(place.height() + more);
-    if (const QScreen* on = screen(); on && more > 0) {
-        const QRect area = on->availableGeometry();
-        const int too_low = std::max(0, place.bottom() - std::max(area.bottom(), geometry().bottom()));
-        const int up = std::clamp(place.top() - area.top(), 0, too_low);
-        place.translate(0, -up);
-        place.setHeight(place.height() - (too_low - up));
-    }
-    setGeometry(place);
 }
 
 void Startform::closeEvent(QCloseEvent* event)
@@ -203,6 +181,8 @@ void Startform::keyPressEvent(QKeyEvent* event)
 void Startform::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && shown_)
+        Note_Place();
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange ||
         event->type() == QEvent::StyleChange)
         if (options_)
@@ -223,8 +203,22 @@ bool Startform::eventFilter(QObject* watched, QEvent* event)
         by_key_ = true;
     else if (event->type() == QEvent::MouseButtonPress)
         by_key_ = false;
-    return Too_Early(watched, event) || Right_Click(watched, event) || Clicked_Pane(watched, event) ||
-           QMainWindow::eventFilter(watched, event);
+    return Too_Early(watched, event) || Into_Group(watched, event) || Right_Click(watched, event) ||
+           Clicked_Pane(watched, event) || QMainWindow::eventFilter(watched, event);
+}
+
+/// A group's letter goes to its first box that can be used. Left alone, Qt would try one that is off.
+bool Startform::Into_Group(QObject* watched, const QEvent* event)
+{
+    auto* group = event->type() == QEvent::Shortcut ? qobject_cast<QGroupBox*>(watched) : nullptr;
+    if (!group || group->window() != this)
+        return false;
+    for (QWidget* next = group->nextInFocusChain(); next != group; next = next->nextInFocusChain())
+        if (group->isAncestorOf(next) && next->isEnabled() && next->isVisible() && next->focusPolicy() & Qt::TabFocus) {
+            next->setFocus(Qt::ShortcutFocusReason);
+            break;
+        }
+    return true;
 }
 
 /// Until the form is ready it shows itself, and no more.

@@ -2,6 +2,7 @@
 
 #include "forms/bindings.h"
 #include "forms/input_pause.h"
+#include "forms/looks.h"
 #include "forms/viewer_keys.h"
 #include "state/program.h"
 #include "support/shown_text.h"
@@ -138,7 +139,7 @@ void Video_Info_View::Render()
             sized->setFont(font);
         }
     Show_Label(*ui_->lbl_FileName, form_.lbl_FileName);
-    ui_->lbl_FileName->setToolTip(form_.lbl_FileName.Caption.toHtmlEscaped());
+    ui_->lbl_FileName->setToolTip(Literal_Tool_Tip(form_.lbl_FileName.Caption));
     ui_->lbl_DroppedFileName->setText(form_.lbl_DroppedFileName.Caption);
     ui_->shp_VideoInfo->setVisible(form_.shp_VideoInfo.Visible);
     Show_Button(*ui_->btn_ShowCodecData, form_.btn_ShowCodecData);

@@ -14,7 +14,7 @@ static void Caption_Add_Attachments(JobOptions& options, bool path_set)
         path_set ? u"Add Attachments (path set)"_s : u"Add Attachments (path not set)"_s;
 }
 
-/// The four controls of the form that tell whether there is a folder.
+/// The controls of the form that tell whether there is a folder, and one to go back to.
 static void Show_Folder(Program& program, const QString& folder)
 {
     Attachments_Form& form = program.Attachments_Dialog;
@@ -23,6 +23,9 @@ static void Show_Folder(Program& program, const QString& folder)
     form.lbl_AttachmentsPathFault.Visible = !set;
     if (!set)
         form.lbl_AttachmentsPathFault.Caption = u"Attachment path NOT set!"_s;
+    const QString& in_use = program.Options.Path_Attachments;
+    form.btn_Clear.Enabled = !in_use.isEmpty();
+    form.btn_Restore.Enabled = !form.Kept_Path.isEmpty() && form.Kept_Path != in_use;
     form.lbl_UseSubfolders.Enabled = set;
     program.Options.chk_UseSubfolders.Enabled = set;
 }

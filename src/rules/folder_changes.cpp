@@ -58,6 +58,7 @@ static void Drop_On_Main_Folder(Program& program, const Main_Folder& folder, con
         QStringList& recent = program.Settings.*folder.Recent;
         const QString old = path;
         path = dropped;
+        Forget_Last_Run(program.Form);
         (program.Form.*folder.Shown).Caption = path;
         (program.Form.*folder.Fault).Caption.clear();
         Remove_Recent_Folder(recent, path);
@@ -87,6 +88,7 @@ static void Drop_On_Companion_Folder(Program& program, const Companion_Folder& f
         return;
     QString& path = program.Options.*folder.Path;
     Drop_Folder(data, true, path);
+    Forget_Last_Run(program.Form);
     if (Check_Paths(program, folder.Word)) {
         (program.Form.*folder.Shown).Caption = path;
     } else {
@@ -126,6 +128,7 @@ static bool Browse_Main_Folder(Program& program, const Main_Folder& folder)
         return false;
     }
     path = chosen;
+    Forget_Last_Run(program.Form);
     shown.Caption = path;
     (program.Form.*folder.Fault).Caption.clear(); // it would say "Not Set" beside the path
     QStringList& recent = program.Settings.*folder.Recent;
@@ -159,6 +162,7 @@ static void Browse_Companion_Folder(Program& program, const Companion_Folder& fo
     if (chosen.isEmpty())
         return;
     path = chosen;
+    Forget_Last_Run(program.Form);
     (program.Form.*folder.Shown).Caption = path;
     (program.Form.*folder.Fault).Caption.clear();
 }

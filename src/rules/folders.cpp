@@ -122,3 +122,14 @@ void Follow_Folders(Program& program)
     if (program.Settings.Extensions.Run_Button_Follows_Folders)
         Test_Run_Button(program);
 }
+
+void Forget_Last_Run(Main_Form& form)
+{
+    const Main_Form fresh{};
+    form.pic_VideosPath.Caption = fresh.pic_VideosPath.Caption;
+    form.pic_TargetPath.Caption = fresh.pic_TargetPath.Caption;
+    form.lbl_ProgressFinished.Visible = false;
+    form.Progress_Fraction = 0;
+    form.Progress = Progress_Look::Idle;
+    form.ulbl_Title1.Caption.clear();
+}

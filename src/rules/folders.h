@@ -29,3 +29,7 @@ void Follow_Folders(Program& program);
 
 /// Shows the numbered box of a path error and sets `code` to 0. Codes under 1 stay; codes without a box show nothing.
 void Show_Path_Error(Program& program, int& code);
+
+/// A folder changed, or the run button was pressed: what the form still shows of the run before, its counts, progress,
+/// end and last name, goes.
+void Forget_Last_Run(Main_Form& form);

@@ -92,13 +92,14 @@ void img_TargetMRU_Click(Program& program)
     Open_List(program, Target_List(program));
 }
 
-static void Choose_Item(const Recent_List& recent, int index)
+static void Choose_Item(Main_Form& form, const Recent_List& recent, int index)
 {
     if (index < 0 || index >= recent.List.size())
         return;
     const QString chosen = recent.List.takeAt(index);
     recent.List.prepend(recent.Path);
     recent.Path = chosen;
+    Forget_Last_Run(form);
     if (!chosen.isEmpty())
         recent.Fault.Caption.clear(); // it spoke of the folder before
     recent.Form.Visible = false;
@@ -106,12 +107,12 @@ static void Choose_Item(const Recent_List& recent, int index)
 
 void Choose_Recent_Source(Program& program, int index)
 {
-    Choose_Item(Source_List(program), index);
+    Choose_Item(program.Form, Source_List(program), index);
 }
 
 void Choose_Recent_Target(Program& program, int index)
 {
-    Choose_Item(Target_List(program), index);
+    Choose_Item(program.Form, Target_List(program), index);
 }
 
 void Hide_Recent_List(Recent_List_Form& form)

@@ -45,6 +45,7 @@ static void Refuse(Program& program, const QString& line)
 static bool Find_Work(Program& program)
 {
     Check_Paths(program, u"All"_s);
+    Follow_Folders(program); // the check may have emptied one
     const QString& videos = program.Options.Path_Videos;
     const QString& target = program.Options.Path_Target;
     if (videos.isEmpty() || target.isEmpty()) {
@@ -130,6 +131,13 @@ static void Run_Mode(Program& program)
         Process_Video_Files(program);
 }
 
+/// The second release of a double click on the run button: it ends over whatever stands there by then.
+static bool Ends_Double_Click(const Program& program, const Mouse_Release& release)
+{
+    const std::int64_t since = release.Time - program.Run.Press_Time;
+    return release.Time != 0 && program.Run.Press_Time != 0 && since >= 0 && since < program.Form.Double_Click_Ms;
+}
+
 Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release)
 {
     if (release.X < 0 || release.Y < 0 || release.X > release.Width || release.Y > release.Height) {
@@ -138,11 +146,14 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     }
     if (release.Button != Mouse_Button::Left || !release.Modifiers.None())
         return Press_Result::Ignored;
-    // The second release of a double click arrives while the tools are tried: it must not run everything twice.
-    if (program.Run.Press_In_Work)
+    // The second release of a double click arrives while the tools are tried, or behind a run that was over at once: it
+    // must not run everything twice.
+    if (program.Run.Press_In_Work || Ends_Double_Click(program, release))
         return Press_Result::Ignored;
     program.Run.Press_In_Work = true;
+    program.Run.Press_Time = release.Time;
     const auto done = qScopeGuard([&program] { program.Run.Press_In_Work = false; });
+    Forget_Last_Run(program.Form);
 
     if (!Find_FFProbe(program) || !Ensure_MKVMerge(program) || !Find_Work(program))
         return Press_Result::Refused;
@@ -169,6 +180,13 @@ void Show_Run_Warnings(Program& program)
     const QStringList warnings = std::exchange(program.Run.Shared_Outputs, {});
     if (!warnings.isEmpty())
         program.Person.Show_Message({.Title = Shared_Output_Title, .Text = warnings.join(u"\r\n"_s)});
+}
+
+void btn_Halt_MouseUp(Program& program, const Mouse_Release& release)
+{
+    // The button stands where the run button stood: a double click there starts, and halts nothing.
+    if (!Ends_Double_Click(program, release))
+        btn_Halt_MouseUp(program);
 }
 
 void btn_Halt_MouseUp(Program& program)

@@ -23,9 +23,11 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
 /// A box with what the last run has warned of, if it has, for a driver that doesn't tell while it goes on.
 void Show_Run_Warnings(Program& program);
 
-/// A mouse button was let go over btn_Halt, or what stands for it (a signal): asks the run to stop. Only a flag is set
-/// and the button's look changes; the loops see the flag and do the rest.
+/// Asks the run to stop, for btn_Halt and whatever stands for it (a signal). Only a flag is set and the button's look
+/// changes; the loops see the flag and do the rest.
 void btn_Halt_MouseUp(Program& program);
+/// A mouse button was let go over btn_Halt: the same, unless it ends a double click on the run button.
+void btn_Halt_MouseUp(Program& program, const Mouse_Release& release);
 
 /// Esc without a modifier on the main form: asks the run to stop if one goes on that wasn't asked yet.
 void Halt_Key(Program& program);

@@ -57,6 +57,8 @@ struct Attachments_Form
     Label lbl_AttachmentsPathBox{.Caption = QStringLiteral("Drop Attachment  folder here:")};
     Label lbl_AttachmentsNotes;
     Label lbl_UseSubfolders{.Caption = QStringLiteral("Attach Contents of Titled Subfolders Instead")};
+    Button btn_Clear{.Caption = QStringLiteral("Clear")};
+    Button btn_Restore{.Caption = QStringLiteral("Restore")};
     QString Kept_Path; ///< the folder before btn_Clear, for btn_Restore
     QString Focus;     ///< "cmd_Done" once the logic gave it the focus
     bool Visible = false;
@@ -87,6 +89,12 @@ struct Recent_List_Form
     QString Text;               ///< the edit line of cmbo_MRU
     bool Visible = false;       ///< the view hides the form once this is False
     bool Arrow_Pressed = false; ///< img_SourceMRU, img_TargetMRU: shifted by half its height
+};
+
+/// frm_Help: the help file, where the desktop has no program for it.
+struct Help_Form
+{
+    QString File;
 };
 
 /// frm_Splash, the About box: shown without waiting, and gone by itself after seven ticks.

@@ -3,6 +3,7 @@
 #include "support/controls.h"
 
 #include <QString>
+#include <cstdint>
 
 /// What the bar and its label look like.
 enum class Progress_Look
@@ -19,6 +20,10 @@ struct Main_Form
     QString Caption;
     Form_Place Place;
     Form_Place Screen{0, 0, 1920, 1080, 0}; ///< the work area of the form's screen
+    Form_Place Whole_Screen;                ///< where it stands while it is maximised; no width while it isn't
+    bool Never_Placed = false;              ///< no window has stood anywhere yet: the first one is centred
+    std::int16_t Text_Size = 10;            ///< of the form's own text, in points
+    int Double_Click_Ms = 400;              ///< two clicks within that time are one double click
     bool Options_Ready = false;             ///< set by the first activation; until then the option rules do nothing
     bool Closing = false;
     bool Topmost_On = false;
@@ -28,7 +33,7 @@ struct Main_Form
     // Buttons and pictures
     Button btn_RunVantorra{.Caption = QStringLiteral("Run Vantorra")};
     Button btn_Halt{.Caption = QStringLiteral("HALT"), .Visible = false};
-    Button btn_ViewVidInfo{.Caption = QStringLiteral("View Video File Info")};
+    Button btn_ViewVidInfo{.Caption = QStringLiteral("View Video File Info"), .Enabled = false};
     Panel pic_QuitButton;
     Panel pic_ProcessFailed{.Caption = {}, .Visible = false};
     bool img_ProcessFailed_Out = false; ///< the picture's inner image is out of its place: it flashes
@@ -77,4 +82,7 @@ struct Main_Form
     Menu_Item mnu_VerbosityStatus{.Caption = QStringLiteral("Log Verbosity 0 - Log Process Overview Only")};
     Menu_Item mnu_OSVersion;
     Panel fram_WholeForm; ///< disabled while a run goes on
+
+    /// What the form takes of the screen now.
+    const Form_Place& Shown_Place() const { return Whole_Screen.Width > 0 ? Whole_Screen : Place; }
 };

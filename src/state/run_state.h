@@ -30,6 +30,7 @@ struct Run_State
     bool Halt_Requested = false;
     bool Run_In_Progress = false;
     bool Press_In_Work = false;             ///< the run button's handler is at work: before, in and behind a run
+    std::int64_t Press_Time = 0;            ///< when the mouse pressed the run button last; 0: a key did
     QStringList Video_File_List{QString()}; ///< accepted names; an empty first entry: nothing found
 
     std::int16_t Files_Total = 0;

@@ -1,6 +1,23 @@
 #include "support/form_placement.h"
 
 #include <algorithm>
+#include <climits>
+#include <cstdint>
+
+/// Where a thing of that size begins so that it stands in the middle of the room. Sizes and places may come from a file
+/// that anybody has edited.
+static int Middle(int start, int room, int size)
+{
+    const std::int64_t middle = start + (std::int64_t{room} - size) / 2;
+    return static_cast<int>(std::clamp<std::int64_t>(middle, INT_MIN, INT_MAX));
+}
+
+/// The place, moved so that it lies within the room; its start on the room's if it is larger.
+static int Within(int place, int size, int start, int room)
+{
+    const std::int64_t last = std::int64_t{start} + room - size;
+    return static_cast<int>(std::max<std::int64_t>(start, std::min<std::int64_t>(place, last)));
+}
 
 void Place_Form(Placement placement, Form_Place& form, const Form_Place& main_form, bool placed)
 {
@@ -11,14 +28,14 @@ void Place_Form(Placement placement, Form_Place& form, const Form_Place& main_fo
         form.Width = main_form.Width;
         form.Height = main_form.Height;
     }
-    form.Left = main_form.Left + (main_form.Width - form.Width) / 2;
-    form.Top = main_form.Top + (main_form.Height - form.Height) / 2;
+    form.Left = Middle(main_form.Left, main_form.Width, form.Width);
+    form.Top = Middle(main_form.Top, main_form.Height, form.Height);
 }
 
 void Ensure_Visible(Form_Place& form, const Form_Place& screen)
 {
     if (form.Window_State != 0)
         return;
-    form.Left = std::max(screen.Left, std::min(form.Left, screen.Left + screen.Width - form.Width));
-    form.Top = std::max(screen.Top, std::min(form.Top, screen.Top + screen.Height - form.Height));
+    form.Left = Within(form.Left, form.Width, screen.Left, screen.Width);
+    form.Top = Within(form.Top, form.Height, screen.Top, screen.Height);
 }

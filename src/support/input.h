@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 /// What a mouse and a keyboard deliver to the rules of a form, without any toolkit's types.
 
 enum class Mouse_Button
@@ -35,7 +37,8 @@ struct Key_Press
 };
 
 /// A mouse button let go over a control: where the pointer was, counted from the control's top left corner, and how
-/// large the control is, all in pixels. The pointer may have left the control since the button went down.
+/// large the control is, all in pixels. The pointer may have left the control since the button went down. Time is the
+/// window system's, in milliseconds from some beginning; 0: a key stood for the mouse.
 struct Mouse_Release
 {
     Mouse_Button Button = Mouse_Button::Left;
@@ -44,4 +47,5 @@ struct Mouse_Release
     int Y = 0;
     int Width = 0;
     int Height = 0;
+    std::int64_t Time = 0;
 };

@@ -125,7 +125,7 @@ void ProcessLog_Activate(Program& program, frm_ProcessLog& form)
         return;
     form.Activated = true;
     Settings_State& settings = program.Settings;
-    Place_Viewer(form.Place, program.Form.Place, settings.ProcessLog_Box, settings.ProcessLog_Not_First_Run);
+    Place_Viewer(form.Place, program.Form.Shown_Place(), settings.ProcessLog_Box, settings.ProcessLog_Not_First_Run);
     bool loaded = false;
     Load_vProcessLog(program, form, form.Line_Limit, loaded);
     Show_Text_Size(settings.ProcessLog_Font_Size, form.lbl_FontSize);
@@ -163,7 +163,7 @@ void ProcessLog_img_FontDec(Program& program, frm_ProcessLog& form)
 
 void ProcessLog_img_FontReset(Program& program, frm_ProcessLog& form)
 {
-    Reset_Text_Size(program.Settings.ProcessLog_Font_Size, form.lbl_FontSize);
+    Reset_Text_Size(program.Settings.ProcessLog_Font_Size, program.Form.Text_Size, form.lbl_FontSize);
 }
 
 void ProcessLog_KeyDown(Program& program, frm_ProcessLog& form, int key, bool shift)
@@ -171,5 +171,5 @@ void ProcessLog_KeyDown(Program& program, frm_ProcessLog& form, int key, bool sh
     if (key == Key_Escape || key == Key_Enter || key == Key_Execute)
         ProcessLog_btn_Done(program, form);
     else if (key == Key_F12)
-        Place_Form(shift ? Placement::Over_Main_Form : Placement::Centred, form.Place, program.Form.Place);
+        Place_Form(shift ? Placement::Over_Main_Form : Placement::Centred, form.Place, program.Form.Shown_Place());
 }

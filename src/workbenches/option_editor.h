@@ -58,7 +58,7 @@ QString Next_Box(Option_Slot slot);
 /// The text size: one more, one less, that of the main form.
 void OptionsFiles_img_FontInc(Option_Editor& editor);
 void OptionsFiles_img_FontDec(Option_Editor& editor);
-void OptionsFiles_img_FontReset(Option_Editor& editor);
+void OptionsFiles_img_FontReset(Option_Editor& editor, std::int16_t main_form_size);
 
 /// The boxes take the sticky values; boxes that aren't sticky are emptied.
 void Load_The_Boxes(Option_Editor& editor);

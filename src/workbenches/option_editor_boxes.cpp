@@ -105,9 +105,9 @@ void OptionsFiles_img_FontDec(Option_Editor& editor)
     Decrease_Text_Size(editor.Font_Size, editor.lbl_FontSize);
 }
 
-void OptionsFiles_img_FontReset(Option_Editor& editor)
+void OptionsFiles_img_FontReset(Option_Editor& editor, std::int16_t main_form_size)
 {
-    Reset_Text_Size(editor.Font_Size, editor.lbl_FontSize);
+    Reset_Text_Size(editor.Font_Size, main_form_size, editor.lbl_FontSize);
 }
 
 void Load_The_Boxes(Option_Editor& editor)

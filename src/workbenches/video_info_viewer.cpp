@@ -63,10 +63,12 @@ void ViewVFI_Activate(Program& program, frm_ViewVFI& form)
         return;
     form.Activated = true;
     Settings_State& settings = program.Settings;
-    Place_Viewer(form.Place, program.Form.Place, settings.ViewVFI_Box, settings.ViewVFI_Not_First_Run);
+    Place_Viewer(form.Place, program.Form.Shown_Place(), settings.ViewVFI_Box, settings.ViewVFI_Not_First_Run);
     form.lst_VideoFiles.clear();
     form.List_Index = -1;
     form.txt_VideoInfo.clear();
+    form.lbl_FileName.Caption.clear();
+    form.shp_VideoInfo.Visible = false;
     if (Find_Video_Files(program, program.Options.Path_Videos, Video_Extensions, program.Run.Video_File_List))
         form.lst_VideoFiles = program.Run.Video_File_List;
     Show_Text_Size(settings.ViewVFI_Font_Size, form.lbl_FontSize);
@@ -142,7 +144,7 @@ void ViewVFI_img_FontDec(Program& program, frm_ViewVFI& form)
 
 void ViewVFI_img_FontReset(Program& program, frm_ViewVFI& form)
 {
-    Reset_Text_Size(program.Settings.ViewVFI_Font_Size, form.lbl_FontSize);
+    Reset_Text_Size(program.Settings.ViewVFI_Font_Size, program.Form.Text_Size, form.lbl_FontSize);
 }
 
 void ViewVFI_KeyDown(Program& program, frm_ViewVFI& form, int key, bool shift)
@@ -150,5 +152,5 @@ void ViewVFI_KeyDown(Program& program, frm_ViewVFI& form, int key, bool shift)
     if (key == Key_Escape || key == Key_Enter || key == Key_Execute)
         ViewVFI_btn_Done(program, form);
     else if (key == Key_F12)
-        Place_Form(shift ? Placement::Over_Main_Form : Placement::Centred, form.Place, program.Form.Place);
+        Place_Form(shift ? Placement::Over_Main_Form : Placement::Centred, form.Place, program.Form.Shown_Place());
 }

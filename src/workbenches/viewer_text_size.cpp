@@ -21,8 +21,8 @@ void Decrease_Text_Size(std::int16_t& size, Label& label)
     Show_Text_Size(size, label);
 }
 
-void Reset_Text_Size(std::int16_t& size, Label& label)
+void Reset_Text_Size(std::int16_t& size, std::int16_t main_form_size, Label& label)
 {
-    size = Main_Form_Text_Size;
+    size = main_form_size;
     Show_Text_Size(size, label);
 }

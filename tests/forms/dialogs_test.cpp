@@ -98,8 +98,10 @@ TEST_F(Dialogs, TheFormatBoxesDropEveryOtherCharacterTypedOrPasted)
 
 TEST_F(Dialogs, TenLanguagesMoveByMouseAndKeyAndTheEleventhStays)
 {
-    Open("mnu_CustomAudioFilter", "frm_CustomFilter", [](QWidget& form) {
+    int top = 0;
+    Open("mnu_CustomAudioFilter", "frm_CustomFilter", [&](QWidget& form) {
         EXPECT_EQ(form.windowTitle(), u"Choose Audio Language(s) to Filter");
+        top = form.geometry().top();
         auto& list = In<QListWidget>(form, "lst_LanguageList");
         auto& selection = In<QListWidget>(form, "lst_LanguageSelection");
         const int all = list.count();
@@ -125,6 +127,7 @@ TEST_F(Dialogs, TenLanguagesMoveByMouseAndKeyAndTheEleventhStays)
         Click_On(In(form, "btn_Done"));
     });
     EXPECT_EQ(Window.Prog().Options.AudioFilter.Count, 9);
+    EXPECT_EQ(Window.Prog().Options.AudioFilter.Top, top) << "the place is kept though it never moved";
     EXPECT_EQ(Window.Get<QCheckBox>("chk_CustomAudioFilter").text(), u"Apply custom Audio Filter (keep)");
     EXPECT_TRUE(Window.Get("chk_CustomAudioFilter").isEnabled());
     Open("mnu_CustomAudioFilter", "frm_CustomFilter", [](QWidget& form) {

@@ -293,3 +293,15 @@ TEST_F(Option_Clicks, ALetterLeavesAnEmptyDelayBoxEmpty)
         Press(edit, key);
     EXPECT_EQ(edit.text(), u"");
 }
+
+TEST_F(Option_Clicks, AGroupsLetterGoesToItsFirstBoxThatCanBeUsed)
+{
+    const std::pair<Qt::Key, const char*> letters[] = {{Qt::Key_A, "chk_StripOrigAudio"},
+                                                       {Qt::Key_U, "chk_StripOrigSubs"},
+                                                       {Qt::Key_C, "chk_StripChaps"},
+                                                       {Qt::Key_O, "chk_RemoveAllTags"}};
+    for (const auto& [letter, box] : letters) {
+        Press(Window.Form(), letter, Qt::AltModifier);
+        EXPECT_TRUE(Window.Get(box).hasFocus()) << box;
+    }
+}

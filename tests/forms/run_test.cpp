@@ -97,10 +97,12 @@ TEST_F(Window_Run, EnterStartsAndAFolderWithoutVideosIsRefused)
 {
     Prepare();
     Window.Files.Write(u"videos/notes.txt"_s, "no video");
+    Window.Prog().Form.pic_VideosPath.Caption = u" Video Files Path (drag 'n drop)   3 Files Found "_s;
     Window.Get("btn_RunVantorra").setFocus();
     Press(Window.Form(), Qt::Key_Return);
     EXPECT_EQ(Window.Get<QLabel>("lbl_VideoPathFault").text(), u"NO VIDEO FILES FOUND!");
     EXPECT_TRUE(Window.Get("lbl_VideoPathFault").isVisible());
+    EXPECT_FALSE(Window.Get("lbl_VideosPathCount").isVisible());
     EXPECT_TRUE(Window.Get("btn_RunVantorra").isVisible());
 }
 
@@ -118,6 +120,8 @@ TEST_F(Window_Run, HaltInTheMiddleOfAFileStopsMkvmerge)
         if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
             return;
         look->stop();
+        Click_On(Window.Get("btn_Halt"));
+        EXPECT_EQ(Window.Prog().Form.btn_Halt.Caption, u"HALT") << "that one ended a double click on Run";
         Click_On(Window.Get("btn_Halt"));
         caption = Window.Prog().Form.btn_Halt.Caption;
     });
@@ -151,6 +155,9 @@ TEST_F(Window_Run, WhileAChildIsSilentTheWindowRefusesToCloseTakesNoDropAndObeys
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(Window.Files.Path(u"target"_s))});
         dropped = Drop_On(Window.Get("pic_VideosPath"), data);
+        // Neither Alt nor a click on a menu that is off takes Escape away.
+        QTest::keyClick(Window.Form().windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+        Click_On(Window.Get("menubar"));
         since_escape.start();
         Press(Window.Form(), Qt::Key_Escape);
     });

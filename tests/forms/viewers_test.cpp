@@ -136,8 +136,7 @@ TEST_F(Log_Form, TheLongestLineCanBeScrolledToItsEndAtEverySize)
             EXPECT_GE(reach, widest) << step;
             EXPECT_LE(reach, widest + 40) << step;
         }
-        EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 11");
-        EXPECT_EQ(Window.Prog().Settings.ProcessLog_Font_Size, 11);
+        EXPECT_EQ(Window.Prog().Settings.ProcessLog_Font_Size, QFontInfo(Window.Form().font()).pointSize() + 1);
     });
 }
 
@@ -257,10 +256,27 @@ TEST_F(Info_Form, BothViewersCloseByTheSameKeysArePlacedByF12AndGiveTheTopBack)
                 Push(form, "img_FontDec");
             EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 4");
             Push(form, "img_FontReset");
-            EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(), u"Current Font Size 10");
+            EXPECT_EQ(In<QLabel>(form, "lbl_FontSize").text(),
+                      u"Current Font Size %1"_s.arg(QFontInfo(Window.Form().font()).pointSize()));
             form.close();
         });
         Open(one.Name, one.Form, [&](QWidget& form) { EXPECT_EQ(form.geometry(), QRect(40, 50, 760, 430)); });
+        // Maximised, either form counts as it stands there.
+        Window.Form().showMaximized();
+        QCoreApplication::processEvents();
+        Open(one.Name, one.Form, [&](QWidget& form) {
+            form.showMaximized();
+            QCoreApplication::processEvents();
+            Press(form, Qt::Key_F12);
+            EXPECT_FALSE(form.isMaximized());
+            EXPECT_EQ(form.size(), QSize(760, 430));
+            EXPECT_LE((form.geometry().center() - Window.Form().geometry().center()).manhattanLength(), 2);
+            Press(form, Qt::Key_F12, Qt::ShiftModifier);
+            EXPECT_EQ(form.geometry(), Window.Form().geometry());
+            form.close();
+        });
+        Window.Form().showNormal();
+        QCoreApplication::processEvents();
     }
 }
 
@@ -309,7 +325,7 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
 
         EXPECT_TRUE(Drop(form, notes)) << "whatever its extension";
         EXPECT_TRUE(In<QWidget>(form, "shp_VideoInfo").isVisible());
-        EXPECT_EQ(In<QLabel>(form, "lbl_FileName").toolTip(), notes);
+        EXPECT_EQ(In<QLabel>(form, "lbl_FileName").toolTip(), u"<qt>"_s + notes);
         EXPECT_FALSE(In<QListView>(form, "lst_VideoFiles").selectionModel()->hasSelection());
         EXPECT_TRUE(Text(form).contains(u"notes.txt"_s));
         In<QListView>(form, "lst_VideoFiles").setFocus();

@@ -24,6 +24,8 @@ struct AttachmentsDialog : testing::Test, Test_Program
         EXPECT_EQ(Prog.Options.Path_Attachments, path);
         EXPECT_EQ(form.lbl_AttachmentsPath.Caption, path);
         EXPECT_EQ(form.lbl_AttachmentsPathFault.Visible, !set);
+        EXPECT_EQ(form.btn_Clear.Enabled, set);
+        EXPECT_EQ(form.btn_Restore.Enabled, !form.Kept_Path.isEmpty() && !set);
         EXPECT_EQ(form.lbl_UseSubfolders.Enabled, set);
         EXPECT_EQ(Prog.Options.chk_UseSubfolders.Enabled, set);
         EXPECT_EQ(Prog.Options.chk_AddAttachments.Enabled, set);

@@ -1,6 +1,7 @@
 #include "rules/folder_changes.h"
 
 #include "common/test_program.h"
+#include "rules/recent_folders.h"
 #include "settings/recent_lists.h"
 #include "support/drop_data.h"
 #include "support/text.h"
@@ -231,4 +232,36 @@ TEST_F(FolderChanges, ABrowsedCompanionFolderIsTakenUnchecked)
         EXPECT_EQ(Prog.Options.*claim.Path, Path(u"new/"_s));
     }
     EXPECT_TRUE(Prog.Form.lbl_AudipPathEmpty.Visible);
+}
+
+TEST_F(FolderChanges, WhateverChangesAFolderForgetsTheLastRun)
+{
+    QDir().mkpath(Path(u"older"_s));
+    Prog.Settings.Source_MRU = {Path(u"older/"_s)};
+    Person.Folder_Answer = Path(u"new"_s);
+    void (*const changes[])(Program&) = {
+        mnu_PopupVideoBrowse1_Click,
+        mnu_PopupTargetBrowse1_Click,
+        mnu_PopupAudioBrowse1_Click,
+        [](Program& program) { Choose_Recent_Source(program, 0); },
+        [](Program& program) {
+            Drop_On_Target_Panel(program, {.Has_File_List = true, .Paths = {program.Options.Path_Videos}});
+        },
+        [](Program& program) {
+            Drop_On_Subs_Panel(program, {.Has_File_List = true, .Paths = {program.Options.Path_Videos}});
+        },
+    };
+    for (const auto& change : changes) {
+        Main_Form& form = Prog.Form;
+        form.pic_VideosPath.Caption = u" Video Files Path (drag 'n drop)   3 Files Found "_s;
+        form.pic_TargetPath.Caption = u" Target Path (drag 'n drop)   3 Files Done "_s;
+        form.lbl_ProgressFinished.Visible = true;
+        form.Progress = Progress_Look::Finished;
+        form.ulbl_Title1.Caption = u"last.mkv"_s;
+        change(Prog);
+        EXPECT_EQ(form.pic_VideosPath.Caption + form.pic_TargetPath.Caption + form.ulbl_Title1.Caption,
+                  u"Video Files Path (drag 'n drop)Target Path (drag 'n drop)"_s);
+        EXPECT_FALSE(form.lbl_ProgressFinished.Visible);
+        EXPECT_EQ(form.Progress, Progress_Look::Idle) << &change - changes;
+    }
 }

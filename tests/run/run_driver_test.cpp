@@ -206,8 +206,8 @@ TEST(Run_Driver, TheFormChangesInItsOrder)
     };
     EXPECT_EQ(test.Press(), Press_Result::Finished);
     states += test.State();
-    EXPECT_EQ(states, (QStringList{u"quit run info open"_s, u"+HALT"_s, u"+HALT in-progress"_s,
-                                   u"+HALT 10% in-progress"_s, u"+HALT FINISHED"_s, u"quit run info open FINISHED"_s}));
+    EXPECT_EQ(states, (QStringList{u"quit run open"_s, u"+HALT"_s, u"+HALT in-progress"_s, u"+HALT 10% in-progress"_s,
+                                   u"+HALT FINISHED"_s, u"quit run info open FINISHED"_s}));
     EXPECT_EQ(test.Prog.Form.Progress, Progress_Look::Finished);
     EXPECT_TRUE(test.Prog.Form.btn_Halt.Enabled);
 }

@@ -132,12 +132,15 @@ TEST_F(Info_Test, TheTextIsSavedBesideTheFileUnderItsNameUpToTheLastPoint)
 
 TEST_F(Info_Test, AChangedFolderShowsAtTheNextOpening)
 {
+    ViewVFI_txt_VideoInfo_Drop(Prog, Form, {.Has_File_List = true, .Paths = {Film}});
     QFile::remove(Film);
     ViewVFI_Activate(Prog, Form);
     EXPECT_EQ(Form.lst_VideoFiles.size(), 1) << "still open";
     ViewVFI_KeyDown(Prog, Form, 13, false);
     ViewVFI_Activate(Prog, Form);
     EXPECT_EQ(Form.lst_VideoFiles, QStringList());
+    EXPECT_EQ(Form.txt_VideoInfo + Form.lbl_FileName.Caption, u""_s) << "nothing is left of a drop";
+    EXPECT_FALSE(Form.shp_VideoInfo.Visible);
 }
 
 TEST(Video_Info, EachLineHasFiveBlanksBehindItAndOnlyTheLastNoLineEnd)
