@@ -1,13 +1,17 @@
 #include "forms/locations_view.h"
 
 #include "forms/bindings.h"
+#include "forms/input_pause.h"
 #include "forms/looks.h"
 #include "forms/screen_place.h"
+#include "forms/viewer_keys.h"
 #include "state/program.h"
+#include "support/form_placement.h"
 #include "ui_locations_view.h"
 
 #include <QKeyEvent>
 #include <QMenu>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -16,11 +20,12 @@ Locations_View::Locations_View(Program& program, Slot_Guard& guard, QWidget* own
 {
     ui_->setupUi(this);
     On_Click(ui_->btn_Clear, [this] { Locations_btn_Clear(program_, form_); });
-    On_Click(ui_->btn_PathFromRegistry, [this] { Locations_btn_PathFromRegistry(program_, form_); });
+    connect(ui_->btn_PathFromRegistry, &QAbstractButton::clicked, this,
+            [this] { Try([this] { Locations_btn_PathFromRegistry(program_, form_); }); });
     On_Click(ui_->btn_BrowseMKVMerge, [this] { Locations_mnu_PopupMKVMergeBrowse1(program_, form_); });
     On_Click(ui_->cmd_Done, [this] { Locations_cmd_Done(program_, form_); });
     connect(ui_->pic_MKVMerge_Path, &Drop_Panel::Dropped, this,
-            [this](const Drop_Data& dropped) { guard_.Call([&] { Locations_Drop(program_, form_, dropped); }); });
+            [this](const Drop_Data& dropped) { Try([&] { Locations_Drop(program_, form_, dropped); }); });
 
     auto* menu = new QMenu(this);
     menu->setObjectName(u"mnu_PopupMKVMergeBrowse"_s);
@@ -61,7 +66,21 @@ void Locations_View::Open()
     Render();
     Centre_On_Owner();
     form_.Place = {geometry().left(), geometry().top(), width(), height(), 0};
-    form_.Visible = true;
+}
+
+/// The form is seen, and in front of the main form, before the tools are tried: that may take long, and no run may
+/// begin meanwhile.
+void Locations_View::showEvent(QShowEvent* event)
+{
+    Program_Dialog::showEvent(event);
+    if (!event->spontaneous())
+        QTimer::singleShot(0, this, [this] { Try([this] { Locations_Try_Tools(program_, form_); }); });
+}
+
+void Locations_View::Try(const std::function<void()>& rule)
+{
+    const Input_Pause pause;
+    guard_.Call(rule);
 }
 
 void Locations_View::Leave()
@@ -72,10 +91,8 @@ void Locations_View::Leave()
 
 void Locations_View::keyPressEvent(QKeyEvent* event)
 {
-    const int key = event->key() == Qt::Key_F12                                       ? 123
-                    : event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ? 13
-                                                                                      : 0;
-    if (key == 0) {
+    const int key = Viewer_Key(*event);
+    if (key == 0 || key == Key_Escape) {
         Program_Dialog::keyPressEvent(event);
         return;
     }

@@ -23,12 +23,15 @@ class Locations_View : public Program_Dialog
 
   protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     /// However the form closes, it closes as with cmd_Done.
     void Leave() override;
 
   private:
     void Set_Looks();
+    /// Calls a rule that tries the tools: nothing else is taken in until it is done.
+    void Try(const std::function<void()>& rule);
 
     std::unique_ptr<Ui::frm_Locations> ui_;
     frm_Locations form_;

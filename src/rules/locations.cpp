@@ -41,10 +41,10 @@ void Locations_Activate(Program& program, frm_Locations& form)
     form.lbl_ffprobe_PathFault.Visible = !has_ffprobe;
     form.lbl_ffprobe_Path.Visible = has_ffprobe;
     form.lbl_ffprobe_Version.Visible = has_ffprobe;
-    if (has_ffprobe) {
+    if (has_ffprobe)
         form.lbl_ffprobe_Path.Caption = program.Tools.FFProbe_Path;
-        Get_FFProbe_Version(program, form.lbl_ffprobe_Version.Caption);
-    }
+    form.lbl_ffprobe_Version.Caption.clear();
+    form.lbl_MKVMerge_Version.Caption.clear();
 
     if (!File_Exists(program.Tools.System_MKVMerge_Path)) {
         form.btn_Clear.Enabled = false;
@@ -53,6 +53,14 @@ void Locations_Activate(Program& program, frm_Locations& form)
         return;
     }
     Show_Path_In_Use(program, form);
+}
+
+void Locations_Try_Tools(Program& program, frm_Locations& form)
+{
+    if (File_Exists(program.Tools.FFProbe_Path))
+        Get_FFProbe_Version(program, form.lbl_ffprobe_Version.Caption);
+    if (!File_Exists(program.Tools.System_MKVMerge_Path))
+        return;
     Get_System_MKVMerge_Version(program);
     Show_Version(form, program.Tools.System_MKVMerge_Version);
 }
@@ -153,5 +161,5 @@ void Locations_KeyDown(Program& program, frm_Locations& form, int key)
     if (key == Key_Enter || key == Key_Execute)
         Locations_cmd_Done(program, form);
     else if (key == Key_F12)
-        Place_Form(Placement::Centred, form.Place, program.Form.Place);
+        Place_Form(Placement::Centred, form.Place, program.Form.Shown_Place());
 }

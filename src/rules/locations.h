@@ -30,8 +30,10 @@ struct frm_Locations
     Button cmd_Done{.Caption = QStringLiteral("Done")};
 };
 
-/// The form is shown. Only the first call after cmd_Done fills it.
+/// The form is shown. Only the first call after cmd_Done fills it, with all that takes no time.
 void Locations_Activate(Program& program, frm_Locations& form);
+/// The form is seen: asks the tools for their versions.
+void Locations_Try_Tools(Program& program, frm_Locations& form);
 void Locations_btn_Clear(Program& program, frm_Locations& form);
 void Locations_btn_PathFromRegistry(Program& program, frm_Locations& form);
 /// A drop on the box of the mkvmerge path: the first item, or the folder that it lies in, must hold mkvmerge.

@@ -22,8 +22,8 @@ Test_Person::Test_Person()
 void Test_Person::Look()
 {
     QWidget* modal = QApplication::activeModalWidget();
-    if (!modal || modal == met_)
-        return;
+    if (!modal || modal == met_ || QGuiApplication::overrideCursor())
+        return; // a person waits while the pointer is busy
     if (auto* box = qobject_cast<QMessageBox*>(modal)) {
         Boxes.push_back({box->windowTitle(), box->text()});
         box->button(QMessageBox::Ok)->click();

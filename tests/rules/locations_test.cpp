@@ -53,6 +53,8 @@ TEST_F(Locations_Test, TheFirstActivationShowsWhatIsThereAndWhatIsMissing)
     Locations_KeyDown(Prog, Form, 41);
     EXPECT_FALSE(Form.Visible);
     Locations_Activate(Prog, Form);
+    EXPECT_EQ(Form.lbl_ffprobe_Version.Caption, u""_s) << "nothing was run yet";
+    Locations_Try_Tools(Prog, Form);
     EXPECT_FALSE(Form.lbl_ffprobe_PathFault.Visible || Form.lbl_MKVMerge_PathFault.Visible);
     EXPECT_EQ(Form.lbl_ffprobe_Version.Caption, u"probe 1"_s);
     EXPECT_EQ(Form.lbl_MKVMerge_Path.Caption, Prog.Tools.System_MKVMerge_Path);
