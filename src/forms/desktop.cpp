@@ -1,5 +1,6 @@
 #include "forms/desktop.h"
 
+#include "life/instance_lock.h"
 #include "life/start_up.h"
 #include "tools/tool_discovery.h"
 
@@ -13,6 +14,8 @@ bool Desktop::Start(Instance_Lock* lock)
     Guard.Call([&] { loaded = Load_Form(Prog, lock); });
     if (!loaded || Guard.Ended())
         return false;
+    if (lock)
+        lock->When_Called([this] { Guard.Call([this] { Person.Raise_Main_Form(); }); });
     Form.Show_First();
     // Drawn at all its sizes it takes a while; nobody misses it meanwhile.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/vantorra.svg")));

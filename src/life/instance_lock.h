@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <memory>
 
+class QFileSystemWatcher;
 class QLockFile;
 
 /// Lets one window at a time work with a program's folder; two windows with two folders run side by side. A window
@@ -18,6 +20,13 @@ class Instance_Lock
     /// False only if another window holds the folder. A folder in which no lock can be made counts as free.
     bool Take(const QString& app_folder);
 
+    /// Behind a Take that failed: tells the window that holds the folder that it is wanted.
+    void Call_Holder();
+    /// Behind a Take that succeeded: what to do when another start calls this window.
+    void When_Called(std::function<void()> answer);
+
   private:
+    QString file_;
     std::unique_ptr<QLockFile> lock_;
+    std::unique_ptr<QFileSystemWatcher> calls_;
 };

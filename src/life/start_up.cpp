@@ -10,21 +10,24 @@
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/system_identification.h"
+#include "support/text.h"
 #include "tools/tool_discovery.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
 
-/// The main form's size where nothing else proposes one.
-static constexpr int Design_Width = 1024;
-static constexpr int Design_Height = 720;
-
 /// Puts the form into the middle of the screen, its top edge at the given part of the room that is left.
 static void Place_On_Screen(Main_Form& form, int parts_above)
 {
     form.Place.Left = form.Screen.Left + (form.Screen.Width - form.Place.Width) / 2;
     form.Place.Top = form.Screen.Top + (form.Screen.Height - form.Place.Height) / parts_above;
+}
+
+/// False where no window is: the settings file then has a size of 0, and the first window finds its own.
+static bool Has_Size(const Form_Place& place)
+{
+    return place.Width > 0 && place.Height > 0;
 }
 
 static void Centre(Main_Form& form)
@@ -39,20 +42,16 @@ static void Set_Up_Form(Program& program)
     form.Closing = false;
     form.Options_Ready = false;
     Get_Bitness(program.Tools.System_Bits);
-    if (form.Place.Width <= 0 || form.Place.Height <= 0) {
-        form.Place.Width = Design_Width;
-        form.Place.Height = Design_Height;
-    }
-    Place_On_Screen(form, 3);
+    if (Has_Size(form.Place))
+        Place_On_Screen(form, 3);
     program.Settings.Version_Banner = QStringLiteral("Vantorra ver " VANTORRA_VERSION);
     form.Caption = program.Settings.Version_Banner + QString(16, u' ') + u"Runs a batch of files through MKVmerge"_s;
     program.Options.lbl_ChapsFormat.Caption = u"HH:MM:SS.ff"_s;
     program.Options.Audio_Delay.clear();
 }
 
-void Load_Settings(Program& program)
+static void Load_Or_Make_Settings(Program& program)
 {
-    Set_Up_Form(program);
     Settings_State& settings = program.Settings;
     if (!program.Run.Dry_Run)
         QDir().mkpath(settings.App_Folder);
@@ -70,6 +69,13 @@ void Load_Settings(Program& program)
     Read_Settings_From(program, first);
 }
 
+void Load_Settings(Program& program)
+{
+    Set_Up_Form(program);
+    Load_Or_Make_Settings(program);
+    program.Form.Never_Placed = program.Settings.First_Run || !Has_Size(program.Form.Place);
+}
+
 static void Set_Captions(Program& program)
 {
     program.Attachments_Dialog.lbl_AttachmentsNotes.Caption =
@@ -81,12 +87,24 @@ static void Set_Captions(Program& program)
     program.Form.mnu_OSVersion.Caption = u"OS Version - "_s + program.Settings.OS_Version_Text;
 }
 
+static void Tell_Window_Is_Open(Program& program)
+{
+    program.Person.Show_Message(
+        {.Title = u"Vantorra is open already"_s,
+         .Text = u"Another window works with the folder \""_s + program.Settings.App_Folder + u"\"."_s + Line_Break +
+                 u"It comes to the front. A second window needs a folder of its own: set VANTORRA_HOME to it."_s,
+         .Icon = Message_Icon::Information});
+}
+
 bool Load_Form(Program& program, Instance_Lock* lock)
 {
     if (lock != nullptr) {
         QDir().mkpath(program.Settings.App_Folder);
-        if (!lock->Take(program.Settings.App_Folder))
+        if (!lock->Take(program.Settings.App_Folder)) {
+            lock->Call_Holder();
+            Tell_Window_Is_Open(program);
             return false;
+        }
     }
     Load_Settings(program);
     Check_Paths(program, u"All"_s);
@@ -107,8 +125,9 @@ bool Start_Up(Program& program, Instance_Lock* lock)
 
 void First_Activation(Program& program)
 {
-    if (program.Settings.First_Run)
+    if (program.Form.Never_Placed)
         Centre(program.Form);
+    program.Form.Never_Placed = false;
     program.Settings.First_Run = false;
     program.Form.Options_Ready = true;
 }

@@ -9,19 +9,22 @@ struct Program;
 
 /// Steps up to the settings: the form's place and captions, the settings file (written first if there is none), all
 /// options. Settings.App_Folder must be set; it is made at need. Form.Screen and the size in Form.Place should be set
-/// where there is a screen. In a dry run nothing is written: a missing settings file is read as it would have been.
-/// Run_Time_Error for a settings file that can't be read.
+/// where there is a screen; without a size none is stored, and the first window is centred. In a dry run nothing is
+/// written: a missing settings file is read as it would have been. Run_Time_Error for a settings file that can't be
+/// read.
 void Load_Settings(Program& program);
 
 /// Load_Settings and all that follows without a child process: folders, languages, captions. Discover_Tools is to come
 /// next; a window shows itself in between. `lock` holds App_Folder for one window; null where several programs may
-/// share it. False: another window has the folder, nothing was done, and this program should end without a word.
+/// share it. False: another window has the folder; it was called to the front and the operator told, nothing else was
+/// done, and this program should end.
 bool Load_Form(Program& program, Instance_Lock* lock);
 
 /// Load_Form, then Discover_Tools.
 bool Start_Up(Program& program, Instance_Lock* lock);
 
-/// The main form was activated. After a first run it is centred on the screen; from now on the option rules act.
+/// The main form was activated. One that never stood anywhere is centred on the screen; from now on the option rules
+/// act.
 void First_Activation(Program& program);
 
 /// What asked the main form to close.

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QScreen>
+#include <climits>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -39,6 +40,7 @@ TEST(Window_Life, WhileTheToolsAreTriedTheWindowIsSeenAndTakesNoInput)
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         if (!window.Desk || !window.Form().isVisible() || window.Prog().Form.Options_Ready || ++seen > 1)
             return;
+        EXPECT_FALSE(window.Get("btn_ViewVidInfo").isEnabled()) << "nothing that identifies is known yet";
         Click_On(window.Get("chk_StripChaps"));
         Press(window.Form(), Qt::Key_F4, Qt::AltModifier);
         window.Form().close();
@@ -77,15 +79,19 @@ TEST(Window_Life, EachWayOutSavesAndTheCloseBoxIsAltF4)
     }
 }
 
-TEST(Window_Life, ASecondWindowOnTheSameFolderEndsWithoutAWord)
+TEST(Window_Life, ASecondWindowOnTheSameFolderSaysThatOneIsOpenAndBringsItBack)
 {
     Test_Window first;
     ASSERT_TRUE(first.Start());
+    first.Form().showMinimized();
     Desktop second;
     second.Prog.Settings.App_Folder = first.Files.Path(u"app/"_s);
     Instance_Lock lock;
-    EXPECT_FALSE(lock.Take(second.Prog.Settings.App_Folder));
-    EXPECT_TRUE(first.Person.Boxes.empty());
+    EXPECT_FALSE(second.Start(&lock));
+    ASSERT_EQ(first.Person.Boxes.size(), 1U);
+    EXPECT_EQ(first.Person.Boxes[0].Title, u"Vantorra is open already");
+    EXPECT_TRUE(Wait_Until([&] { return !first.Form().isMinimized(); }));
+    EXPECT_FALSE(second.Form.isVisible());
 }
 
 TEST(Window_Life, APlaceThatIsNowhereComesBackOntoTheScreen)
@@ -93,7 +99,11 @@ TEST(Window_Life, APlaceThatIsNowhereComesBackOntoTheScreen)
     struct
     {
         int Left, Top, Width, Height;
-    } const places[] = {{90000, 90000, 800, 600}, {0, 0, 0, 0}, {100, 100, 90000, 90000}};
+    } const places[] = {{90000, 90000, 800, 600},
+                        {0, 0, 0, 0},
+                        {100, 100, 90000, 90000},
+                        {INT_MAX, INT_MIN, INT_MAX, INT_MAX},
+                        {INT_MIN, INT_MAX, INT_MIN, 600}};
 
     for (const auto& place : places) {
         Test_Window window;
@@ -117,6 +127,18 @@ TEST(Window_Life, APlaceThatIsNowhereComesBackOntoTheScreen)
                                           << shown.width() << " " << shown.height();
         EXPECT_GE(window.Form().width(), window.Form().minimumSizeHint().width());
     }
+}
+
+TEST(Window_Life, AfterAStartWithoutAWindowTheFirstOneIsCentredAtItsOwnSize)
+{
+    Test_Window window;
+    Load_Settings(window.Files.Prog);
+    ASSERT_TRUE(QFile::exists(window.Files.Path(u"app/Vantorra.ini"_s)));
+    ASSERT_TRUE(window.Start());
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(window.Form().size(), window.Form().sizeHint());
+    EXPECT_NEAR(window.Form().geometry().center().x(), area.center().x(), 1);
+    EXPECT_NEAR(window.Form().geometry().center().y(), area.center().y(), 1);
 }
 
 TEST(Window_Life, F12CentresTheForm)
