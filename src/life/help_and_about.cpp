@@ -28,8 +28,12 @@ void mnu_Help_Click(Program& program)
     const QString programs = QCoreApplication::applicationDirPath();
     const QString path =
         Find_Help_File(program.Settings.App_Folder, {programs, programs + u"/../share/doc/vantorra"_s});
-    if (File_Exists(path) && program.Person.Open_Document(path))
+    if (File_Exists(path)) {
+        program.Help.File = path;
+        if (!program.Person.Open_Document(path))
+            program.Person.Show_Form(u"frm_Help"_s);
         return;
+    }
     program.Person.Show_Message({.Code = 0,
                                  .Title = u"Can't find the current Help File!"_s,
                                  .Text = u"The help file \""_s + path + u"\" can not be found"_s + Line_Break +

@@ -9,7 +9,8 @@ struct Program;
 
 /// Help and the About box, two small services of the main form.
 
-/// Opens the help file with the desktop's program for it, or says that there is none.
+/// Opens the help file with the desktop's program for it, in a form of our own where the desktop has none, or says that
+/// there is no such file.
 void mnu_Help_Click(Program& program);
 
 /// The help file: of the places where an installation may have it, the first that has; else the one in App_Folder.

@@ -34,6 +34,7 @@ struct Program
     Custom_Title_Form Custom_Title;
     Frame_Rate_Form Frame_Rate_Dialog;
     Video_Format_Form Video_Format_Dialog;
+    Help_Form Help;
     About_Form About_Box;
     Tool_Paths Tools;
     Media_State Media;

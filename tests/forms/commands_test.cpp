@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMimeData>
+#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 
@@ -60,9 +61,9 @@ TEST_F(Commands, TheCaptionsAreTheSystemsWords)
         {"mnu_KeepEnglishTitledSubs", "Keep English Titled Su&btitles"},
         {"mnu_DeleteAncillaryFiles", "Delete Source Video Ancillary Fi&les"},
         {"mnu_KeepTopmost", "Keep this program top&most"},
-        {"mnu_Verbosity0", "0 - Log Process Overview Only"},
-        {"mnu_Verbosity3", "3 - Include Active Checkboxes"},
-        {"mnu_Verbosity7", "7 - Include MKVMerge Command Line"},
+        {"mnu_Verbosity0", "&0 - Log Process Overview Only"},
+        {"mnu_Verbosity3", "&3 - Include Active Checkboxes"},
+        {"mnu_Verbosity7", "&7 - Include MKVMerge Command Line"},
     };
     for (const auto& [name, caption] : actions)
         EXPECT_EQ(Window.Action(name).text(), QLatin1StringView(caption));
@@ -236,6 +237,22 @@ TEST_F(Commands, HelpOpensTheHelpFile)
     QDesktopServices::unsetUrlHandler(u"file"_s);
     EXPECT_EQ(desktop.Opened.toLocalFile(), help);
     EXPECT_TRUE(Window.Person.Boxes.empty());
+
+    // This screen has no program for documents.
+    Window.Files.Write(u"app/Vantorra 2.5.5 Help.html"_s, "<p>One way, and another way.</p>");
+    Press(Window.Form(), Qt::Key_F1);
+    auto* form = Window.Form().findChild<QWidget*>(u"frm_Help"_s);
+    ASSERT_TRUE(form && form->isVisible());
+    const auto& page = In<QTextBrowser>(*form, "txt_Help");
+    In<QLineEdit>(*form, "txt_Find").setText(u"way"_s);
+    QList<int> places;
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(&In<QLineEdit>(*form, "txt_Find"), Qt::Key_Return);
+        places += page.textCursor().position();
+    }
+    EXPECT_LT(places[0], places[1]);
+    EXPECT_EQ(places[2], places[0]);
+    EXPECT_TRUE(form->isVisible()) << "Enter looks on";
 }
 
 TEST_F(Commands, ClearTheLogSetsItAside)

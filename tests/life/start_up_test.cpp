@@ -113,7 +113,7 @@ TEST(StartUp, AFolderThatCantBeWrittenIsToldAndTheProgramStarts)
     EXPECT_TRUE(test.Prog.Settings.Settings_Loaded);
 }
 
-TEST(StartUp, ASecondWindowOnTheFolderDoesNothing)
+TEST(StartUp, ASecondWindowOnTheFolderSaysSoAndDoesNothing)
 {
     Test_Program test;
     Instance_Lock first;
@@ -121,7 +121,8 @@ TEST(StartUp, ASecondWindowOnTheFolderDoesNothing)
     Instance_Lock second;
     EXPECT_FALSE(Start_Up(test.Prog, &second));
     EXPECT_FALSE(QFile::exists(test.Prog.Settings.Ini_File));
-    EXPECT_TRUE(test.Person.Messages.empty());
+    ASSERT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_EQ(test.Person.Messages[0].Title, u"Vantorra is open already"_s);
 }
 
 TEST(StartUp, ATargetThatIsTheSourceIsEmptiedAndTheRunButtonFollows)
@@ -218,7 +219,7 @@ TEST(MainFormKeys, ActByWhetherARunGoesOn)
     }
 }
 
-TEST(Help, OpensTheFileOrSaysThatItCouldNot)
+TEST(Help, OpensTheFileOrShowsItWhereTheDesktopHasNoProgramForIt)
 {
     Test_Program test;
     const QString folder = test.Path(u"app"_s);
@@ -229,21 +230,16 @@ TEST(Help, OpensTheFileOrSaysThatItCouldNot)
     const QString own = test.Write(u"app/"_s + name);
     EXPECT_EQ(Find_Help_File(folder, {test.Path(u"share"_s)}), own);
 
-    // The build lays a help file beside the tests, so it is a document that doesn't open which stands for a missing
-    // one.
     test.Person.Document_Opens = false;
     mnu_Help_Click(test.Prog);
-    ASSERT_EQ(test.Person.Messages.size(), 1U);
-    EXPECT_EQ(test.Person.Messages[0].Title, u"Can't find the current Help File!"_s);
-    EXPECT_EQ(test.Person.Messages[0].Text,
-              u"The help file \""_s + own + u"\" can not be found\r\n in this program's directory."_s);
-    EXPECT_EQ(test.Person.Messages[0].Buttons, Message_Buttons::Ok_Cancel);
+    EXPECT_EQ(test.Person.Forms, QStringList{u"frm_Help"_s});
+    EXPECT_EQ(test.Prog.Help.File, own);
 
     test.Person.Document_Opens = true;
     test.Person.Opened_Documents.clear();
     mnu_Help_Click(test.Prog);
     EXPECT_EQ(test.Person.Opened_Documents, QStringList{own});
-    EXPECT_EQ(test.Person.Messages.size(), 1U);
+    EXPECT_TRUE(test.Person.Messages.empty());
 }
 
 TEST(AboutBox, ClosesByItselfAfterSevenTicks)
