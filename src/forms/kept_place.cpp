@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QLayout>
+#include <QTimer>
 #include <QWidget>
 
 static bool Same(const Form_Place& a, const Form_Place& b)
@@ -31,8 +32,13 @@ void Kept_Place::Open()
 {
     // A form that was maximised tells of its normal place on the way.
     const Form_Place wanted = place_;
+    const QRect normal = Onto_Screen(Rect_Of(wanted, form_.minimumSizeHint()));
+    const bool was_maximised = form_.isVisible() && (form_.isMaximized() || form_.isFullScreen());
     form_.setWindowState(Qt::WindowNoState);
-    form_.setGeometry(Onto_Screen(Rect_Of(wanted, form_.minimumSizeHint())));
+    form_.setGeometry(normal);
+    // A window manager gives such a form its old normal place back in its own time.
+    if (was_maximised && wanted.Window_State == 0)
+        QTimer::singleShot(100, this, [this, normal] { form_.setGeometry(normal); });
     if (wanted.Window_State == 2)
         form_.setWindowState(Qt::WindowMaximized);
     Note();
