@@ -3,6 +3,7 @@
 #include "forms/session_end.h"
 #include "life/app_folder.h"
 #include "life/instance_lock.h"
+#include "support/inherited_signals.h"
 
 #include <QApplication>
 
@@ -10,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv)
 {
+    Take_Back_Inherited_Signals();
     QApplication application(argc, argv);
     // No display name: the desktop would hang it behind every window's title.
     QApplication::setApplicationName(u"vantorra"_s);

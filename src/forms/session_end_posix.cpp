@@ -5,17 +5,22 @@
 #include "run/run_driver.h"
 #include "settings/settings_store.h"
 #include "state/program.h"
+#include "workbenches/last_entry.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QSessionManager>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <csignal>
-#include <cstdlib>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
-// A signal handler and an exit handler are handed no argument: they find here what they need.
+using namespace Qt::StringLiterals;
+
+// A signal handler and the end of a thread are handed no argument: they find here what they need.
 static int signal_pipe[2] = {-1, -1};
 static Program* program_to_save = nullptr;
 
@@ -25,17 +30,52 @@ static void On_Signal(int)
     [[maybe_unused]] const auto written = ::write(signal_pipe[0], &byte, 1);
 }
 
-/// A broken display ends the process from within Qt, without a word to its event loop.
-static void On_Exit()
+/// The entry of a run that loses its display. The child goes with the process.
+static void Note_Lost_Display(Program& program)
+{
+    if (!program.Run.Run_In_Progress)
+        return;
+    program.Run.Halt_Requested = true;
+    program.Logs.Log_Faults.AppendLine(u"*** The display has gone: the program ended in the middle of the run."_s);
+    Write_Last_Entry(program);
+}
+
+/// A broken display ends the process from within Qt, by exit and without a word to the event loop.
+static void Save_What_Can_Be_Saved()
 {
     Program* program = std::exchange(program_to_save, nullptr);
     if (!program || program->Form.Closing)
         return;
+    program->Form.Display_Lost = true;
     try {
+        Note_Lost_Display(*program);
         Write_Settings(*program, false);
     } catch (const std::exception&) {
         return; // nobody is left to be told
     }
+}
+
+/// exit destroys what belongs to the thread first, so that everything else that saving needs is still there. A handler
+/// of atexit would come behind each table that was first used after its registration.
+struct At_End_Of_Thread
+{
+    ~At_End_Of_Thread() { Save_What_Can_Be_Saved(); }
+
+    void Arm() {}
+};
+
+static thread_local At_End_Of_Thread end_of_main_thread;
+
+/// The signals that ask the program to go. A terminal that hangs up is none where the program was started to survive
+/// it.
+static std::vector<int> Signals_To_Go()
+{
+    std::vector<int> numbers = {SIGTERM, SIGINT, SIGQUIT, SIGUSR1};
+    struct sigaction present = {};
+    ::sigaction(SIGHUP, nullptr, &present);
+    if (present.sa_handler != SIG_IGN)
+        numbers.push_back(SIGHUP);
+    return numbers;
 }
 
 Session_End::Session_End(Program& program, Slot_Guard& guard, Startform& form)
@@ -46,7 +86,7 @@ Session_End::Session_End(Program& program, Slot_Guard& guard, Startform& form)
         guard_.Call([this] { Write_Settings(program_, false); });
     });
     program_to_save = &program;
-    std::atexit(On_Exit);
+    end_of_main_thread.Arm();
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_pipe) != 0)
         return;
     asked_ = new QSocketNotifier(signal_pipe[1], QSocketNotifier::Read, this);
@@ -55,26 +95,41 @@ Session_End::Session_End(Program& program, Slot_Guard& guard, Startform& form)
         [[maybe_unused]] const auto count = ::read(signal_pipe[1], &byte, 1);
         Asked_To_Go();
     });
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+    for (const int number : Signals_To_Go())
         std::signal(number, On_Signal);
+    // A display that breaks while it is written to is to be noticed, not died of.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 Session_End::~Session_End()
 {
     program_to_save = nullptr;
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+    for (const int number : Signals_To_Go())
         std::signal(number, SIG_DFL);
     for (int& end : signal_pipe)
         ::close(std::exchange(end, -1));
 }
 
+/// Closes the box that is open, if one is: nobody answers it any more.
+static void Dismiss_Box()
+{
+    if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        box->done(QDialog::Rejected);
+}
+
 void Session_End::Asked_To_Go()
 {
+    program_.Form.Asked_To_Go = true;
+    if (guard_.Ended()) {
+        Dismiss_Box(); // the last one; the program ends behind it
+        return;
+    }
     if (!program_.Run.Run_In_Progress && !program_.Run.Press_In_Work) {
         form_.close();
         return;
     }
     guard_.Call([this] { btn_Halt_MouseUp(program_); });
+    Dismiss_Box();
     // The run ends inside the slot that began it; look again once that may be over.
     QTimer::singleShot(100, this, [this] { Asked_To_Go(); });
 }

@@ -6,6 +6,7 @@
 #include "workbenches/last_entry.h"
 
 #include <QCoreApplication>
+#include <QDebug>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +32,10 @@ void Slot_Guard::End_Program(const QString& message)
     ending_ = true; // no slot does anything while the entry is written
     Write_Last_Entry(program_);
     ended_ = true;
-    Show_Fatal_Error(message);
+    // Whoever sent a signal reads no box.
+    if (program_.Form.Asked_To_Go)
+        qCritical().noquote() << message;
+    else
+        Show_Fatal_Error(message);
     QCoreApplication::exit(Run_Time_Error_Status);
 }

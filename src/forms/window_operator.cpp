@@ -11,6 +11,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QThread>
 #include <QTimer>
 #include <QUrl>
 #include <QWindow>
@@ -105,6 +106,8 @@ static QMessageBox::Icon Icon_Of(Message_Icon icon)
 
 Message_Answer Window_Operator::Show_Message(const Message_Box& box)
 {
+    if (program_->Form.Asked_To_Go || program_->Form.Display_Lost)
+        return box.Buttons == Message_Buttons::Ok ? Message_Answer::Ok : Message_Answer::Cancel;
     return Ask([&] {
         QMessageBox::StandardButtons buttons = QMessageBox::Ok;
         if (box.Buttons == Message_Buttons::Ok_Cancel)
@@ -183,6 +186,8 @@ QStringList Window_Operator::Pick_File(const File_Question& question)
 
 void Window_Operator::Pump_Events()
 {
+    if (program_->Form.Display_Lost)
+        return;
     Stop_If_Ended();
     if (since_render_.hasExpired(Render_Interval_Ms))
         Render();
@@ -192,6 +197,10 @@ void Window_Operator::Pump_Events()
 
 void Window_Operator::Wait_With_Events(int milliseconds)
 {
+    if (program_->Form.Display_Lost) {
+        QThread::msleep(static_cast<unsigned long>(milliseconds));
+        return;
+    }
     Stop_If_Ended();
     Render();
     QEventLoop loop;

@@ -54,6 +54,13 @@ static int Run_The_Batch(Program& program, const Batch_Options& options, Batch_R
     }
 }
 
+/// A signal came, however long ago.
+static bool Was_Halted(Program& program)
+{
+    program.Person.Pump_Events();
+    return program.Run.Halt_Requested;
+}
+
 /// The exit status once all is said: whoever asked for an answer that didn't get through must not take it for whole.
 static int Status_Of_Output(int exit, std::FILE* out, std::FILE* err)
 {
@@ -70,12 +77,15 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
     // Only the log's folder is needed to print it.
     if (options.Command != Batch_Command::Log)
         Set_Up(program, options, report);
+    // What a halted tool left unsaid would pass for the whole.
+    if (options.Command != Batch_Command::Run && Was_Halted(program))
+        return Exit_Halted;
     switch (options.Command) {
     case Batch_Command::Run:
         return Run_The_Batch(program, options, report);
     case Batch_Command::Settings:
         Print_Settings(program, options.Json, out);
-        return Exit_Finished;
+        return Was_Halted(program) ? Exit_Halted : Exit_Finished;
     case Batch_Command::Identify:
         program.Media.Show_Codec_Private = options.Codec_Private ? 1 : 0;
         return Print_Identification(program, options.Files, options.Json, out);

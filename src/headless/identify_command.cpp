@@ -7,6 +7,7 @@
 #include "support/shown_text.h"
 #include "support/text.h"
 #include "tools/tool_discovery.h"
+#include "tools/tool_runner.h"
 #include "workbenches/video_info_viewer.h"
 
 #include <algorithm>
@@ -32,17 +33,19 @@ static void Print_Lines(const QString& file, const QStringList& lines, bool json
 int Print_Identification(Program& program, const QStringList& files, bool json, std::FILE* out)
 {
     if (!Identifying_Tool_Runs(program)) {
+        if (Tools_Are_To_End(program))
+            return Exit_Halted;
         if (Which_Tool_Identifies(program) == Identifying_Tool::None)
             pic_ViewVidInfo_Click(program);
         return Exit_Refused;
     }
     bool all_identified = true;
     for (qsizetype file = 0; file < files.size(); ++file) {
-        if (program.Run.Halt_Requested)
+        const bool answered = Identify_File(program, files[file]);
+        if (Tools_Are_To_End(program))
             return Exit_Halted;
         if (file > 0 && !json)
             Print_Text(out, u"\n"_s);
-        const bool answered = Identify_File(program, files[file]);
         const QStringList& lines = program.Media.Video_Info_Lines;
         if (answered)
             Print_Lines(files[file], lines, json, out);

@@ -1,7 +1,7 @@
 #pragma once
 
-/// From here on SIGINT and SIGTERM no longer end the process; they are remembered. So are SIGHUP, unless the process
-/// was started to survive it, and SIGPIPE: a reader that went away is as good as a halt.
+/// From here on SIGINT, SIGTERM, SIGQUIT and SIGUSR1 no longer end the process; they are remembered. So are SIGHUP,
+/// unless the process was started to survive it, and SIGPIPE: a reader that went away is as good as a halt.
 void Watch_For_Stop_Signals();
 
 /// One of those signals has come.

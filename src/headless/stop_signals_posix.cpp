@@ -25,6 +25,8 @@ void Watch_For_Stop_Signals()
     // A shell starts its background jobs with SIGINT ignored; a batch that is sent one is meant to stop all the same.
     Watch(SIGINT);
     Watch(SIGTERM);
+    Watch(SIGQUIT);
+    Watch(SIGUSR1);
     // Deliberate: nobody reads what comes any more, so the run ends as by Ctrl-C instead of dying on the spot.
     Watch(SIGPIPE);
 

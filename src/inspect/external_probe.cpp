@@ -16,6 +16,8 @@ static bool Probe(Program& program, const QString& path, QString& output)
     const QString tool = u"FFProbe"_s;
     output.clear();
     Run_Tool_Capture(program, program.Tools.FFProbe_Path, FFProbe_Command(u"-show_streams"_s, path), output);
+    if (Tools_Are_To_End(program))
+        return false;
     int code = 0;
     if (program.Run.Pipe_Result == 0)
         code = 11;

@@ -60,6 +60,8 @@ bool Identify_File(Program& program, const QString& path)
     command.Add_Path(u" --identify "_s, path);
     Run_Tool_Capture_Fresh(program, as_json ? program.Tools.System_MKVMerge_Path : program.Tools.Local_MKVMerge_Path,
                            command, output);
+    if (Tools_Are_To_End(program))
+        return false;
     int code = 0;
     if (program.Run.Pipe_Result == 0)
         code = 1;

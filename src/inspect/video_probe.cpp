@@ -48,9 +48,11 @@ static QString Probe_Failure(Program& program, int code, const QString& path)
     return said.isEmpty() ? u"ffprobe says nothing about it"_s : u"ffprobe says: "_s + said;
 }
 
-/// The three checks behind each ffprobe run on a video; true if it went well.
+/// The three checks behind each ffprobe run on a video; true if it went well. A halt is no fault of the file.
 static bool Check_FFProbe_Run(Program& program, const QString& video_path)
 {
+    if (Tools_Are_To_End(program))
+        return false;
     int code = 0;
     if (program.Run.Pipe_Result == 0)
         code = 11;

@@ -169,7 +169,7 @@ void img_Quit_Click(Program& program)
 void Form_Key_Down(Program& program, const Key_Press& key)
 {
     const Key_Modifiers& held = key.Modifiers;
-    if (program.Run.Run_In_Progress) {
+    if (program.Run.Run_In_Progress || program.Run.Press_In_Work) {
         if (key.Code == Key::Escape && held.None())
             Halt_Key(program);
         return;

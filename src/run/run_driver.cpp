@@ -80,30 +80,44 @@ static void Sample_Options(Program& program)
     program.Run.Add_Attachments_On = on(program.Options.chk_AddAttachments);
 }
 
+/// HALT stands in Run's place from the press on: the tools that are tried ahead of the run may hang.
+static void Offer_Halt(Program& program)
+{
+    Main_Form& form = program.Form;
+    program.Run.Halt_Requested = false;
+    form.btn_RunVantorra.Visible = false;
+    form.btn_Halt.Caption = u"HALT"_s;
+    form.btn_Halt.Visible = true;
+    form.btn_Halt.Enabled = true;
+    // A driver whose halt has come already says so again.
+    program.Person.Pump_Events();
+}
+
+static void Withdraw_Halt(Program& program)
+{
+    Main_Form& form = program.Form;
+    form.btn_RunVantorra.Visible = true;
+    form.btn_Halt.Visible = false;
+    form.btn_Halt.Caption = u"HALT"_s;
+    program.Run.Halt_Requested = false;
+    form.btn_Halt.Enabled = true;
+}
+
 static void Show_Running(Program& program)
 {
     Main_Form& form = program.Form;
     form.pic_QuitButton.Visible = false;
-    form.btn_RunVantorra.Visible = false;
     form.pic_ProcessFailed.Visible = false;
     Reset_Progress(program);
     Lock_Main_Form(form);
     form.btn_ViewVidInfo.Enabled = false;
-    form.btn_Halt.Caption = u"HALT"_s;
-    program.Run.Halt_Requested = false;
-    form.btn_Halt.Visible = true;
-    form.btn_Halt.Enabled = true;
 }
 
 static void Show_Idle(Program& program)
 {
     Main_Form& form = program.Form;
     form.pic_QuitButton.Visible = true;
-    form.btn_RunVantorra.Visible = true;
-    form.btn_Halt.Visible = false;
-    form.btn_Halt.Caption = u"HALT"_s;
-    program.Run.Halt_Requested = false;
-    form.btn_Halt.Enabled = true;
+    Withdraw_Halt(program);
     form.btn_ViewVidInfo.Enabled = true;
     // The tool that identifies may have changed with the run: mkvmerge was looked for, or taken from elsewhere.
     if (program.Settings.Extensions.Identify_With_Any_Mkvmerge)
@@ -155,8 +169,12 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     const auto done = qScopeGuard([&program] { program.Run.Press_In_Work = false; });
     Forget_Last_Run(program.Form);
 
-    if (!Find_FFProbe(program) || !Ensure_MKVMerge(program) || !Find_Work(program))
+    Offer_Halt(program);
+    if (!Find_FFProbe(program) || !Ensure_MKVMerge(program) || !Find_Work(program)) {
+        Withdraw_Halt(program);
+        program.Form.Focus = u"btn_RunVantorra"_s;
         return Press_Result::Refused;
+    }
 
     Sample_Options(program);
     Show_Running(program);
@@ -198,7 +216,8 @@ void btn_Halt_MouseUp(Program& program)
 
 void Halt_Key(Program& program)
 {
-    if (!program.Run.Run_In_Progress || program.Run.Halt_Requested)
+    const Run_State& run = program.Run;
+    if (!(run.Run_In_Progress || run.Press_In_Work) || run.Halt_Requested)
         return;
     program.Run.Halt_Requested = true;
     program.Form.btn_Halt.Caption = u"HALTING"_s;

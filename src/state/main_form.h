@@ -81,7 +81,9 @@ struct Main_Form
     Menu_Item mnu_HiThere1{.Caption = QStringLiteral("&Help")};
     Menu_Item mnu_VerbosityStatus{.Caption = QStringLiteral("Log Verbosity 0 - Log Process Overview Only")};
     Menu_Item mnu_OSVersion;
-    Panel fram_WholeForm; ///< disabled while a run goes on
+    bool Asked_To_Go = false;  ///< by a signal: nobody answers a box any more
+    bool Display_Lost = false; ///< nothing can be shown any more, and no event comes
+    Panel fram_WholeForm;      ///< disabled while a run goes on
 
     /// What the form takes of the screen now.
     const Form_Place& Shown_Place() const { return Whole_Screen.Width > 0 ? Whole_Screen : Place; }

@@ -9,6 +9,7 @@
 /// One child with both output streams in one pipe (or each in its own), no console and no standard input, in a process
 /// group of its own. Hands out what one read delivered and never assembles lines. Used by the tool runners only.
 ///
+/// The system kills a child whose starter ends, by whatever signal: the process, and the thread too.
 /// The destructor kills and reaps a child that still runs: a run-time error that unwinds through a run leaves none.
 class Child_Process
 {

@@ -7,10 +7,11 @@
 #include <cerrno>
 #include <clocale>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -64,33 +65,91 @@ static std::vector<char*> Pointers_To(std::vector<QByteArray>& texts)
     return pointers;
 }
 
-/// Starts the program with its output streams at these pipes; 0 or the system's error number. posix_spawn tells a
-/// program that can't be executed apart from a child that ends early, and doesn't copy our memory.
+/// What a child needs until it is the program that it is to become. It shares our memory till then.
+struct Child_Plan
+{
+    const char* Executable;
+    char* const* Arguments;
+    char* const* Environment;
+    int Output;
+    int Messages;
+    pid_t Parent;
+    volatile int Error; ///< the child's own word when it can't become the program
+};
+
+/// Gives the child the standard signals, but for those that we were told to ignore. Those that we look at ourselves,
+/// SIGPIPE and SIGCHLD never stay ignored.
+static void Give_Standard_Signals()
+{
+    struct sigaction standard = {};
+    standard.sa_handler = SIG_DFL;
+    for (int number = 1; number < NSIG; ++number) {
+        struct sigaction present = {};
+        const bool ours =
+            number == SIGPIPE || number == SIGINT || number == SIGQUIT || number == SIGTERM || number == SIGCHLD;
+        if (::sigaction(number, nullptr, &present) == 0 && (ours || present.sa_handler != SIG_IGN))
+            ::sigaction(number, &standard, nullptr);
+    }
+}
+
+/// `descriptor` as one that is none of the three standard ones, so that setting these doesn't close it.
+static int Above_Standard(int descriptor)
+{
+    return ::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+}
+
+/// The child's way to its program. Only calls that are safe between vfork and exec.
+[[noreturn]] static void Become(Child_Plan& plan)
+{
+    Give_Standard_Signals();
+    ::setpgid(0, 0);
+    // Killed with us, however we end. Where we have ended already, nobody would tell it any more.
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != plan.Parent)
+        ::_exit(EXIT_FAILURE);
+
+    const int output = Above_Standard(plan.Output);
+    const int messages = Above_Standard(plan.Messages);
+    const int nothing = Above_Standard(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    if (::dup2(nothing, STDIN_FILENO) >= 0 && ::dup2(output, STDOUT_FILENO) >= 0 &&
+        ::dup2(messages, STDERR_FILENO) >= 0) {
+        sigset_t none;
+        sigemptyset(&none);
+        ::sigprocmask(SIG_SETMASK, &none, nullptr);
+        ::execve(plan.Executable, plan.Arguments, plan.Environment);
+    }
+    plan.Error = errno;
+    ::_exit(EXIT_FAILURE);
+}
+
+/// Starts the program with its output streams at these pipes; 0 or the system's error number. vfork tells a program
+/// that can't be executed apart from a child that ends early, and doesn't copy our memory. posix_spawn would do as much
+/// but can't tie the child's life to ours.
 static int Spawn(pid_t& process, const QByteArray& executable, std::vector<QByteArray>& arguments, int output,
                  int messages)
 {
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, messages, STDERR_FILENO);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    posix_spawnattr_setpgroup(&attributes, 0);
-    sigset_t signal_set;
-    sigemptyset(&signal_set);
-    posix_spawnattr_setsigmask(&attributes, &signal_set);
-    for (const int signal : {SIGPIPE, SIGINT, SIGQUIT, SIGTERM, SIGCHLD})
-        sigaddset(&signal_set, signal);
-    posix_spawnattr_setsigdefault(&attributes, &signal_set);
-
     std::vector<QByteArray> environment = Child_Environment();
-    const int error = ::posix_spawn(&process, executable.constData(), &actions, &attributes,
-                                    Pointers_To(arguments).data(), Pointers_To(environment).data());
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&actions);
+    const std::vector<char*> argument_pointers = Pointers_To(arguments);
+    const std::vector<char*> environment_pointers = Pointers_To(environment);
+    Child_Plan plan{.Executable = executable.constData(),
+                    .Arguments = argument_pointers.data(),
+                    .Environment = environment_pointers.data(),
+                    .Output = output,
+                    .Messages = messages,
+                    .Parent = ::getpid(),
+                    .Error = 0};
+    // No handler of ours may run in the child.
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    ::sigprocmask(SIG_SETMASK, &all, &before);
+    process = ::vfork(); // NOLINT(clang-analyzer-security.insecureAPI.vfork): see above
+    if (process == 0)
+        Become(plan);
+    const int error = process < 0 ? errno : plan.Error;
+    ::sigprocmask(SIG_SETMASK, &before, nullptr);
+    if (process > 0 && error != 0)
+        ::waitpid(process, nullptr, 0);
     return error;
 }
 

@@ -152,6 +152,8 @@ int Bitness_Of_Version(const QString& version)
 static bool Read_Version(Program& program, const QString& path, QString& version)
 {
     Run_With(program, path, u" -V"_s, version);
+    if (Tools_Are_To_End(program))
+        return false;
     int code = 0;
     if (program.Run.Pipe_Result == 0)
         code = 1;

@@ -11,6 +11,7 @@
 #include "tools/kill_mkvmerge.h"
 #include "tools/message_lines.h"
 
+#include <QElapsedTimer>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -22,8 +23,8 @@ static constexpr std::size_t Capture_Bytes = 10240;
 static constexpr std::size_t Fresh_Bytes = 30720;
 static constexpr std::size_t Mkvmerge_Bytes = 10240;
 static constexpr int Wait_After_Kill = 1200;
-/// Reads in a row, of 50 ms each, that bring nothing after a halt.
-static constexpr int Silence_After_Halt = 40;
+/// Milliseconds that a capture has from a halt on to end by itself.
+static constexpr int Grace_After_Halt = 1000;
 /// Chunks up to this length are no messages worth keeping.
 static constexpr qsizetype Longest_Dropped_Chunk = 16;
 /// mkvmerge prints "Progress: " ahead of the number.
@@ -37,6 +38,14 @@ enum class On_Halt
     Let_It_End,
     Kill_It
 };
+
+/// A tool that isn't started because of a halt has not failed.
+static void Note_Nothing_Started(Run_State& run)
+{
+    run.Exit_Status.reset();
+    run.Pipe_Result = 1;
+    run.Process_Result = -1;
+}
 
 /// Starts the child and notes how that went where the callers look for it.
 static bool Start_Child(Run_State& run, Child_Process& child, const QString& executable, const Command_Line& command)
@@ -61,43 +70,64 @@ static void Kill_Mkvmerge(Program& program, Child_Process& child, const QString&
 /// What becomes of a chunk, just as a read delivered it; the text is the run's own.
 using Take_Chunk = std::function<void(QByteArrayView bytes, Console_Text& text)>;
 
-/// One run of a tool, whose output goes to `take`.
-static void Run_Tool(Program& program, const QString& executable, const Command_Line& command, std::size_t most,
-                     On_Halt on_halt, const Take_Chunk& take)
+bool Tools_Are_To_End(const Program& program)
 {
-    // An error that unwinds through here kills and reaps the child.
-    Child_Process child;
-    if (!Start_Child(program.Run, child, executable, command))
-        return;
+    return program.Run.Halt_Requested || program.Form.Closing;
+}
 
+/// A capture that a halt meets may end by itself, but one that hangs, or never stops printing, is not waited for.
+class Grace
+{
+  public:
+    /// True once the time since the halt is over.
+    bool Is_Over(const Program& program)
+    {
+        if (Tools_Are_To_End(program) && !since_halt_.isValid())
+            since_halt_.start();
+        return since_halt_.isValid() && since_halt_.hasExpired(Grace_After_Halt);
+    }
+
+  private:
+    QElapsedTimer since_halt_;
+};
+
+/// Hands the child's chunks to `take` until its pipe is closed. False if it has to be ended instead.
+static bool Read_All(Program& program, Child_Process& child, std::size_t most, On_Halt on_halt, const Take_Chunk& take)
+{
     Console_Text text;
     QByteArray bytes;
-    int silent_reads = 0;
+    Grace grace;
     for (;;) {
         program.Person.Pump_Events();
         const Child_Process::Read read = child.Read_Chunk(bytes, most);
         if (read == Child_Process::Read::Ended)
-            break;
+            return true;
         if (read == Child_Process::Read::Data)
             take(bytes, text);
-        // A halt lets a capture end by itself, but a tool that hangs would hold the halt up for ever.
-        silent_reads = read == Child_Process::Read::Nothing_Yet && program.Run.Halt_Requested ? silent_reads + 1 : 0;
-        if (silent_reads > Silence_After_Halt) {
-            child.Kill();
-            break;
-        }
-        if (on_halt == On_Halt::Kill_It && program.Run.Halt_Requested) {
-            Kill_Mkvmerge(program, child, executable);
-            program.Run.Exit_Status = child.Exit_Status();
-            return;
-        }
+        if (on_halt == On_Halt::Kill_It ? program.Run.Halt_Requested : grace.Is_Over(program))
+            return false;
     }
+}
 
+/// One run of a tool, whose output goes to `take`.
+static void Run_Tool(Program& program, const QString& executable, const Command_Line& command, std::size_t most,
+                     On_Halt on_halt, const Take_Chunk& take)
+{
+    if (on_halt == On_Halt::Let_It_End && Tools_Are_To_End(program)) {
+        Note_Nothing_Started(program.Run);
+        return;
+    }
+    // An error that unwinds through here kills and reaps the child.
+    Child_Process child;
+    if (!Start_Child(program.Run, child, executable, command))
+        return;
+    bool ended = Read_All(program, child, most, on_halt, take);
     // A child that has closed its output and runs on is waited for until a halt.
-    const bool ended = child.Wait([&program] {
-        program.Person.Pump_Events();
-        return !program.Run.Halt_Requested;
-    });
+    if (ended)
+        ended = child.Wait([&program] {
+            program.Person.Pump_Events();
+            return !Tools_Are_To_End(program);
+        });
     if (!ended && on_halt == On_Halt::Kill_It)
         Kill_Mkvmerge(program, child, executable);
     else if (!ended)

@@ -9,7 +9,7 @@ struct Program;
 class Command_Line;
 
 /// Runs an outside tool and appends what it prints to `output`, 10,240 bytes a read. Sets Pipe_Result and
-/// Process_Result. A halt is not looked at until the tool has ended.
+/// Process_Result. After a halt the tool may still end by itself, for a second at most: see Tools_Are_To_End.
 void Run_Tool_Capture(Program& program, const QString& executable, const Command_Line& command, QString& output);
 
 /// The same with 30,720 bytes a read and with `output` emptied before the first.
@@ -22,3 +22,7 @@ void Run_Mkvmerge(Program& program, const QString& executable, const Command_Lin
 /// Shows the progress of the whole batch for `percent` of the current file. 16-bit arithmetic: error 6 above 327
 /// videos.
 void Show_Progress(Program& program, int percent, int total);
+
+/// True once the person has asked to stop, by a halt or by leaving the program: what a tool has printed may then be
+/// half a text, and says nothing against the file.
+bool Tools_Are_To_End(const Program& program);

@@ -374,6 +374,58 @@ TEST(Vantorra_Batch, ASignalBeforeTheFirstFileCountsToo)
     EXPECT_EQ(result.Events(u"finished"_s).constLast()[u"status"_s].toString(), u"interrupted"_s);
 }
 
+/// A mkvmerge that comes first in the batch's PATH; it knows its version unless it does `ahead`.
+static void Put_Mkvmerge_Ahead(Batch_Process& batch, const QByteArray& ahead)
+{
+    Write_Stand_In(batch, u"tools/mkvmerge"_s,
+                   ahead + "\n[ \"$1\" = -V ] && echo \"mkvmerge v74.0.0 ('A name') 64-bit\" || exec sleep 1000\n");
+    batch.Set_Environment(u"PATH"_s, batch.Path(u"tools:"_s) + qEnvironmentVariable("PATH"));
+}
+
+TEST(Vantorra_Batch, EverySignalEndsTheChildWhateverTheParentDidToSignals)
+{
+    for (const int signal_number : {SIGTERM, SIGQUIT, SIGUSR1, SIGHUP, SIGKILL}) {
+        Batch_Process batch;
+        Place(batch, Short_Video(), u"videos/a.mkv"_s);
+        Put_Mkvmerge_Ahead(batch, "");
+        batch.Process.start(u"env"_s,
+                            {u"--block-signal"_s, u"--ignore-signal=CHLD"_s, QStringLiteral(VANTORRA_BATCH_PROGRAM),
+                             u"--json"_s, u"--app-folder"_s, batch.Path(u"app"_s), u"--videos"_s,
+                             batch.Path(u"videos"_s), u"--target"_s, batch.Path(u"target"_s)});
+        ASSERT_TRUE(batch.Read_Until("\"event\":\"command\""));
+        QElapsedTimer clock;
+        clock.start();
+        QList<long> children;
+        while (children.isEmpty() && clock.elapsed() < 20'000)
+            children = Children_Of(batch.Process.processId());
+        ASSERT_EQ(children.size(), 1);
+        ASSERT_EQ(::kill(static_cast<pid_t>(batch.Process.processId()), signal_number), 0);
+        EXPECT_EQ(batch.Finish().Exit, signal_number == SIGKILL ? -SIGKILL : 130) << signal_number;
+        for (clock.start(); Is_Running(children[0]) && clock.elapsed() < 5000;)
+            ::usleep(10'000);
+        EXPECT_FALSE(Is_Running(children[0])) << signal_number;
+    }
+}
+
+TEST(Vantorra_Batch, IdentifyAndSettingsPrintNoHalfTextWhenTheyAreHalted)
+{
+    const std::pair<QStringList, QByteArray> claims[] = {
+        {{u"settings"_s}, "kill -TERM $PPID; exec sleep 1000"},
+        {{u"identify"_s, u"/some/file"_s}, "kill -TERM $PPID; exec sleep 1000"},
+        {{u"identify"_s, u"/some/file"_s},
+         "[ \"$1\" = -V ] || { echo '{ \"half\":'; kill -TERM $PPID; exec sleep 1000; }"},
+    };
+    for (const auto& [command, ahead] : claims) {
+        Batch_Process batch;
+        Put_Mkvmerge_Ahead(batch, ahead);
+        batch.Start_With(command + QStringList{u"--app-folder"_s, batch.Path(u"app"_s)});
+        const Batch_Result result = batch.Finish();
+        EXPECT_EQ(result.Exit, 130) << command[0].toStdString();
+        EXPECT_EQ(result.Out, QString()) << command[0].toStdString();
+        EXPECT_EQ(result.Err, QString()) << command[0].toStdString();
+    }
+}
+
 TEST(Vantorra_Batch, AReaderThatGoesAwayHaltsTheRun)
 {
     Batch_Process batch;

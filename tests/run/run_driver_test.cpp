@@ -206,7 +206,7 @@ TEST(Run_Driver, TheFormChangesInItsOrder)
     };
     EXPECT_EQ(test.Press(), Press_Result::Finished);
     states += test.State();
-    EXPECT_EQ(states, (QStringList{u"quit run open"_s, u"+HALT"_s, u"+HALT in-progress"_s, u"+HALT 10% in-progress"_s,
+    EXPECT_EQ(states, (QStringList{u"quit +HALT open"_s, u"+HALT"_s, u"+HALT in-progress"_s, u"+HALT 10% in-progress"_s,
                                    u"+HALT FINISHED"_s, u"quit run info open FINISHED"_s}));
     EXPECT_EQ(test.Prog.Form.Progress, Progress_Look::Finished);
     EXPECT_TRUE(test.Prog.Form.btn_Halt.Enabled);
@@ -229,6 +229,27 @@ TEST(Run_Driver, AHaltByTheButtonEndsTheRunAndIsWrittenDown)
     EXPECT_EQ(test.Prog.Form.btn_Halt.Caption, u"HALT"_s);
     EXPECT_TRUE(test.Log().contains(u"        *** Process halted before finishing!\r\n"_s));
     EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST(Run_Driver, AHaltWorksFromThePressOnWhateverHangs)
+{
+    for (const QByteArray& hangs : {QByteArray("-version"), QByteArray("show_format"), QByteArray("show_streams")}) {
+        Driver_Test test;
+        const QByteArray probe = test.Read(u"app/ffprobe"_s);
+        Write_Stand_In(test, u"app/ffprobe"_s,
+                       "case \"$*\" in *" + hangs + "*) : > \"$0.now\"; sleep 1000 & wait;; esac\n" + probe);
+        test.Person.On_Pump = [&] {
+            // Escape, as the form passes it on; the button does the same.
+            if (test.Prog.Form.btn_Halt.Visible && QFile::exists(test.Path(u"app/ffprobe.now"_s)))
+                Halt_Key(test.Prog);
+        };
+        EXPECT_EQ(test.Press(), Press_Result::Interrupted) << hangs.toStdString();
+        EXPECT_TRUE(test.Person.Messages.empty()) << "no file is to blame";
+        EXPECT_FALSE(QFile::exists(test.Path(u"arguments"_s))) << "mkvmerge was never started";
+        EXPECT_TRUE(test.Log().contains(u"*** Process halted before finishing!"_s));
+        EXPECT_EQ(test.State(), u"quit run info open"_s);
+        EXPECT_EQ(Children_Left(), 0);
+    }
 }
 
 TEST(Run_Driver, AHaltOfAnEarlierMomentDoesNotReachTheRun)

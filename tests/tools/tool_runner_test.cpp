@@ -186,14 +186,21 @@ TEST(ToolRunner, AHaltEndsTheChildWhateverItDoes)
     }
 }
 
-TEST(ToolRunner, AToolThatClosesItsOutputAndRunsOnIsLeftAtAHalt)
+TEST(ToolRunner, ACaptureThatDoesNotEndIsLeftAtAHaltOrAtTheEndOfTheProgram)
 {
-    Test_Program test;
-    test.Person.On_Pump = [&test] { test.Prog.Run.Halt_Requested = test.Person.Pumps > 5; };
-    QString output;
-    Run_Tool_Capture(test.Prog, Write_Stand_In(test, u"tool"_s, "echo text; exec sleep 1000 >&- 2>&-"), {}, output);
-    EXPECT_EQ(output, u"text\r\n"_s);
-    EXPECT_EQ(Children_Left(), 0);
+    for (const QByteArray& body : {QByteArray("echo text; exec sleep 1000 >&- 2>&-"), // has closed its output
+                                   QByteArray("echo text; exec sleep 1000"),
+                                   QByteArray("echo text; sleep 1000 &"), // a grandchild holds the pipe open
+                                   QByteArray("echo text; exec yes")})
+        for (const bool closing : {false, true}) {
+            Test_Program test;
+            bool& flag = closing ? test.Prog.Form.Closing : test.Prog.Run.Halt_Requested;
+            test.Person.On_Pump = [&] { flag = test.Person.Pumps > 5; };
+            QString output;
+            Run_Tool_Capture(test.Prog, Write_Stand_In(test, u"tool"_s, body), {}, output);
+            EXPECT_TRUE(output.startsWith(u"text\r\n"_s)) << body.toStdString();
+            EXPECT_EQ(Children_Left(), 0);
+        }
 }
 
 TEST(ToolRunner, AVideoIsProbedTwiceAndTheTextsStandBehindEachOther)
