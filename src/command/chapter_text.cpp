@@ -51,6 +51,13 @@ static void Add_Chapter(Chapter_Lists& chapters, const QString& time, const QStr
         u"Each chapter takes two lines, CHAPTER01=00:00:00.000 and CHAPTER01NAME=Intro; mend the file."_s);
 }
 
+/// The number as it is. Of more digits than 64 bits hold for sure the last ones, which tell chapters apart.
+static QString Chapter_Uid(const QString& digits)
+{
+    constexpr qsizetype most_digits = 19;
+    return QString::number(digits.right(most_digits).toULongLong());
+}
+
 Chapter_Lists Read_Ogg_Chapters(const QStringList& lines, const QString& path)
 {
     const QStringList pairs = Without_Empty_End(lines);
@@ -65,9 +72,7 @@ Chapter_Lists Read_Ogg_Chapters(const QStringList& lines, const QString& path)
         const QString digits = Digits_Of(Piece_Of(time_line, u'=', 0));
         if (digits.isEmpty())
             Raise_Type_Mismatch(u"Reading the number of a chapter"_s, path, time_line);
-        const QString uid =
-            QString::number(Round_To_Int32(digits.toDouble(), u"Reading the chapter numbers of "_s + path));
-        Add_Chapter(chapters, Piece_Of(time_line, u'=', 1), uid, Piece_Of(name_line, u'=', 1));
+        Add_Chapter(chapters, Piece_Of(time_line, u'=', 1), Chapter_Uid(digits), Piece_Of(name_line, u'=', 1));
     }
     return chapters;
 }

@@ -7,6 +7,7 @@
 #include "support/paths.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
+#include "support/whole_file.h"
 
 #include <chrono>
 #include <random>
@@ -51,9 +52,13 @@ static float Random_Number()
     return static_cast<float>(generator() % steps) / static_cast<float>(steps);
 }
 
-/// Moves the old XML out of the way and writes the new one.
+/// Writes the new XML, and moves the old one out of the way once the new one is on the disk.
 static void Replace_Xml(Program& program, const QString& path, const Chapter_Lists& chapters)
 {
+    const QString xml = Chapter_Xml(chapters, Edition_Number(Random_Number()), program.Media.Video_Duration);
+    Whole_File file(path);
+    file.Append(xml.toUtf8());
+    file.Flush_To_Disk();
     if (File_Exists(path)) {
         if (!Delete_To_Recycle(path, program.Logs.Log_Faults))
             throw Run_Time_Error(Error_Number::Path_File_Access_Error, u"Replacing a chapter file"_s, path, {},
@@ -61,8 +66,7 @@ static void Replace_Xml(Program& program, const QString& path, const Chapter_Lis
         for (int i = 0; i < 5; ++i)
             program.Person.Pump_Events();
     }
-    const QString xml = Chapter_Xml(chapters, Edition_Number(Random_Number()), program.Media.Video_Duration);
-    Write_Whole_File(path, xml.toUtf8());
+    file.Take_Its_Name();
 }
 
 int Convert_Chapters(Program& program, const QString& stem, bool convert, QString& out_path)

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,8 @@ void Slot_Guard::Call(const std::function<void()>& rule)
         return;
     } catch (const Run_Time_Error& error) {
         End_Program(error.Message());
+    } catch (const std::bad_alloc&) {
+        End_Program(Out_Of_Memory_Error().Message());
     } catch (const std::exception& error) {
         End_Program(u"Run-time error: "_s + QString::fromLocal8Bit(error.what()));
     }

@@ -34,7 +34,7 @@ Video_Info_View::Video_Info_View(Program& program, Slot_Guard& guard, QWidget* o
     });
     connect(ui_->btn_ShowCodecData, &QAbstractButton::clicked, this,
             [this] { Identify([this] { ViewVFI_btn_ShowCodecData(program_, form_); }); });
-    On_Click(ui_->btn_SaveToFile, [this] { ViewVFI_btn_SaveToFile(form_); });
+    On_Click(ui_->btn_SaveToFile, [this] { ViewVFI_btn_SaveToFile(program_, form_); });
     connect(ui_->btn_Done, &QAbstractButton::clicked, this, &Video_Info_View::reject);
     On_Click(ui_->img_FontInc, [this] { ViewVFI_img_FontInc(program_, form_); });
     On_Click(ui_->img_FontDec, [this] { ViewVFI_img_FontDec(program_, form_); });

@@ -19,6 +19,8 @@
 #include "support/shown_text.h"
 #include "workbenches/last_entry.h"
 
+#include <new>
+
 using namespace Qt::StringLiterals;
 
 /// The program as the window would have it once it is ready, and then what the command line changes.
@@ -118,6 +120,12 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
     program.Run.Kill_By_Name = false;
     program.Run.Dry_Run = line.Options->Dry_Run;
 
+    const auto end_in_error = [&](const Run_Time_Error& error) {
+        report->Show_Error(error);
+        Write_Last_Entry(program);
+        report->Ended(Batch_End::Error, Exit_Run_Time_Error);
+        return Exit_Run_Time_Error;
+    };
     // The one place where run-time errors end.
     try {
         const int exit = Run_Command(program, *line.Options, *report, out, err);
@@ -127,9 +135,8 @@ int Run_Batch_Program(const QStringList& arguments, std::FILE* out, std::FILE* e
         Print_Text(err, u"vantorra-batch: "_s + Printable(mistake.Text) + u'\n');
         return Exit_Bad_Usage;
     } catch (const Run_Time_Error& error) {
-        report->Show_Error(error);
-        Write_Last_Entry(program);
-        report->Ended(Batch_End::Error, Exit_Run_Time_Error);
-        return Exit_Run_Time_Error;
+        return end_in_error(error);
+    } catch (const std::bad_alloc&) {
+        return end_in_error(Out_Of_Memory_Error());
     }
 }

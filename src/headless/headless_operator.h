@@ -33,6 +33,8 @@ class Headless_Operator : public Operator
 
     bool Open_Document(const QString&) override { return false; }
 
+    bool Is_Asked_To_Stop() override { return stop_requested_(); }
+
   private:
     Batch_Report& report_;
     std::function<bool()> stop_requested_;

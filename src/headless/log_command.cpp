@@ -3,6 +3,7 @@
 #include "headless/print.h"
 #include "logs/log_rotation.h"
 #include "support/paths.h"
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 #include "support/shown_text.h"
 #include "support/text.h"
@@ -28,10 +29,9 @@ static void Print_Lines(std::FILE* out, const QString& text)
 static void Print_All(const QString& log, std::FILE* out)
 {
     constexpr qint64 piece = 1 << 20;
-    QFile file(log);
+    QFile file;
+    Open_Plain_File(file, log, u"Opening the process log to print it"_s);
     errno = 0;
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        Raise_File_Error(u"Opening the process log to print it"_s, log, errno);
     QStringDecoder decoder(QStringDecoder::Utf8);
     QByteArray bytes;
     QString held_back;

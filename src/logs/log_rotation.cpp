@@ -3,11 +3,13 @@
 #include "support/files.h"
 #include "support/operator.h"
 #include "support/paths.h"
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
+#include <QUuid>
 #include <filesystem>
 
 using namespace Qt::StringLiterals;
@@ -23,9 +25,32 @@ QString Process_Log_Work_Path(const QString& app_folder)
     return app_folder + u"Vantorra_ProcessNEW.log"_s;
 }
 
+QString Process_Log_Whole_Path(const QString& app_folder)
+{
+    return app_folder + u"Vantorra_ProcessALL.log"_s;
+}
+
 QString Process_Log_Generation(const QString& app_folder, char16_t letter)
 {
     return app_folder + u"Vantorra_Process"_s + QChar(letter) + u".log"_s;
+}
+
+static const QString Waiting_Entry_Prefix = QStringLiteral("Vantorra_ProcessNEW-");
+
+QString New_Waiting_Entry_Path(const QString& app_folder)
+{
+    const QString now = QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-hhmmss-zzz-"_s);
+    return app_folder + Waiting_Entry_Prefix + now + QUuid::createUuid().toString(QUuid::Id128).left(8) + u".log"_s;
+}
+
+QStringList Waiting_Entries(const QString& app_folder)
+{
+    QStringList names;
+    for (const QString& name : List_Files(app_folder))
+        if (name.startsWith(Waiting_Entry_Prefix) && name.endsWith(u".log"_s) && Is_Plain_File(app_folder + name))
+            names += name;
+    names.sort();
+    return names;
 }
 
 static fs::path Native(const QString& path)
@@ -88,13 +113,4 @@ Rotation Rotate_Logs(const QString& app_folder, Log_Name name, Operator& person,
     if (name == Log_Name::Freed || !Link(log, newest))
         Rename_Log(log, newest);
     return Rotation::Rotated;
-}
-
-void Trash_Replaced_Log(const QString& app_folder, clsStringBuilder& faults)
-{
-    const QString log = Process_Log_Path(app_folder);
-    const QTemporaryDir beside(app_folder + u".Vantorra_Process-XXXXXX"_s);
-    const QString second_name = beside.filePath(File_Name_Of(log));
-    const bool linked = beside.isValid() && Link(log, second_name);
-    Delete_To_Recycle(linked ? second_name : log, faults);
 }

@@ -1,5 +1,6 @@
 #include "logs/log_work_file.h"
 
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
 
@@ -8,17 +9,23 @@
 
 using namespace Qt::StringLiterals;
 
+static constexpr qint64 Piece_Size = 1 << 20;
+
 /// A short write leaves no number behind: then the disk was full.
 [[noreturn]] static void Raise_Write_Error(const QString& path)
 {
     Raise_File_Error(u"Writing the process log"_s, path, errno != 0 ? errno : ENOSPC);
 }
 
-Log_Work_File::Log_Work_File(const QString& path) : file_(path)
+Log_Work_File::Log_Work_File(const QString& path, Leftover leftover) : file_(path)
 {
+    const QString doing = u"Opening the work file of the process log"_s;
+    Require_Plain_Or_Nothing(path, doing);
     errno = 0;
     if (!file_.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
-        Raise_File_Error(u"Opening the work file of the process log"_s, path, errno);
+        Raise_File_Error(doing, path, errno);
+    if (leftover == Leftover::Dropped && !file_.resize(0))
+        Raise_Write_Error(path);
     const qint64 size = file_.size();
     if (size == 0)
         return;
@@ -33,43 +40,47 @@ void Log_Work_File::Append(const QByteArray& bytes)
         Raise_Write_Error(file_.fileName());
 }
 
-static void Copy_Log(const QString& path, Log_Work_File& work)
-{
-    constexpr qint64 piece = 1 << 20;
-    QFile old(path);
-    errno = 0;
-    if (!old.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        Raise_File_Error(u"Opening the process log to keep its text"_s, path, errno);
-    char last = '\n';
-    QByteArray bytes(piece, Qt::Uninitialized);
-    for (;;) {
-        errno = 0;
-        const qint64 count = old.read(bytes.data(), piece);
-        if (count < 0 || errno == EISDIR)
-            Raise_File_Error(u"Reading the process log to keep its text"_s, path, errno);
-        if (count == 0)
-            break;
-        work.Append(QByteArray::fromRawData(bytes.constData(), count));
-        last = bytes.at(count - 1);
-    }
-    if (last != '\n')
-        work.Append(Line_Break.toUtf8());
-}
-
-void Log_Work_File::Append_File(const QString& path)
-{
-    const qint64 before = file_.size();
-    try {
-        Copy_Log(path, *this);
-    } catch (const Run_Time_Error&) {
-        file_.resize(before);
-        throw;
-    }
-}
-
 void Log_Work_File::Flush_To_Disk()
 {
     errno = 0;
     if (!file_.flush() || (::fsync(file_.handle()) != 0 && errno != EINVAL))
         Raise_Write_Error(file_.fileName());
+}
+
+/// The next piece of a log; empty at its end.
+static QByteArray Next_Piece(QFile& file, const QString& path)
+{
+    errno = 0;
+    QByteArray bytes = file.read(Piece_Size);
+    if (bytes.isEmpty() && file.error() != QFileDevice::NoError)
+        Raise_File_Error(u"Reading the process log to keep its text"_s, path, errno);
+    return bytes;
+}
+
+void Log_Work_File::Append_File(const QString& path)
+{
+    QFile file;
+    Open_Plain_File(file, path, u"Opening the process log to keep its text"_s);
+    bool ends_a_line = true;
+    for (QByteArray bytes; !(bytes = Next_Piece(file, path)).isEmpty();) {
+        Append(bytes);
+        ends_a_line = bytes.endsWith('\n');
+    }
+    if (!ends_a_line)
+        Append(Line_Break.toUtf8());
+}
+
+bool Begins_With_File(const QString& path, const QString& head)
+{
+    const QString doing = u"Looking whether the process log holds an entry already"_s;
+    QFile log;
+    QFile beginning;
+    Open_Plain_File(log, path, doing);
+    Open_Plain_File(beginning, head, doing);
+    if (beginning.size() == 0 || beginning.size() > log.size())
+        return false;
+    for (QByteArray bytes; !(bytes = Next_Piece(beginning, head)).isEmpty();)
+        if (log.read(bytes.size()) != bytes)
+            return false;
+    return true;
 }

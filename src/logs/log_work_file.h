@@ -4,23 +4,29 @@
 #include <QFile>
 #include <QString>
 
-/// The file in which a new process log is put together before it takes the log's name. What a run that died left in it
-/// is kept, and the new text lands behind. Every failure is the run-time error of the file operation.
+/// A file that is made ahead of the log: the one that keeps the new entry until the log holds it, or the one that is to
+/// take the log's place. Every failure is the run-time error of the file operation.
 class Log_Work_File
 {
   public:
-    /// Opens `path` for appending. A leftover that breaks off inside a line gets its line end.
-    explicit Log_Work_File(const QString& path);
+    enum class Leftover
+    {
+        Kept, ///< what a run that died left in it stays, and ends its last line
+        Dropped
+    };
+
+    /// Opens `path` for appending. An error if something that is no plain file, or a link, has that name.
+    Log_Work_File(const QString& path, Leftover leftover);
 
     void Append(const QByteArray& bytes);
-
-    /// Copies a whole file behind what is there, a megabyte at a time, and ends its last line. If that fails the work
-    /// file is cut back to where it was, so that the next try doesn't find half an old log in it.
+    /// Appends a whole file, a megabyte at a time, and ends its last line.
     void Append_File(const QString& path);
-
     /// Everything written so far is on the disk when this returns.
     void Flush_To_Disk();
 
   private:
     QFile file_;
 };
+
+/// True if the log at `path` begins with all that the file at `head` holds, and that isn't nothing.
+bool Begins_With_File(const QString& path, const QString& head);

@@ -6,10 +6,14 @@
 #include "state/program.h"
 #include "support/folder_lock.h"
 #include "support/paths.h"
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
+#include "support/whole_file.h"
 
+#include <QFile>
 #include <QLocale>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -20,17 +24,20 @@ static void Clear_Buffers(Log_Buffers& logs)
     logs.Log_Console.Clear();
 }
 
-/// Waits up to a minute for another program that writes its entry into the same folder.
-static void Lock_Folder(Folder_Lock& lock, const QString& folder, Operator& person)
+/// Waits for another program that writes its entry into the same folder: up to a minute, and up to a second once a
+/// halt is asked for. False: the folder is held still.
+static bool Lock_Folder(Folder_Lock& lock, const Program& program)
 {
     constexpr int pause = 50;
     constexpr int longest_wait = 60'000;
-    for (int waited = 0; !lock.Try(folder); waited += pause) {
-        if (waited >= longest_wait)
-            throw Run_Time_Error(Error_Number::Permission_Denied, u"Locking the program's folder"_s, folder, {},
-                                 u"Another program has been writing there for a minute: end it and try again."_s);
-        person.Wait_With_Events(pause);
+    constexpr int longest_wait_of_a_halt = 1'000;
+    for (int waited = 0; !lock.Try(program.Settings.App_Folder); waited += pause) {
+        const bool halted = program.Run.Halt_Requested || program.Person.Is_Asked_To_Stop();
+        if (waited >= (halted ? longest_wait_of_a_halt : longest_wait))
+            return false;
+        program.Person.Wait_With_Events(pause);
     }
+    return true;
 }
 
 static QString Header(const Program& program)
@@ -58,56 +65,145 @@ QString Log_Entry(const Program& program)
     return lines.join(Line_Break) + Line_Break;
 }
 
-/// Puts the new log together in the work file. True if the old log's text was carried along: then it still has its
-/// name; else it is a generation, and may have the name as well.
-static bool Write_Work_File(Program& program, const QString& log)
+/// Keeps an entry that can't go into the log now in a file of its own; returns its path.
+static QString Keep_Aside(const QString& folder, const QString& entry)
 {
-    const QString& folder = program.Settings.App_Folder;
-    Log_Work_File work(Process_Log_Work_Path(folder));
-    work.Append(Log_Entry(program).toUtf8());
-    work.Flush_To_Disk();
-    if (!File_Exists(log))
-        return false;
-    if (!program.Options.mnu_AppendLogs &&
-        Rotate_Logs(folder, Log_Name::Kept_For_Replacing, program.Person, program.Logs.Log_Faults) == Rotation::Rotated)
-        return false;
-    work.Append(Line_Break.toUtf8());
-    work.Append_File(log);
-    work.Flush_To_Disk();
-    return true;
+    QString path = New_Waiting_Entry_Path(folder);
+    Write_Whole_File(path, entry.toUtf8());
+    return path;
 }
 
-static void Replace_Log(Program& program)
+/// Adds to the work file; what stands in it by then is kept.
+static void Add_To_Work_File(Log_Work_File& work, const QString& text)
+{
+    work.Append(text.toUtf8());
+    work.Flush_To_Disk();
+}
+
+/// Makes the file that holds the work file's text and below it the log's, and gives it the log's name.
+static void Put_On_Top_Of_Log(Program& program)
 {
     const QString& folder = program.Settings.App_Folder;
     const QString log = Process_Log_Path(folder);
-    Folder_Lock lock;
-    Lock_Folder(lock, folder, program.Person);
-    const bool carried = Write_Work_File(program, log);
+    const QString whole_log = Process_Log_Whole_Path(folder);
+    try {
+        Log_Work_File whole(whole_log, Log_Work_File::Leftover::Dropped);
+        whole.Append_File(Process_Log_Work_Path(folder));
+        whole.Append(Line_Break.toUtf8());
+        whole.Append_File(log);
+        whole.Flush_To_Disk();
+    } catch (const Run_Time_Error&) {
+        QFile::remove(whole_log);
+        throw;
+    }
     program.Person.Pump_Events();
-    // Deliberate: the old log goes to the trash although its text was carried along.
-    if (carried)
-        Trash_Replaced_Log(folder, program.Logs.Log_Faults);
-    Rename_Log(Process_Log_Work_Path(folder), log);
+    QFile::setPermissions(whole_log, QFile::permissions(log));
+    Rename_Log(whole_log, log);
+    QFile::remove(Process_Log_Work_Path(folder));
+}
+
+/// Puts what the work file holds on top of the log, or in its place. The work file is gone afterwards; until then a
+/// process that dies leaves it and the log whole.
+static void Put_Work_File_In_Place(Program& program)
+{
+    const QString& folder = program.Settings.App_Folder;
+    const QString log = Process_Log_Path(folder);
+    const QString work = Process_Log_Work_Path(folder);
+    Require_Plain_Or_Nothing(log, u"Writing the process log (the entry waits in %1)"_s.arg(File_Name_Of(work)));
+    if (!File_Exists(log)) {
+        Rename_Log(work, log);
+        return;
+    }
+    const auto permissions = QFile::permissions(log);
+    if (!program.Options.mnu_AppendLogs) {
+        clsStringBuilder refused;
+        if (Rotate_Logs(folder, Log_Name::Kept_For_Replacing, program.Person, refused) == Rotation::Rotated) {
+            program.Person.Pump_Events();
+            QFile::setPermissions(work, permissions);
+            Rename_Log(work, log);
+            return;
+        }
+        Log_Work_File noted(work, Log_Work_File::Leftover::Kept);
+        Add_To_Work_File(noted, refused.ToString() + Line_Break);
+    }
+    Put_On_Top_Of_Log(program);
+}
+
+/// Takes in what other runs left: the work file of one that died, and entries that didn't get at the log.
+static void Take_In_Leftovers(Program& program)
+{
+    const QString& folder = program.Settings.App_Folder;
+    const QString log = Process_Log_Path(folder);
+    const QString work = Process_Log_Work_Path(folder);
+    Require_Plain_Or_Nothing(work, u"Opening the work file of the process log"_s);
+    // A run that died behind its last step but one: the log has its entry already.
+    if (Is_Plain_File(work) && Is_Plain_File(log) && Begins_With_File(log, work))
+        QFile::remove(work);
+    for (const QString& name : Waiting_Entries(folder)) {
+        if (Is_Plain_File(work))
+            Put_Work_File_In_Place(program);
+        Rename_Log(folder + name, work);
+        Put_Work_File_In_Place(program);
+    }
+}
+
+static void Add_Entry(Program& program)
+{
+    const QString& folder = program.Settings.App_Folder;
+    const QString entry = Log_Entry(program);
+    Folder_Lock lock;
+    if (!Lock_Folder(lock, program)) {
+        const QString kept = Keep_Aside(folder, entry);
+        if (!program.Run.Halt_Requested && !program.Person.Is_Asked_To_Stop())
+            program.Person.Show_Message(
+                {.Title = u"The log is in use."_s,
+                 .Text = u"Another program has been writing the log for a minute. This run's entry is kept in\r\n"_s +
+                         kept + u"\r\nand goes into the log with the next run's entry."_s});
+        return;
+    }
+    std::optional<Log_Work_File> work;
+    try {
+        Take_In_Leftovers(program);
+        work.emplace(Process_Log_Work_Path(folder), Log_Work_File::Leftover::Kept);
+    } catch (const Run_Time_Error&) {
+        Keep_Aside(folder, entry);
+        throw;
+    }
+    Add_To_Work_File(*work, entry);
+    work.reset();
+    Put_Work_File_In_Place(program);
 }
 
 bool Write_Process_Log(Program& program)
 {
     if (!program.Run.Dry_Run) {
         program.Logs.Write_Failed = true;
-        Replace_Log(program);
+        Add_Entry(program);
         program.Logs.Write_Failed = false;
     }
     Clear_Buffers(program.Logs);
     return true;
 }
 
+static void Tell_Not_Cleared(Operator& person, const QString& why)
+{
+    person.Show_Message({.Title = u"The log was not cleared."_s, .Text = u"It stays as it was.\r\n"_s + why});
+}
+
 bool Rotate_Process_Logs(Program& program)
 {
+    const QString& folder = program.Settings.App_Folder;
+    const bool exists = File_Exists(Process_Log_Path(folder));
     if (program.Run.Dry_Run)
-        return File_Exists(Process_Log_Path(program.Settings.App_Folder));
+        return exists;
     Folder_Lock lock;
-    Lock_Folder(lock, program.Settings.App_Folder, program.Person);
-    return Rotate_Logs(program.Settings.App_Folder, Log_Name::Freed, program.Person, program.Logs.Log_Faults) !=
-           Rotation::No_Log;
+    if (!Lock_Folder(lock, program)) {
+        Tell_Not_Cleared(program.Person, u"Another program has been writing there for a minute. Try again later."_s);
+        return exists;
+    }
+    clsStringBuilder refused;
+    if (Rotate_Logs(folder, Log_Name::Freed, program.Person, refused) == Rotation::Refused)
+        Tell_Not_Cleared(program.Person,
+                         refused.ToString() + u"Make room in the trash, or move that file away, and try again."_s);
+    return exists;
 }

@@ -5,6 +5,7 @@
 #include "support/run_time_error.h"
 #include "support/string_builder.h"
 #include "support/text.h"
+#include "support/whole_file.h"
 
 #include <algorithm>
 
@@ -126,13 +127,14 @@ static bool All_Empty(const Option_Values& values)
     return std::all_of(values.begin(), values.end(), [](const QString& value) { return value.isEmpty(); });
 }
 
-/// Deliberate: only the five keys are written. Comments, "stretch" and unknown keys are dropped, nothing is escaped.
+/// Deliberate: only the five keys are written. Comments, "stretch" and unknown keys are dropped, nothing is escaped. A
+/// line break in a value would make the run take the whole file for a bad one, so it becomes a blank.
 static void Write_Values(const QString& option_path, const Option_Values& values)
 {
     QString text;
     for (std::size_t slot = 0; slot < values.size(); ++slot)
         if (!values[slot].isEmpty())
-            text += Written_Keys[slot] + values[slot] + Line_Break;
+            text += Written_Keys[slot] + On_One_Line(values[slot]) + Line_Break;
     Write_Whole_File(option_path, text.toUtf8());
 }
 

@@ -77,8 +77,8 @@ enum class Option_Write_Status
     Not_Recycled = 3      ///< all values empty, but the trash didn't take the file: it is as it was
 };
 
-/// Writes the five values as they stand; the file is replaced whole, comments and other keys go. All values empty: an
-/// existing file goes to the trash; if it can't, it stays and `faults` hears of it.
+/// Writes the five values, line breaks in them as blanks; the file is replaced whole, comments and other keys go. All
+/// values empty: an existing file goes to the trash; if it can't, it stays and `faults` hears of it.
 Option_Write_Status Write_Option_File(const QString& option_path, const Option_Values& values,
                                       clsStringBuilder& faults);
 /// Writes the values that aren't empty over those of the existing file, which keeps its other four keys; comments and

@@ -2,6 +2,7 @@
 
 #include "rules/option_rules.h"
 #include "state/program.h"
+#include "support/text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +30,7 @@ void btn_CustomTitle_Clear_Click(Custom_Title_Form& form)
 
 void btn_CustomTitle_Done_Click(Custom_Title_Form& form)
 {
-    form.Title_Form_Text = form.txt_CustomTitle.Text;
+    form.Title_Form_Text = On_One_Line(form.txt_CustomTitle.Text);
     form.Visible = false;
 }
 

@@ -3,9 +3,9 @@
 #include "support/files.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
+#include "support/whole_file.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
 #include <utility>
 
@@ -95,20 +95,14 @@ void Ini_Document::Index_Keys(Section& section) const
                  });
 }
 
-/// A value on one line, as it is written; a lone CR or a value from elsewhere could hold a line break.
-static QString On_One_Line(const QString& value)
-{
-    QString line = Cut_At_Nul(value);
-    return line.replace(Line_Break, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
-}
-
 static QString Value_As_Read(QByteArrayView bytes)
 {
     QByteArrayView value = bytes.trimmed();
     const bool is_quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'');
     if (is_quoted && value.back() == value.front())
         value = value.sliced(1, value.size() - 2);
-    QString text = On_One_Line(QString::fromUtf8(value));
+    // A lone CR may stand in it, and a code of 0.
+    QString text = On_One_Line(Cut_At_Nul(Text_Of_Bytes(value)));
     if (text.size() <= Longest_Value)
         return text;
     return text.left(text.at(Longest_Value - 1).isHighSurrogate() ? Longest_Value - 1 : Longest_Value);
@@ -150,7 +144,7 @@ void Ini_Document::Set_Value(const QString& section, const QString& key, const Q
         found = record->Keys.insert(name, {0, 0, std::nullopt, true});
         record->Added.push_back(key.toUtf8());
     }
-    found->New_Value = On_One_Line(value);
+    found->New_Value = On_One_Line(Cut_At_Nul(value));
 }
 
 void Ini_Document::Delete_Section(const QString& section)
@@ -240,10 +234,6 @@ Ini_Document Load_Ini_File(const QString& path)
 
 void Save_Ini_File(const QString& path, const Ini_Document& document)
 {
-    QSaveFile file(path);
-    const QByteArray content = document.Content();
     // As a text file, so that its lines end as the platform's do.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || file.write(content) != content.size() || !file.commit())
-        throw Run_Time_Error(Error_Number::Path_File_Access_Error, u"Writing the settings"_s, path, {},
-                             file.errorString());
+    Write_Whole_File(path, document.Content(), QIODevice::Text);
 }

@@ -1,5 +1,7 @@
 #include "settings/recent_lists.h"
 
+#include "settings/ini_file.h"
+#include "settings/row_rules.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/text.h"
@@ -57,7 +59,7 @@ void Read_Recent_Targets(Program& program, QString value)
 /// A name with one of these would read back as another folder.
 static bool Can_Be_Stored(const QString& folder)
 {
-    return !folder.contains(u';') && !folder.contains(u'\n') && !folder.contains(u'\r');
+    return !folder.contains(u';') && !Storable_Path(folder).isEmpty();
 }
 
 QString Recent_Folders_Value(const QString& path, const QStringList& list)
@@ -67,7 +69,8 @@ QString Recent_Folders_Value(const QString& path, const QStringList& list)
     QString value = (Can_Be_Stored(path) ? path : QString()) + u";"_s;
     for (const QString& folder : list)
         // Deliberate: searched as a piece of text, so a folder that is part of an earlier one's path is dropped.
-        if (Can_Be_Stored(folder) && !value.contains(folder))
+        // A value is cut when it is read, and a cut folder would be another one.
+        if (Can_Be_Stored(folder) && !value.contains(folder) && value.size() + folder.size() <= Longest_Value)
             value += folder + u";"_s;
     value.chop(1);
     return value.isEmpty() ? u"NONE"_s : value;

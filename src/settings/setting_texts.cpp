@@ -136,7 +136,9 @@ WindowBox Box_From_Text(const QString& text, const QString& missing, bool absolu
         const double value = Setting_Number(fields.at(index), where);
         return Whole_Number(without_sign ? std::abs(value) : value, text, where);
     };
-    WindowBox box{field(0, absolute), field(1, absolute), field(2), field(3), field(4), false};
+    double state = 0;
+    const bool has_state = Text_To_Number(fields.at(4), state);
+    WindowBox box{field(0, absolute), field(1, absolute), field(2), field(3), has_state ? field(4) : 0, false};
     box.HasBox = absolute && box.Height >= 2;
     return box;
 }

@@ -1,8 +1,9 @@
 #include "settings/settings_store.h"
 
 #include "state/program.h"
-#include "support/run_time_error.h"
-#include "support/text.h"
+#include "support/failure_box.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -85,9 +86,30 @@ void Delete_Ini_Section(Ini_Document& document, const QString& section)
     document.Delete_Section(section);
 }
 
+/// True for a file that an end with "Save Settings on Exit" off made: it has no other key of ours.
+static bool Holds_Only_Save_On_Exit(const Ini_Document& document)
+{
+    const auto stands = [&document](const Settings_Row& row) {
+        return document.Value(row.Section, row.Key).has_value();
+    };
+    const std::vector<Settings_Row>& rows = Settings_Rows();
+    return stands(Row_Of(Row::Save_On_Exit)) && std::none_of(rows.begin(), rows.end(), [&](const Settings_Row& row) {
+               return row.Number != Row::Save_On_Exit && stands(row);
+           });
+}
+
 void Read_Settings(Program& program)
 {
-    Read_Settings_From(program, Load_Ini_File(program.Settings.Ini_File));
+    Ini_Document document = Load_Ini_File(program.Settings.Ini_File);
+    if (Holds_Only_Save_On_Exit(document)) {
+        const Settings_Row& row = Row_Of(Row::Save_On_Exit);
+        Ini_Document first;
+        program.Settings.Save_On_Exit = true; // else nothing but its row is written
+        Write_Settings_To(program, true, first);
+        Write_Ini_Key(first, row.Section, row.Key, *document.Value(row.Section, row.Key));
+        document = first;
+    }
+    Read_Settings_From(program, document);
 }
 
 Write_Outcome Write_Settings_To(Program& program, bool reset_fonts, Ini_Document& document)
@@ -113,13 +135,10 @@ Write_Outcome Write_Settings_To(Program& program, bool reset_fonts, Ini_Document
 
 static void Tell_Not_Saved(Program& program, const Run_Time_Error& error)
 {
-    program.Person.Show_Message(
-        {.Code = 0,
-         .Title = u"The settings could not be saved"_s,
-         .Text = QString(error.Message()).replace(u"\n"_s, Line_Break) + Line_Break +
-                 u"The file stays as it was. Make it and its folder writable, then save the settings again."_s,
-         .Icon = Message_Icon::Exclamation,
-         .Buttons = Message_Buttons::Ok});
+    program.Person.Show_Message(Failure_Box(
+        u"The settings could not be saved"_s, error,
+        u"The file stays as it was. Make it and its folder writable, make room on the disk, then save the settings "
+        "again."_s));
 }
 
 bool Save_Settings_File(Program& program, const Ini_Document& document)

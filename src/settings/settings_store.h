@@ -14,8 +14,9 @@ struct Settings_State;
 /// Vantorra.ini as a whole: all of it into the program's state, and all of it back.
 
 /// Reads all settings from Settings.Ini_File, as Settings.Overrides change them, into the options and controls. Called
-/// once, from start-up. Run_Time_Error for a number that is none (file, section and key named) and for a file that
-/// can't be read.
+/// once, from start-up, while the controls have their design state: a file that holds nothing but "Save Settings on
+/// Exit" reads as the first file with that value. Run_Time_Error for a number that is none (file, section and key
+/// named) and for a file that can't be read.
 void Read_Settings(Program& program);
 /// Read_Settings from a text in memory.
 void Read_Settings_From(Program& program, const Ini_Document& document);

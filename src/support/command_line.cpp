@@ -92,7 +92,8 @@ QString Command_Line::Argument_Of(const QString& value)
         argument += taken == 1 ? rest.front() : QChar(u'"');
         rest = rest.mid(taken);
     }
-    return argument;
+    // A child gets no more of it than that.
+    return Cut_At_Nul(argument);
 }
 
 bool Command_Line::Is_Refused(const QString& value)

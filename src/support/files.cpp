@@ -2,18 +2,20 @@
 
 #include "support/disk_names.h"
 #include "support/paths.h"
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 #include "support/shown_text.h"
 #include "support/string_builder.h"
 #include "support/text.h"
+#include "support/whole_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QStringDecoder>
+#include <QUrl>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -104,29 +106,19 @@ Folder_Counts Count_Folder(const QString& folder)
     return counts;
 }
 
-/// errno's number for a failed QFile operation; Qt keeps it only until the next system call.
-static int Failure_Number()
-{
-    return errno;
-}
-
 QByteArray Read_File(const QString& path)
 {
-    QFile file(path);
+    QFile file;
+    Open_Plain_File(file, path, u"Opening a file to read it"_s);
     errno = 0;
-    if (!file.open(QIODevice::ReadOnly))
-        Raise_File_Error(u"Opening a file to read it"_s, path, Failure_Number());
-    QByteArray content = file.readAll();
+    // One byte more than is taken: a file may grow while it is read.
+    QByteArray content = file.size() > Longest_Side_File ? QByteArray() : file.read(Longest_Side_File + 1);
     if (file.error() != QFileDevice::NoError)
-        Raise_File_Error(u"Reading a file"_s, path, Failure_Number());
+        Raise_File_Error(u"Reading a file"_s, path, errno);
+    if (file.size() > Longest_Side_File || content.size() > Longest_Side_File)
+        throw Run_Time_Error(Error_Number::Path_File_Access_Error, u"Reading a file"_s, path, {},
+                             u"It is larger than 64 MB, far more than such a file ever needs. Move it away."_s);
     return content;
-}
-
-/// A line without a mark that tells its encoding. Files from a system with an 8-bit code page aren't UTF-8; taken for
-/// U+FFFD their letters would be lost once the file is written again.
-static QString Decoded_Line(const QByteArray& line)
-{
-    return QUtf8StringView(line).isValidUtf8() ? QString::fromUtf8(line) : QString::fromLatin1(line);
 }
 
 QStringList Read_Lines(const QString& path)
@@ -139,21 +131,11 @@ QStringList Read_Lines(const QString& path)
         lines = text.replace(Line_Break, u"\n"_s).replace(u'\r', u'\n').split(u'\n');
     } else {
         for (const QByteArray& line : bytes.replace("\r\n", "\n").replace('\r', '\n').split('\n'))
-            lines += Decoded_Line(line);
+            lines += Text_Of_Bytes(line);
     }
     if (lines.constLast().isEmpty())
         lines.removeLast();
     return lines;
-}
-
-void Write_Whole_File(const QString& path, const QByteArray& content)
-{
-    QSaveFile file(path);
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly))
-        Raise_File_Error(u"Opening a file to write it"_s, path, QFileInfo(path).isDir() ? EISDIR : Failure_Number());
-    if (file.write(content) != content.size() || !file.commit())
-        Raise_File_Error(u"Writing a file"_s, path, Failure_Number());
 }
 
 /// Qt takes the current folder for the trash where the person's own trash can't be made, so that is tried first.
@@ -176,15 +158,24 @@ static QStringList Trashes_For(const QString& path)
     return trashes;
 }
 
-/// Qt tries one name after the other, for ever, while it can't make the file that describes what it trashes: where the
-/// name is too long for it, the trash can't be written to, or the disk is full. So that file is tried first.
-static bool Can_Be_Described(const QString& path)
+/// The longest name that the trash gives a description: with the number of a name that is there already.
+static QString Description_Of(const QString& path)
+{
+    return File_Name_Of(path) + u"-0000.trashinfo"_s;
+}
+
+static bool Is_Too_Long_For_Trash(const QString& path)
 {
     constexpr qsizetype longest_name = 255;
-    // With the number of a name that is there already.
-    const QString description = File_Name_Of(path) + u"-0000.trashinfo"_s;
-    if (QFile::encodeName(description).size() > longest_name)
-        return false;
+    return QFile::encodeName(Description_Of(path)).size() > longest_name;
+}
+
+/// Qt tries one name after the other, for ever, while it can't make the file that describes what it trashes: where the
+/// name is too long for it, the trash can't be written to, or the disk is full. So that file is tried first; the name
+/// isn't too long by then.
+static bool Can_Be_Described(const QString& path)
+{
+    const QString description = Description_Of(path);
     for (const QString& trash : Trashes_For(path)) {
         const QString folder = trash + u"/info"_s;
         QFile tried(folder + Path_Separator + description);
@@ -198,6 +189,57 @@ static bool Can_Be_Described(const QString& path)
     return true;
 }
 
+static bool Rename_Without_Replacing(const QString& from, const QString& to)
+{
+    std::error_code error;
+    if (!QFileInfo::exists(to))
+        fs::rename(Native_Path(from), Native_Path(to), error);
+    return !error && !QFileInfo::exists(from);
+}
+
+/// A file's name cut so that the trash can describe it; its extension stays if it is a short one.
+static QString Shortened(const QString& name)
+{
+    constexpr qsizetype room = 200;
+    constexpr qsizetype longest_extension = 20;
+    QString head = name;
+    while (QFile::encodeName(head).size() > room || head.back().isHighSurrogate())
+        head.chop(1);
+    const QString extension = Get_Extension(name);
+    return extension.size() > longest_extension ? head : head + u'.' + extension;
+}
+
+/// The trash restores to the path in the description of what it holds, so the whole name belongs there.
+static void Describe_By_Whole_Name(const QString& in_trash, const QString& shorter, const QString& whole)
+{
+    const qsizetype files = in_trash.lastIndexOf(u"/files/"_s);
+    const QString description = in_trash.left(files) + u"/info/"_s + File_Name_Of(in_trash) + u".trashinfo"_s;
+    try {
+        Write_Whole_File(
+            description,
+            Read_File(description).replace(QUrl::toPercentEncoding(shorter), QUrl::toPercentEncoding(whole)));
+    } catch (const Run_Time_Error&) {
+        return; // then it is restored under the shorter name
+    }
+}
+
+/// Moves a file to the trash whose name is too long for it. False: it is where it was.
+static bool Trash_Under_Shorter_Name(const QString& path)
+{
+    const QString name = File_Name_Of(path);
+    const QString shorter_name = Shortened(name);
+    const QString shorter = path.chopped(name.size()) + shorter_name;
+    if (!Can_Be_Described(shorter) || !Rename_Without_Replacing(path, shorter))
+        return false;
+    QString in_trash;
+    if (!QFile::moveToTrash(shorter, &in_trash)) {
+        Rename_Without_Replacing(shorter, path);
+        return false;
+    }
+    Describe_By_Whole_Name(in_trash, shorter_name, name);
+    return true;
+}
+
 bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
 {
     QString plain = path;
@@ -207,7 +249,9 @@ bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
     std::error_code error;
     if (fs::symlink_status(Native_Path(plain), error).type() == fs::file_type::not_found)
         return true;
-    if (!Has_Stand_Ins(plain) && Trash_Can_Be_Made() && Can_Be_Described(plain) && QFile::moveToTrash(plain))
+    if (!Has_Stand_Ins(plain) && Trash_Can_Be_Made() &&
+        (Is_Too_Long_For_Trash(plain) ? Trash_Under_Shorter_Name(plain)
+                                      : Can_Be_Described(plain) && QFile::moveToTrash(plain)))
         return true;
     faults.AppendLine(u"-- Could not be moved to the trash - \""_s + As_One_Line(plain) + u'"');
     return false;

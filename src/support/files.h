@@ -6,7 +6,7 @@
 
 class clsStringBuilder;
 
-/// Files and folders on disk: listing, reading whole, writing whole, and the trash.
+/// Files and folders on disk: listing, reading whole, and the trash.
 
 /// The names of the regular files in a folder (and links to them), hidden ones and names that aren't valid UTF-8
 /// included (Text_Of_Name); no folder, pipe, socket or device. They come by name, as the system's home platform lists
@@ -30,13 +30,12 @@ struct Folder_Counts
 
 Folder_Counts Count_Folder(const QString& folder);
 
-/// The whole file as bytes; the run-time error of the file operation, naming the file, if it can't be read.
+/// The whole file as bytes; the run-time error of the file operation, naming the file, if it can't be read. That is so
+/// for what is no plain file, and for one above 64 MB.
 QByteArray Read_File(const QString& path);
 /// A text file's lines, ended by CR LF, LF or CR alike, the ends cut off; UTF-8 or, with its mark, UTF-16. A line that
 /// isn't UTF-8 is read as Latin-1. The last line counts only if it isn't empty. Errors as for Read_File.
 QStringList Read_Lines(const QString& path);
-/// Replaces a file whole or leaves it as it was; the run-time error of the file operation if it can't be written.
-void Write_Whole_File(const QString& path, const QByteArray& content);
 
 /// Moves a file or a folder to the trash. False only if something existed there and stays: then `faults` gets the line
 /// "-- Could not be moved to the trash - " and the quoted path. Nothing is ever removed for good.

@@ -68,6 +68,9 @@ class Operator
     /// Opens a document with whatever the desktop uses for it; false if it can't.
     virtual bool Open_Document(const QString& path) = 0;
 
+    /// True once the program was asked to end from outside: whatever waits gives up. A halt button isn't such a call.
+    virtual bool Is_Asked_To_Stop() { return false; }
+
     /// Brings the main form to the front, where there is one.
     virtual void Raise_Main_Form() {}
 

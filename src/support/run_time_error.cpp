@@ -13,6 +13,8 @@ QString Error_Words(Error_Number number)
         return u"Invalid procedure call or argument"_s;
     case Error_Number::Overflow:
         return u"Overflow"_s;
+    case Error_Number::Out_Of_Memory:
+        return u"Out of memory"_s;
     case Error_Number::Subscript_Out_Of_Range:
         return u"Subscript out of range"_s;
     case Error_Number::Type_Mismatch:
@@ -52,6 +54,12 @@ QString Run_Time_Error::Message() const
     if (!advice_.isEmpty())
         message += u'\n' + advice_;
     return message;
+}
+
+Run_Time_Error Out_Of_Memory_Error()
+{
+    return {
+        Error_Number::Out_Of_Memory, {}, {}, {}, u"Close other programs, or work on fewer or smaller files at once."_s};
 }
 
 void Raise_Type_Mismatch(const QString& doing, const QString& subject, const QString& text)

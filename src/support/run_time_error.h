@@ -8,6 +8,7 @@ enum class Error_Number
 {
     Invalid_Procedure_Call = 5,
     Overflow = 6,
+    Out_Of_Memory = 7,
     Subscript_Out_Of_Range = 9,
     Type_Mismatch = 13,
     File_Not_Found = 53,
@@ -49,6 +50,9 @@ class Run_Time_Error : public std::exception
     QString advice_;
     QByteArray what_;
 };
+
+/// Error 7, for a std::bad_alloc from anywhere.
+Run_Time_Error Out_Of_Memory_Error();
 
 /// Error 13 for `text`, which should have been a number.
 [[noreturn]] void Raise_Type_Mismatch(const QString& doing, const QString& subject, const QString& text);

@@ -163,3 +163,13 @@ bool Is_Digit_List(const QString& text)
     const QStringList pieces = Split_Text(text, u","_s);
     return std::all_of(pieces.begin(), pieces.end(), Is_All_Digits);
 }
+
+QString Text_Of_Bytes(QByteArrayView bytes)
+{
+    return QUtf8StringView(bytes).isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
+}
+
+QString On_One_Line(QString text)
+{
+    return text.replace(Line_Break, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
+}

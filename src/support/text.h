@@ -55,3 +55,10 @@ bool Is_All_Digits(const QString& text);
 bool Is_Signed_Number(const QString& text);
 /// Every piece between commas passes Is_All_Digits; the empty text has no pieces and passes.
 bool Is_Digit_List(const QString& text);
+
+/// Bytes without a mark that tells their encoding: UTF-8, and Latin-1 where they are no UTF-8. Texts from a system with
+/// an 8-bit code page aren't; taken for U+FFFD, their letters would be lost once the text is written again.
+QString Text_Of_Bytes(QByteArrayView bytes);
+
+/// The text with a blank for each CR LF, CR or LF: it goes into a line of a file.
+QString On_One_Line(QString text);

@@ -45,7 +45,8 @@ void Link_FFProbe(Program& program)
         return;
     if (QFileInfo(wanted).isSymLink() && !QFileInfo::exists(wanted))
         QFile::remove(wanted);
-    if (!QFile::link(found, wanted))
+    // Another program that starts just now may have been faster.
+    if (!QFile::link(found, wanted) && !File_Exists(wanted))
         program.Person.Show_Message({.Title = u"FFProbe could not be linked."_s,
                                      .Text = u"FFProbe was found at \""_s + found +
                                              u"\",\r\nbut it could not be linked to \""_s + wanted +

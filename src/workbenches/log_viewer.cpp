@@ -4,6 +4,7 @@
 #include "state/program.h"
 #include "support/form_placement.h"
 #include "support/paths.h"
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
 #include "workbenches/viewer_place.h"
@@ -80,10 +81,8 @@ class Line_Cutter
 QStringList Read_Log_Lines(const QString& path, int limit)
 {
     constexpr qint64 piece = 1 << 18;
-    QFile file(path);
-    errno = 0;
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        Raise_File_Error(u"Opening the process log to show it"_s, path, errno);
+    QFile file;
+    Open_Plain_File(file, path, u"Opening the process log to show it"_s);
     QStringList lines;
     Line_Cutter cutter(lines, limit, path);
     while (!cutter.Is_Full()) {

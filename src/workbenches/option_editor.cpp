@@ -2,6 +2,7 @@
 
 #include "inspect/video_names.h"
 #include "state/program.h"
+#include "support/failure_box.h"
 #include "support/paths.h"
 #include "support/text.h"
 #include "workbenches/viewer_text_size.h"
@@ -277,10 +278,16 @@ static Option_Values Box_Values(const Option_Editor& editor, bool set_only)
     return values;
 }
 
+static void Tell_Not_Written(Program& program, const Run_Time_Error& error, const QString& advice)
+{
+    program.Person.Show_Message(Failure_Box(u"The options file was not written."_s, error, advice));
+}
+
 /// Several rows at once. Deliberate: a row without an option file gains a name in the list even if nothing is written
 /// for it, until the next scan; the list isn't scanned again.
-static void Apply_To_Several(Option_Editor& editor)
+static void Apply_To_Several(Program& program)
 {
+    Option_Editor& editor = program.Option_Files;
     const Option_Values values = Box_Values(editor, true);
     for (std::size_t at = 0; at < editor.Selected_Rows.size(); ++at) {
         OptionFileRow& row = editor.Selected_Rows[at];
@@ -288,7 +295,16 @@ static void Apply_To_Several(Option_Editor& editor)
             row.OptionFileName = row.FileName + u".opt"_s;
             editor.lvw_Files[static_cast<std::size_t>(editor.Selected_Indexes[at])] = row;
         }
-        Merge_Option_File(Option_Path(editor, row), values);
+        try {
+            Merge_Option_File(Option_Path(editor, row), values);
+        } catch (const Run_Time_Error& error) {
+            // What stands in the way of one most likely stands in the way of all: one box, not one a row.
+            Tell_Not_Written(program, error,
+                             u"This file stays as it was, and those of the rows behind it. Make their folder "
+                             "writable, make room on the disk, then apply again."_s);
+            Scan_Option_Folder(program);
+            return;
+        }
     }
 }
 
@@ -297,7 +313,14 @@ static void Apply_To_One(Program& program)
 {
     const Option_Editor& editor = program.Option_Files;
     const QString path = Option_Path(editor, editor.Selected_Rows.front());
-    const Option_Write_Status status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults);
+    Option_Write_Status status = Option_Write_Status::Nothing_To_Write;
+    try {
+        status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults);
+    } catch (const Run_Time_Error& error) {
+        Tell_Not_Written(program, error,
+                         u"The file stays as it was. Make its folder writable, make room on the disk, then apply "
+                         "again."_s);
+    }
     if (status == Option_Write_Status::Nothing_To_Write)
         return;
     if (status == Option_Write_Status::Not_Recycled)
@@ -318,7 +341,7 @@ void btn_Apply_Click(Program& program)
     if (editor.Selected_Count == 1) {
         Apply_To_One(program);
     } else {
-        Apply_To_Several(editor);
+        Apply_To_Several(program);
     }
     editor.Focus = u"btn_Close"_s;
 }

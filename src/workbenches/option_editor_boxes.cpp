@@ -71,7 +71,7 @@ void Read_Boxes(Option_Editor& editor)
 void Option_Box_Change(Option_Editor& editor, Option_Slot slot, const QString& text)
 {
     Option_Box& box = editor.At(slot);
-    box.Text = Fields_Of(slot).No_Or_Yes && !Is_No_Or_Yes(text) ? QString() : text;
+    box.Text = Fields_Of(slot).No_Or_Yes && !Is_No_Or_Yes(text) ? QString() : On_One_Line(text);
     box.Set = true;
 }
 

@@ -5,10 +5,11 @@
 #include "rules/folders.h"
 #include "state/program.h"
 #include "support/drop_data.h"
-#include "support/files.h"
+#include "support/failure_box.h"
 #include "support/form_placement.h"
 #include "support/paths.h"
 #include "support/text.h"
+#include "support/whole_file.h"
 #include "workbenches/viewer_place.h"
 #include "workbenches/viewer_text_size.h"
 
@@ -115,9 +116,15 @@ void ViewVFI_btn_ShowCodecData(Program& program, frm_ViewVFI& form)
     form.Focus = u"btn_Done"_s;
 }
 
-void ViewVFI_btn_SaveToFile(frm_ViewVFI& form)
+void ViewVFI_btn_SaveToFile(Program& program, frm_ViewVFI& form)
 {
-    Write_Whole_File(Video_Info_File(form.Shown_File), form.txt_VideoInfo.toUtf8());
+    try {
+        Write_Whole_File(Video_Info_File(form.Shown_File), form.txt_VideoInfo.toUtf8());
+    } catch (const Run_Time_Error& error) {
+        program.Person.Show_Message(Failure_Box(
+            u"The video info could not be saved"_s, error,
+            u"A file of that name stays as it was. Make its folder writable, make room on the disk, then save again."_s));
+    }
     form.Focus = u"btn_Done"_s;
 }
 

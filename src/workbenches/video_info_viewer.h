@@ -41,7 +41,7 @@ void ViewVFI_txt_VideoInfo_Drop(Program& program, frm_ViewVFI& form, const Drop_
 /// Shows or hides the codec-private values of the file shown.
 void ViewVFI_btn_ShowCodecData(Program& program, frm_ViewVFI& form);
 /// Writes the text to a file beside the one shown; the run-time error of the file operation if it can't.
-void ViewVFI_btn_SaveToFile(frm_ViewVFI& form);
+void ViewVFI_btn_SaveToFile(Program& program, frm_ViewVFI& form);
 void ViewVFI_btn_Done(Program& program, frm_ViewVFI& form);
 void ViewVFI_img_FontInc(Program& program, frm_ViewVFI& form);
 void ViewVFI_img_FontDec(Program& program, frm_ViewVFI& form);

@@ -122,7 +122,6 @@ TEST_F(Chapters, BadTextIsAnErrorThatNamesTheFileAndKeepsTheOldXml)
         {u"ogm"_s, "CHAPTER01=0\nno sign\n", Error_Number::Subscript_Out_Of_Range},
         {u"ogg"_s, "CHAPTER01=0\nN=a\nno sign\nN=b\n", Error_Number::Subscript_Out_Of_Range},
         {u"ogg"_s, "CHAPTER=0\nN=a\n", Error_Number::Type_Mismatch},
-        {u"ogg"_s, "CHAPTER9999999999=0\nN=a\n", Error_Number::Overflow},
         {u"txt"_s, "", Error_Number::Subscript_Out_Of_Range},
         {u"txt"_s, "\r\n   \r\n\r\n", Error_Number::Subscript_Out_Of_Range},
         {u"txt"_s, "CHAPTER01=0\nN=a\nCHAPTER02=1\n", Error_Number::Subscript_Out_Of_Range},

@@ -1,5 +1,6 @@
 #include "common/stand_in_tool.h"
 #include "common/test_program.h"
+#include "headless/batch_program.h"
 #include "headless/exit_status.h"
 #include "headless/identify_command.h"
 #include "headless/log_command.h"
@@ -8,6 +9,7 @@
 
 #include <QDir>
 #include <gtest/gtest.h>
+#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +38,19 @@ TEST(Log_Command, PrintsTheNewestFiveHundredLinesOrAllOfThemWithPlainLineEnds)
     Memory_Stream out;
     Print_Log(test.Path(u"other/"_s), true, out.Stream());
     EXPECT_EQ(out.Text(), QString()) << "a folder of that name is no log";
+}
+
+TEST(Batch_Program, MemoryThatEndsIsTold)
+{
+    const Test_Program test;
+    Memory_Stream out;
+    Memory_Stream err;
+    const auto no_memory = []() -> bool { throw std::bad_alloc(); };
+    EXPECT_EQ(Run_Batch_Program({u"vantorra-batch"_s, u"--app-folder"_s, test.Path(u"app"_s), test.Path(u"videos"_s),
+                                 test.Path(u"target"_s)},
+                                out.Stream(), err.Stream(), no_memory),
+              Exit_Run_Time_Error);
+    EXPECT_TRUE(err.Text().contains(u"Run-time error '7': Out of memory"_s)) << err.Text().toStdString();
 }
 
 /// Any mkvmerge will do: this one tells the name of the file, and fails for those whose name holds "bad".

@@ -71,6 +71,7 @@ TEST_F(Crash_Test, AKillLeavesTheOldLogOrTheNewOneAndTheNextRunGoesOn)
             Prog.Options.mnu_AppendLogs = append;
             EXPECT_EQ(In_Child([&] { return Write_Process_Log(Prog) ? 0 : 1; }), 0);
             EXPECT_TRUE(Log().contains(Entry)) << append << ' ' << delay;
+            EXPECT_LT(Log().size(), 3 * Entry.size() + (append ? old.size() : 0)) << "no text twice " << delay;
             EXPECT_TRUE(Work_File().isEmpty());
         }
     }
@@ -100,6 +101,17 @@ TEST_F(Crash_Test, AKillBetweenTwoStepsOfTheRotationLosesNothing)
     }
 }
 
+TEST_F(Crash_Test, AnEntryThatIsInTheLogAlreadyIsNotTakenInFromTheWorkFileOnceMore)
+{
+    // A run died between giving the new log its name and removing the work file.
+    Lay_Down(Entry + "\r\nold\r\n");
+    Write(u"app/Vantorra_ProcessNEW.log"_s, Entry);
+    Prog.Options.mnu_AppendLogs = true;
+    Write_Process_Log(Prog);
+    EXPECT_EQ(Log(), Entry + "\r\n" + Entry + "\r\nold\r\n");
+    EXPECT_FALSE(QFile::exists(Path(u"app/Vantorra_ProcessALL.log"_s)));
+}
+
 TEST_F(Crash_Test, AFullDiskIsTheRunTimeErrorAndTheOldLogStaysWhole)
 {
     constexpr int disk_full = 61;
@@ -117,9 +129,9 @@ TEST_F(Crash_Test, AFullDiskIsTheRunTimeErrorAndTheOldLogStaysWhole)
         {"no room at all", true, 0, {}},
         {"in the entry", true, 20, Entry.left(20)},
         {"in the entry, rotating", false, 20, Entry.left(20)},
-        {"at the empty line between", true, static_cast<rlim_t>(Entry.size()) + 1, Entry + "\r"},
-        {"in the old text: what was copied is cut off again", true, 2 << 20, Entry + "\r\n"},
-        {"at its very end", true, static_cast<rlim_t>(Entry.size() + 2 + old.size() - 1), Entry + "\r\n"},
+        {"at the empty line between", true, static_cast<rlim_t>(Entry.size()) + 1, Entry},
+        {"in the old text", true, 2 << 20, Entry},
+        {"at its very end", true, static_cast<rlim_t>(Entry.size() + 2 + old.size() - 1), Entry},
     };
     for (const Case& one : cases) {
         Lay_Down(old);

@@ -11,6 +11,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -95,26 +97,29 @@ TEST_F(Log_Test, TheLevelDecidesOnTheSections)
     }
 }
 
-TEST_F(Log_Test, AppendingCarriesTheOldTextBelowTheNewEntryAndSendsTheOldLogToTheTrash)
+TEST_F(Log_Test, AppendingCarriesTheOldTextBelowTheNewEntryAndTrashesNothing)
 {
     Prog.Options.mnu_AppendLogs = true;
     Write(u"app/Vantorra_ProcessA.log"_s, "a");
     Write(u"app/Vantorra_Process.log"_s, "old one\nold two\r\nno line end");
     const qsizetype trashed = Names_In_Trash().filter(u"Vantorra_Process"_s).size();
+    const auto only_mine = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+    QFile::setPermissions(Path(u"app/Vantorra_Process.log"_s), only_mine);
     Write_Process_Log(Prog);
+    EXPECT_EQ(QFile::permissions(Path(u"app/Vantorra_Process.log"_s)) & (QFileDevice::ReadGroup | only_mine),
+              only_mine);
     EXPECT_EQ(Log(), Header(0) + "\r\n\r\n\r\nold one\nold two\r\nno line end\r\n");
     EXPECT_EQ(Generation("A"), "a");
-    EXPECT_EQ(Names_In_Trash().filter(u"Vantorra_Process"_s).size(), trashed + 1);
+    EXPECT_EQ(Names_In_Trash().filter(u"Vantorra_Process"_s).size(), trashed);
     EXPECT_EQ(Files(), (QStringList{u"Vantorra_Process.log"_s, u"Vantorra_ProcessA.log"_s}));
-    EXPECT_EQ(QDir(Path(u"app"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
 }
 
 TEST_F(Log_Test, WhatACrashedRunLeftInTheWorkFileStaysAheadOfTheNewEntry)
 {
-    for (const auto* leftover : {"left\r\n", "left"}) {
-        Write(u"app/Vantorra_ProcessNEW.log"_s, leftover);
+    for (const QByteArray leftover : {"left\r\n", "over\r\n"}) {
+        Write(u"app/Vantorra_ProcessNEW.log"_s, leftover.first(leftover == "left\r\n" ? 6 : 4));
         Write_Process_Log(Prog);
-        EXPECT_EQ(Log(), "left\r\n" + Header(0) + "\r\n\r\n") << leftover;
+        EXPECT_EQ(Log(), leftover + Header(0) + "\r\n\r\n") << leftover.data();
     }
 }
 
@@ -184,13 +189,16 @@ TEST_F(Log_Test, ATrashThatRefusesTheOldestLogStopsTheRotationAndTheOldTextIsCar
     const QByteArray data_home = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", Write(u"no_folder"_s).toUtf8());
     EXPECT_TRUE(Rotate_Process_Logs(Prog));
-    EXPECT_EQ(Faults().size(), 1) << "the line that says what could not be moved";
+    ASSERT_EQ(Person.Messages.size(), 1U);
+    const QString refusal =
+        u"-- Could not be moved to the trash - \""_s + Path(u"app/Vantorra_ProcessE.log"_s) + u"\"\r\n"_s;
+    EXPECT_TRUE(Person.Messages[0].Text.contains(refusal));
     Write_Process_Log(Prog);
     Prog.Options.mnu_AppendLogs = true;
     Write_Process_Log(Prog);
     qputenv("XDG_DATA_HOME", data_home);
     const QByteArray entry = Header(0) + "\r\n\r\n";
-    EXPECT_EQ(Log(), entry + "\r\n" + entry + "\r\n");
+    EXPECT_EQ(Log(), entry + "\r\n" + entry + refusal.toUtf8() + "\r\n\r\n");
     for (const auto* letter : {"A", "B", "C", "D", "E"})
         EXPECT_EQ(Generation(letter), QByteArray(letter));
 }
@@ -249,6 +257,49 @@ TEST_F(Log_Test, AnotherProgramsEntryIsWaitedFor)
     Write_Process_Log(Prog);
     EXPECT_GE(Person.Waited_Milliseconds, 50);
     EXPECT_EQ(Log(), Header(0) + "\r\n\r\n");
+}
+
+TEST_F(Log_Test, AnEntryThatCanNotGetAtTheLogWaitsInAFileOfItsOwnForTheNextOne)
+{
+    const auto waiting = [&] { return Files().filter(u"ProcessNEW-"_s).size(); };
+    Prog.Options.mnu_AppendLogs = true;
+    auto other = std::make_unique<Folder_Lock>();
+    ASSERT_TRUE(other->Try(Path(u"app"_s)));
+    Write_Process_Log(Prog);
+    EXPECT_GE(Person.Waited_Milliseconds, 60'000);
+    EXPECT_EQ(Person.Messages.size(), 1U);
+
+    Person.Waited_Milliseconds = 0;
+    Prog.Logs.Log_Results.AppendLine(u"halted while it waits"_s);
+    Person.On_Pump = [&] { Prog.Run.Halt_Requested = true; };
+    Write_Process_Log(Prog);
+    EXPECT_LE(Person.Waited_Milliseconds, 1'000);
+    EXPECT_EQ(Person.Messages.size(), 1U) << "who halts wants no box";
+    EXPECT_EQ(waiting(), 2);
+
+    Person.On_Pump = nullptr;
+    Prog.Run.Halt_Requested = false;
+    other.reset();
+    Write_Process_Log(Prog);
+    const QByteArray entry = Header(0) + "\r\n\r\n";
+    EXPECT_EQ(Log(), entry + "\r\n" + Header(0) + "halted while it waits\r\n\r\n\r\n\r\n" + entry);
+    EXPECT_EQ(waiting(), 0);
+}
+
+TEST_F(Log_Test, WhatIsNoPlainFileIsRefusedAndTheEntryIsKept)
+{
+    const QByteArray log = Path(u"app/Vantorra_Process.log"_s).toUtf8();
+    const QByteArray work = Path(u"app/Vantorra_ProcessNEW.log"_s).toUtf8();
+    for (const QByteArray& path : {log, work}) {
+        for (const bool pipe : {true, false}) {
+            ASSERT_EQ(pipe ? ::mkfifo(path, 0600) : ::symlink("/dev/zero", path), 0);
+            EXPECT_THROW(Write_Process_Log(Prog), Run_Time_Error) << path.data() << pipe;
+            ::unlink(path);
+        }
+        Write_Process_Log(Prog);
+        EXPECT_EQ(Log().count("This entry"), path == log ? 3 : 1) << "what waited in the work file, or alone";
+    }
+    EXPECT_EQ(Generation("A").count("This entry") + Generation("B").count("This entry"), 2);
 }
 
 TEST(Form_Lock, ARunTakesMenusAndOptionsAwayAndTheEndGivesThemBackWithoutTheHaltButton)

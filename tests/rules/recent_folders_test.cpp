@@ -91,6 +91,10 @@ TEST_F(RecentFolders, TheWriterDropsEmptyItemsAndThoseWithinAnEarlierText)
         {u"/a/"_s, {u"/x;y/"_s, u"/x\ny/"_s, u"/x\ry/"_s, u"/b/"_s}, u"/a/;/b/"_s},
         {u"/x;y/"_s, {u"/b/"_s, u"/c/"_s}, u";/b/;/c/"_s},
         {u"/x;y/"_s, {}, u"NONE"_s},
+        {u"/a\0b/"_s, {u"/"_s + QString(3000, u'x') + u"/"_s}, u"NONE"_s},
+        {u"/a/"_s,
+         {u"/"_s + QString(2040, u'x') + u"/"_s, u"/"_s + QString(2041, u'x') + u"/"_s, u"/b/"_s},
+         u"/a/;/"_s + QString(2040, u'x') + u"/"_s},
     };
     for (const Claim& claim : claims)
         EXPECT_EQ(Recent_Folders_Value(claim.Path, claim.List), claim.Value) << claim.Path.toStdString();

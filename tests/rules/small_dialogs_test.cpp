@@ -60,7 +60,7 @@ TEST_F(SmallDialogs, TheCustomTitleIsTakenOnDoneOnly)
             kind.Command(Prog);
         };
         act([&] {
-            form.txt_CustomTitle.Text = u"A \"title\""_s;
+            form.txt_CustomTitle.Text = u"A\r\n\"title\""_s;
             btn_CustomTitle_Done_Click(form);
         });
         EXPECT_EQ(title, u"A \"title\""_s);

@@ -142,11 +142,14 @@ TEST_F(Deletions, ATrashThatCannotDescribeWhatItTakesIsNotTriedForEver)
     EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 1);
 }
 
-TEST_F(Deletions, ANameTooLongForTheTrashStays)
+TEST_F(Deletions, ANameTooLongForTheTrashIsCutThereAndTheTrashKnowsAllOfIt)
 {
-    const QString longest = QString(251, u'n') + u".mkv"_s;
+    const QString longest = u"%1"_s.arg(QString(251, u'n')) + u".mkv"_s;
     Test.Write(u"videos/"_s + longest, "x");
-    EXPECT_EQ(Run().filter(u".mkv"_s), QStringList{longest});
-    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 1);
-    EXPECT_EQ(Notes(u"-- Source video file"_s), 1);
+    EXPECT_EQ(Run().filter(u".mkv"_s), QStringList());
+    EXPECT_EQ(Test.Results().filter(u"-- Could not be moved to the trash - \""_s).size(), 0);
+    const QString cut = QString(200, u'n') + u".mkv"_s;
+    QFile info(qEnvironmentVariable("XDG_DATA_HOME") + u"/Trash/info/"_s + cut + u".trashinfo"_s);
+    ASSERT_TRUE(info.open(QIODevice::ReadOnly)) << Names_In_Trash().join(u'|').toStdString();
+    EXPECT_TRUE(info.readAll().contains('/' + longest.toUtf8() + '\n'));
 }

@@ -1,9 +1,13 @@
 #include "settings/ini_file.h"
 
 #include "common/test_program.h"
+#include "support/files.h"
+#include "support/plain_file.h"
 #include "support/run_time_error.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -51,7 +55,7 @@ TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
         {u"Menu"_s, u"No equals sign"_s, std::nullopt},
         {u"Menu"_s, u"Equals"_s, u"a=b"_s},
         {u"Menu"_s, u"Second"_s, std::nullopt},
-        {u"Umlaut"_s, u"N\u00E4me"_s, u"\u00FC\uFFFD"_s},
+        {u"Umlaut"_s, u"N\u00E4me"_s, u"\u00C3\u00BC\u00FF"_s},
         {u"Cut"_s, u"Last"_s, std::nullopt},
         {u"Nowhere"_s, u"Last"_s, std::nullopt},
     };
@@ -151,15 +155,24 @@ TEST(IniFile, FiftyMegabytesAreTakenAndKept)
     EXPECT_EQ(document.Content().size(), big.size() - 3999);
 }
 
-TEST(IniFile, WhatIsNoPlainFileIsAnErrorThatNamesIt)
+TEST(IniFile, WhatIsNoPlainFileOrTooLargeIsAnErrorThatNamesIt)
 {
     const Test_Program test;
     EXPECT_EQ(Load_Ini_File(test.Path(u"app/none.ini"_s)).Content(), QByteArray());
-    try {
-        Load_Ini_File(test.Path(u"app"_s));
-        FAIL() << "a folder was read as a file";
-    } catch (const Run_Time_Error& error) {
-        EXPECT_EQ(error.Subject(), test.Path(u"app"_s));
+    const QString pipe = test.Path(u"app/pipe"_s);
+    ASSERT_EQ(::mkfifo(pipe.toUtf8(), 0600), 0);
+    const QString device = test.Path(u"app/device"_s);
+    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, device));
+    const QString large = test.Write(u"app/large"_s, "[a]");
+    ASSERT_TRUE(QFile::resize(large, Longest_Side_File + 1));
+    for (const QString& path : {test.Path(u"app"_s), pipe, device, large}) {
+        try {
+            Load_Ini_File(path);
+            ADD_FAILURE() << path.toStdString() << " was read";
+        } catch (const Run_Time_Error& error) {
+            EXPECT_EQ(error.Subject(), path);
+        }
+        EXPECT_THROW(Read_Lines(path), Run_Time_Error) << path.toStdString();
     }
 }
 

@@ -413,6 +413,8 @@ static const Text_Claim Texts[] = {
     {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "word", u"30"_s},
     {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "", u"30"_s},
     {u"Vantorra - by Zarnegar"_s, u"Version"_s, "1.0.0", u"2.5.5"_s},
+    {u"Audio Option Files"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "1:2:3:4:no", u"1:2:3:4:0"_s},
+    {u"Other Options"_s, u"Set Custom File Title Text"_s, "Fran\xE7ois", u"Fran\u00E7ois"_s},
     {u"Extensions"_s, u"Careful Batch"_s, "perhaps", u"Off"_s},
     {u"Extensions"_s, u"If The Output Exists"_s, "number", u"Number"_s},
     {u"Extensions"_s, u"If The Output Exists"_s, "perhaps", u"Replace"_s},

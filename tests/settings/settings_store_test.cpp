@@ -152,6 +152,19 @@ TEST(SettingsStore, WithSaveOnExitOffOnlyThatSettingIsWritten)
     EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), QByteArray(before).replace("=True", "=False"));
 }
 
+TEST(SettingsStore, AFileWithThatSettingAloneReadsAsTheFirstOneWould)
+{
+    Test_Program test;
+    test.Prog.Form.Place = {.Left = 1, .Top = 2, .Width = 800, .Height = 600};
+    test.Write(u"app/Vantorra.ini"_s, "[MainWindow]\nSave Settings on Exit=False\n");
+    Read_Settings(test.Prog);
+    EXPECT_FALSE(test.Prog.Settings.Save_On_Exit);
+    EXPECT_EQ(test.Prog.Form.Place.Width, 800);
+    // A missing key would mean that these are on.
+    EXPECT_FALSE(test.Prog.Options.Delete_Video_After || test.Prog.Options.mnu_AppendLogs);
+    EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), "[MainWindow]\nSave Settings on Exit=False\n");
+}
+
 TEST(SettingsStore, SavingNowResetsTheLogViewersFontAlone)
 {
     Test_Program test;

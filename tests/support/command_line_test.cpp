@@ -58,6 +58,7 @@ TEST(CommandLine, AValuesArgumentLosesOneOuterPairOfQuotesAndTheEscapes)
         {u"0:\\\"\"\"\"x\\\""_s, u"0:\"\"x\""_s},
         {u"0:\\\"\"\"x"_s, u"0:\"\"\"x"_s},
         {u"0:back\\slash\\"_s, u"0:back\\slash\\"_s},
+        {u"\"0:a\0b\""_s, u"0:a"_s},
     };
     for (const Claim& claim : claims)
         EXPECT_EQ(Command_Line::Argument_Of(claim.Value), claim.Argument) << claim.Value.toStdString();

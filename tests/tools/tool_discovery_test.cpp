@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -82,6 +83,17 @@ TEST_F(Tools_Test, FFProbeOfPathIsLinkedIntoTheProgramsFolder)
     ASSERT_EQ(Person.Messages.size(), 1U) << "a folder stands in the way";
     EXPECT_TRUE(Person.Messages[0].Text.contains(own));
     QDir().rmdir(own);
+
+    Test_Program other;
+    other.Prog.Settings.App_Folder = Prog.Settings.App_Folder;
+    for (int round = 0; round < 200; ++round) {
+        std::thread at_once([&] { Link_FFProbe(other.Prog); });
+        Link_FFProbe(Prog);
+        at_once.join();
+        ASSERT_TRUE(QFile::remove(own));
+    }
+    EXPECT_EQ(Person.Messages.size() + other.Person.Messages.size(), 1U)
+        << "of two first starts, the later one is content";
 
     Prog.Run.Dry_Run = true;
     Link_FFProbe(Prog);
