@@ -111,6 +111,7 @@ static void Put_Work_File_In_Place(Program& program)
     const QString work = Process_Log_Work_Path(folder);
     Require_Plain_Or_Nothing(log, u"Writing the process log (the entry waits in %1)"_s.arg(File_Name_Of(work)));
     if (!File_Exists(log)) {
+        program.Person.Pump_Events();
         Rename_Log(work, log);
         return;
     }

@@ -87,6 +87,9 @@ TEST_F(Chapters, TextIsReadInItsOwnStyle)
         {u"ogm"_s, "CHAPTER01=\nN=lost\nCHAPTER02=5\nN=kept\n\n", {u"2|5|01:30:00.5|kept"_s}},
         {u"ogg"_s, "00:00:00 not Ogg style\n", {u"||01:30:00.5|Chapter 1"_s}},
         {u"ogg"_s, "", {u"||01:30:00.5|Chapter 1"_s}},
+        // Numbers beyond 32 bits, and beyond 64.
+        {u"ogg"_s, "CHAPTER9999999999=0\nN=a\n", {u"9999999999|0|01:30:00.5|a"_s}},
+        {u"ogg"_s, "CHAPTER7700000000000000000012=0\nN=a\n", {u"12|0|01:30:00.5|a"_s}},
         {u"txt"_s,
          "00:00:00.000 Act One\n\n   \n00:05:00.000 Act  Two\n00:09:00.000\n\n",
          {u"1|00:00:00.000|00:05:00.000| Act One"_s, u"2|00:05:00.000|00:09:00.000| Act  Two"_s,

@@ -46,8 +46,8 @@ TEST(Batch_Program, MemoryThatEndsIsTold)
     Memory_Stream out;
     Memory_Stream err;
     const auto no_memory = []() -> bool { throw std::bad_alloc(); };
-    EXPECT_EQ(Run_Batch_Program({u"vantorra-batch"_s, u"--app-folder"_s, test.Path(u"app"_s), test.Path(u"videos"_s),
-                                 test.Path(u"target"_s)},
+    EXPECT_EQ(Run_Batch_Program({u"vantorra-batch"_s, u"--app-folder"_s, test.Path(u"app"_s), u"--videos"_s,
+                                 test.Path(u"videos"_s), u"--target"_s, test.Path(u"target"_s)},
                                 out.Stream(), err.Stream(), no_memory),
               Exit_Run_Time_Error);
     EXPECT_TRUE(err.Text().contains(u"Run-time error '7': Out of memory"_s)) << err.Text().toStdString();
