@@ -64,6 +64,17 @@ void Check_A_Change(const QByteArray& text)
     }
 }
 
+/// Only of what is read: whether a box is enabled is written for other readers, and follows from what the file said.
+void Check_The_Values(const QByteArray& once, const QByteArray& twice)
+{
+    const Ini_Document first(once);
+    const Ini_Document second(twice);
+    for (const Settings_Row& row : Settings_Rows())
+        Claim(row.Used != Settings_Row::Use::Read ||
+                  first.Value(row.Section, row.Key) == second.Value(row.Section, row.Key),
+              "what was read and written is read and written as it is", row.Section + u'/' + row.Key);
+}
+
 } // namespace
 
 /// Vantorra.ini: the text with its rules, and all settings read from it and written into it again.
@@ -75,6 +86,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     Check_A_Change(text);
     if (const auto once = Read_And_Written(Ini_Document(text)))
         if (const auto twice = Read_And_Written(Ini_Document(*once)))
-            Claim(once == twice, "what was read and written is read and written as it is", QString::fromUtf8(*once));
+            Check_The_Values(*once, *twice);
     return 0;
 }
