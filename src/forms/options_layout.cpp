@@ -47,7 +47,6 @@ static void Reserve(QCheckBox& box, const QString& widest)
 Options_Layout::Options_Layout(Ui::Startform& ui, QObject* parent) : QObject(parent), ui_(ui)
 {
     ui_.scr_Options->viewport()->installEventFilter(this);
-    Measure();
 }
 
 void Options_Layout::Measure()

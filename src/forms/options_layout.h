@@ -23,7 +23,7 @@ class Options_Layout : public QObject
     QSize Whole_Size() const;
     /// The width that a scroll bar takes, with its distance from the groups.
     int Scroll_Bar_Room() const;
-    /// After a change of font or style.
+    /// Ahead of the first show, and after a change of font or style.
     void Measure();
 
   protected:
