@@ -1,10 +1,21 @@
 #compdef vantorra-batch
-# zsh completion for vantorra-batch
+# zsh completion for vantorra-batch. The program itself names its boxes, keys and their values.
+
+_vantorra_batch_list() {
+    local -a names=("${(@f)$(_call_program names ${(q)words[1]} --complete ${(q)1} 2>/dev/null)}")
+    compadd "${@:2}" -a names
+}
 
 _vantorra_batch_boxes() {
-    # The program knows its boxes.
-    local -a boxes=(${(f)"$(_call_program boxes ${(q)words[1]} --list-boxes 2>/dev/null)"})
-    compadd -a boxes
+    _vantorra_batch_list boxes
+}
+
+_vantorra_batch_setting() {
+    if compset -P 1 '*='; then
+        _vantorra_batch_list "values:${${(Q)IPREFIX}%%=*}"
+    else
+        _vantorra_batch_list keys -S =
+    fi
 }
 
 _vantorra_batch_commands() {
@@ -15,18 +26,26 @@ _vantorra_batch_commands() {
         'log:print the process log'
     )
     _describe command commands
+    _files -/
 }
 
-_arguments \
+_arguments -s \
     '--videos[take the videos from this folder]:folder:_files -/' \
     '--target[put the Matroska files into this folder]:folder:_files -/' \
     '--app-folder[where Vantorra.ini, ffprobe and the logs are]:folder:_files -/' \
-    '*--set[read a setting as if Vantorra.ini said so]:Section/Key=Value:' \
+    '*--set[read a setting as if Vantorra.ini said so]:Section/Key=Value:_vantorra_batch_setting' \
     '*--tick[tick a check box]:check box:_vantorra_batch_boxes' \
     '*--untick[untick a check box]:check box:_vantorra_batch_boxes' \
-    '--dry-run[print each mkvmerge command, run none]' \
+    '(--classic)--careful[run as a careful batch]' \
+    '(--careful --resume --failed --only --leave-out)--classic[run as a classic batch]' \
+    '(-n --dry-run)'{-n,--dry-run}'[print each mkvmerge command, run none]' \
+    '--check[tell what would come of each video and what is wrong with it]' \
+    '(--classic)--resume[leave out what is done already]' \
+    '(--classic)--failed[take only what failed last]' \
+    '*--only[take only videos of such names]:pattern:' \
+    '*--leave-out[leave videos of such names out]:pattern:' \
     '--json[print one JSON object a line]' \
-    '--quiet[print faults only]' \
+    '(-q --quiet)'{-q,--quiet}'[print faults only]' \
     '--full[log: print all of it]' \
     '--codec-private[identify: print the codec-private values, too]' \
     '(- *)'{-v,--version}'[print the version]' \

@@ -31,12 +31,24 @@ struct Batch_Options
     QStringList Settings = {};          ///< --set: "Section/Key=Value" each
     std::vector<Box_Click> Clicks = {}; ///< in the order of the command line
     bool Dry_Run = false;
+    bool Check = false;               ///< a dry run that is told as a table
+    std::optional<bool> Careful = {}; ///< --careful or --classic; nothing: as the settings say
+    bool Resume = false;
+    bool Only_Failed = false;
+    QStringList Only = {};      ///< patterns of names; empty: all
+    QStringList Leave_Out = {}; ///< patterns of names
     bool Json = false;
     bool Quiet = false;
     bool Full = false;          ///< log: all of it, not its first lines only
     bool Codec_Private = false; ///< identify: with the codec-private values
     QStringList Files = {};     ///< identify: absolute paths
 };
+
+/// The long names of all options, with their two dashes, in the order of the help.
+QStringList Option_Names();
+
+/// The words of all commands.
+QStringList Command_Names();
 
 /// What became of the command line: options, or a text to print (help, version, names), or a mistake.
 struct Batch_Line

@@ -23,6 +23,22 @@
 
 using namespace Qt::StringLiterals;
 
+/// Which videos a careful run takes. Throws Bad_Usage for a choice in a run that is a classic one.
+static void Choose_Videos(Program& program, const Batch_Options& options)
+{
+    program.Run.Careful_Asked = options.Careful;
+    program.Run.Choice = {.Resume = options.Resume,
+                          .Only_Failed = options.Only_Failed,
+                          .Only = options.Only,
+                          .Leave_Out = options.Leave_Out};
+    const bool chosen =
+        options.Resume || options.Only_Failed || !options.Only.isEmpty() || !options.Leave_Out.isEmpty();
+    if (chosen && !options.Careful.value_or(program.Settings.Extensions.Careful_Batch))
+        throw Bad_Usage{
+            u"--resume, --failed, --only and --leave-out belong to a careful batch, which the settings turn "
+            u"off: add --careful."_s};
+}
+
 /// The program as the window would have it once it is ready, and then what the command line changes.
 static void Set_Up(Program& program, const Batch_Options& options, Batch_Report& report)
 {
@@ -36,6 +52,13 @@ static void Set_Up(Program& program, const Batch_Options& options, Batch_Report&
     if (!options.Target.isEmpty())
         program.Options.Path_Target = options.Target;
     Click_Boxes(program, options.Clicks);
+    Choose_Videos(program, options);
+}
+
+static int Exit_Of(const Outcome_Counts& counts, bool check)
+{
+    const bool amiss = counts.Failed > 0 || counts.Kept > 0 || (check && counts.Problems > 0);
+    return amiss ? Exit_Some_Failed : Exit_Finished;
 }
 
 static int Run_The_Batch(Program& program, const Batch_Options& options, Batch_Report& report)
@@ -45,7 +68,7 @@ static int Run_The_Batch(Program& program, const Batch_Options& options, Batch_R
         report.Ended(Batch_End::Interrupted, Exit_Halted);
         return Exit_Halted;
     case Press_Result::Finished: {
-        const int exit = report.Counts().Failed > 0 ? Exit_Some_Failed : Exit_Finished;
+        const int exit = Exit_Of(report.Counts(), options.Check);
         report.Ended(Batch_End::Finished, exit);
         return exit;
     }

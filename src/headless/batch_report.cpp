@@ -1,13 +1,16 @@
 #include "headless/batch_report.h"
 
 #include "headless/batch_options.h"
+#include "headless/check_report.h"
 #include "headless/json_report.h"
 #include "headless/plain_report.h"
 #include "headless/print.h"
+#include "headless/progress_bar.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -15,7 +18,9 @@ using namespace Qt::StringLiterals;
 std::unique_ptr<Batch_Report> Batch_Report::Make(const Batch_Options& options, std::FILE* out, std::FILE* err)
 {
     if (options.Json)
-        return std::make_unique<Json_Report>(out, err);
+        return std::make_unique<Json_Report>(options.Check, out, err);
+    if (options.Check)
+        return std::make_unique<Check_Report>(out, err);
     return std::make_unique<Plain_Report>(options.Quiet, out, err);
 }
 
@@ -38,6 +43,7 @@ void Batch_Report::Show_Message(const Message_Box& box)
 void Batch_Report::Warn(const QString& title, const QString& text)
 {
     Complain(u"warning: "_s + text);
+    warned_ += text;
     Tell(0, title, text);
 }
 
@@ -55,41 +61,112 @@ void Batch_Report::Show_Error(const Run_Time_Error& error)
     Tell(0, text.left(end).trimmed(), text);
 }
 
+void Batch_Report::Run_Started(int)
+{
+    clock_.start();
+}
+
 void Batch_Report::File_Started(int, const QString& source)
 {
     source_ = source;
+    // Now: it may be in the trash when it is done.
+    source_bytes_ = QFileInfo(source).size();
 }
 
 void Batch_Report::Warned(const QString& title, const QString& text)
 {
-    warned_ += text;
     Warn(title, text);
+}
+
+static void Count(const File_Outcome& outcome, Outcome_Counts& counts)
+{
+    switch (outcome.Status) {
+    case File_Outcome::Kind::Done:
+        ++(outcome.Warnings.isEmpty() ? counts.Done : counts.Warnings);
+        break;
+    case File_Outcome::Kind::Failed:
+        ++counts.Failed;
+        break;
+    case File_Outcome::Kind::Skipped:
+        ++counts.Skipped;
+        break;
+    case File_Outcome::Kind::Not_Run:
+        ++counts.Not_Run;
+        break;
+    }
+}
+
+/// A warning about a habit of the classic run without what differs from video to video; empty for any other.
+static QString Habit_Of(const QString& warning)
+{
+    const QString key = u"\"Sensible Names And Sizes\""_s;
+    static const QRegularExpression quoted(u"\"[^\"]*\""_s);
+    return warning.contains(key) ? QString(warning).remove(quoted) : QString();
+}
+
+QStringList Batch_Report::Problems_Of(const File_Outcome& outcome) const
+{
+    QStringList problems;
+    const bool is_problem =
+        outcome.Status == File_Outcome::Kind::Failed || outcome.Status == File_Outcome::Kind::Skipped;
+    if (is_problem)
+        problems += outcome.Reason.isEmpty() ? u"it can't be processed"_s : outcome.Reason;
+    else if (File_Exists(outcome.Output))
+        problems += u"the output exists already and would be replaced"_s;
+    return problems + outcome.Warnings;
+}
+
+/// What is said about a video on standard error, a line each: its reason and its warnings. What was never run has one
+/// reason for all of them, and a habit is told once in a batch.
+void Batch_Report::Say_Reasons(const File_Outcome& outcome)
+{
+    const QString name = File_Name_Of(outcome.Source);
+    const auto say = [&](const QString& line, const QString& text) {
+        reasons_ += line;
+        if (!warned_.contains(text))
+            Complain(line);
+    };
+    if (!outcome.Reason.isEmpty() && outcome.Status == File_Outcome::Kind::Failed)
+        say(name + u" failed: "_s + outcome.Reason, outcome.Reason);
+    else if (!outcome.Reason.isEmpty() && outcome.Status == File_Outcome::Kind::Skipped)
+        say(name + u" skipped: "_s + outcome.Reason, outcome.Reason);
+    for (const QString& warning : outcome.Warnings) {
+        const QString habit = Habit_Of(warning);
+        if (!habit.isEmpty() && habits_told_.contains(habit))
+            continue;
+        say(u"warning: "_s + name + u": "_s + warning, warning);
+        if (!habit.isEmpty())
+            habits_told_ += habit;
+    }
 }
 
 void Batch_Report::File_Finished(const File_Outcome& outcome)
 {
-    switch (outcome.Status) {
-    case File_Outcome::Kind::Done:
-        ++(outcome.Warnings.isEmpty() ? counts_.Done : counts_.Warnings);
-        break;
-    case File_Outcome::Kind::Failed:
-        ++counts_.Failed;
-        break;
-    case File_Outcome::Kind::Skipped:
-        ++counts_.Skipped;
-        break;
-    case File_Outcome::Kind::Not_Run:
-        ++counts_.Not_Run;
-        break;
-    }
-    const QString name = File_Name_Of(outcome.Source);
-    if (outcome.Status == File_Outcome::Kind::Failed && !outcome.Reason.isEmpty())
-        Complain(name + u" failed: "_s + outcome.Reason);
-    for (const QString& warning : outcome.Warnings)
-        if (!warned_.contains(warning))
-            Complain(u"warning: "_s + name + u": "_s + warning);
-    warned_.clear();
+    Count(outcome, counts_);
+    if (outcome.Status == File_Outcome::Kind::Done)
+        counts_.Bytes += source_bytes_;
+    if (outcome.Source_Kept)
+        ++counts_.Kept;
+    if (program_->Run.Dry_Run && !Problems_Of(outcome).isEmpty())
+        ++counts_.Problems;
+    Say_Reasons(outcome);
     source_.clear();
+    source_bytes_ = 0;
+    warned_.clear();
+}
+
+QString Summary_Of(const Outcome_Counts& counts, qint64 milliseconds)
+{
+    return u"%1 done, %2 with warnings, %3 failed, %4 skipped, %5 not run - %6 in %7"_s.arg(
+        QString::number(counts.Done), QString::number(counts.Warnings), QString::number(counts.Failed),
+        QString::number(counts.Skipped), QString::number(counts.Not_Run), Size_Text(static_cast<double>(counts.Bytes)),
+        Time_Text(milliseconds / 1000));
+}
+
+void Batch_Report::Done_Before(int files)
+{
+    Complain(u"%1 done before"_s.arg(files));
+    Tell(0, u"Done before"_s, QString::number(files));
 }
 
 void Batch_Report::Refused(const QString& reason)

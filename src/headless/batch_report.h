@@ -4,6 +4,7 @@
 #include "support/operator.h"
 #include "support/run_time_error.h"
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
 #include <cstdio>
@@ -29,7 +30,14 @@ struct Outcome_Counts
     int Failed = 0;
     int Skipped = 0;
     int Not_Run = 0;
+
+    int Kept = 0;     ///< of those with warnings: whose source should have gone to the trash and stays
+    int Problems = 0; ///< videos of a dry run of which Problems_Of has something to say
+    qint64 Bytes = 0; ///< sizes of the sources that are done
 };
+
+/// "36 done, 1 with warnings, 2 failed, 1 skipped, 0 not run - 12.4 GB in 3:10".
+QString Summary_Of(const Outcome_Counts& counts, qint64 milliseconds);
 
 /// What vantorra-batch says while it works: keeps count of the files and leaves the words to its two kinds, one for
 /// people and one for programs.
@@ -58,10 +66,12 @@ class Batch_Report : public Run_Listener
     /// The last thing said. `exit` is the program's exit status.
     virtual void Ended(Batch_End end, int exit) = 0;
 
+    void Run_Started(int files) override;
     void File_Started(int index, const QString& source) override;
     void Warned(const QString& title, const QString& text) override;
     void File_Finished(const File_Outcome& outcome) override;
     void Refused(const QString& reason) override;
+    void Done_Before(int files) override;
 
   protected:
     const Program& Watched() const { return *program_; }
@@ -74,6 +84,20 @@ class Batch_Report : public Run_Listener
 
     const QString& Source_In_Work() const { return source_; }
 
+    qint64 Bytes_In_Work() const { return source_bytes_; }
+
+    /// What is wrong with a video that a dry run looked at; empty: nothing is known.
+    QStringList Problems_Of(const File_Outcome& outcome) const;
+
+    /// Says on standard error what is to be said about a video beside it.
+    virtual void Say_Reasons(const File_Outcome& outcome);
+
+    /// "NAME failed: reason" for each thing that was said about a video, in order.
+    const QStringList& Reasons() const { return reasons_; }
+
+    /// Since the run began; 0 before.
+    qint64 Milliseconds() const { return clock_.isValid() ? clock_.elapsed() : 0; }
+
     std::FILE* Out() const { return out_; }
 
   private:
@@ -81,6 +105,10 @@ class Batch_Report : public Run_Listener
     std::FILE* err_;
     const Program* program_ = nullptr;
     QString source_;
-    QStringList warned_; ///< warnings of the file in work that were told as they came up
+    qint64 source_bytes_ = 0;
+    QElapsedTimer clock_;
+    QStringList reasons_;
+    QStringList habits_told_;
+    QStringList warned_; ///< said since the last video was done
     Outcome_Counts counts_;
 };

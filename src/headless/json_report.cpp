@@ -15,8 +15,17 @@ static std::string Text(const QString& text)
     return Bytes_Shown(text).toStdString();
 }
 
+static Json Texts(const QStringList& texts)
+{
+    Json array = Json::array();
+    for (const QString& text : texts)
+        array.push_back(Text(text));
+    return array;
+}
+
 void Json_Report::Run_Started(int files)
 {
+    Batch_Report::Run_Started(files);
     Print_Json(Out(), {{"event", "run"},
                        {"videos", Text(Watched().Options.Path_Videos)},
                        {"target", Text(Watched().Options.Path_Target)},
@@ -32,14 +41,13 @@ void Json_Report::File_Started(int index, const QString& source)
 
 void Json_Report::Command_Ready(const QString& source, const QString& output, const Command_Line& command)
 {
-    Json arguments = Json::array();
-    for (const QString& argument : command.Arguments())
-        arguments.push_back(Text(argument));
+    if (check_)
+        facts_ = Check_Facts_Of(Watched(), command);
     Print_Json(Out(), {{"event", "command"},
                        {"source", Text(source)},
                        {"output", Text(output)},
                        {"text", Text(command.Text())},
-                       {"arguments", std::move(arguments)}});
+                       {"arguments", Texts(command.Arguments())}});
 }
 
 void Json_Report::Progress(int percent, int overall)
@@ -68,12 +76,23 @@ static const char* Status_Word(File_Outcome::Kind status)
     return "";
 }
 
+void Json_Report::Print_Check(const File_Outcome& outcome)
+{
+    Print_Json(Out(), {{"event", "check"},
+                       {"source", Text(outcome.Source)},
+                       {"output", Text(outcome.Output)},
+                       {"tracks", Texts(facts_.Tracks)},
+                       {"added", Texts(facts_.Added)},
+                       {"chapters", Text(facts_.Chapters)},
+                       {"problems", Texts(Problems_Of(outcome))}});
+}
+
 void Json_Report::File_Finished(const File_Outcome& outcome)
 {
+    if (check_)
+        Print_Check(outcome);
+    facts_ = {};
     Batch_Report::File_Finished(outcome);
-    Json warnings = Json::array();
-    for (const QString& warning : outcome.Warnings)
-        warnings.push_back(Text(warning));
     Json result{{"event", "result"},
                 {"source", Text(outcome.Source)},
                 {"output", Text(outcome.Output)},
@@ -81,9 +100,9 @@ void Json_Report::File_Finished(const File_Outcome& outcome)
                 {"exit", outcome.Exit},
                 {"seconds", std::round(outcome.Seconds * 1000) / 1000},
                 {"reason", Text(outcome.Reason)},
-                {"warnings", std::move(warnings)}};
-    for (const QString& piece : outcome.Pieces)
-        result["pieces"].push_back(Text(piece));
+                {"warnings", Texts(outcome.Warnings)}};
+    if (!outcome.Pieces.isEmpty())
+        result["pieces"] = Texts(outcome.Pieces);
     Print_Json(Out(), result);
 }
 

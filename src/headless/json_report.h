@@ -1,12 +1,14 @@
 #pragma once
 
 #include "headless/batch_report.h"
+#include "headless/check_facts.h"
 
 /// One JSON object a line on standard output; the first key of each is "event".
 class Json_Report : public Batch_Report
 {
   public:
-    using Batch_Report::Batch_Report;
+    /// `check`: what --check tells of each video, too.
+    Json_Report(bool check, std::FILE* out, std::FILE* err) : Batch_Report(out, err), check_(check) {}
 
     void Run_Started(int files) override;
     void File_Started(int index, const QString& source) override;
@@ -17,4 +19,10 @@ class Json_Report : public Batch_Report
 
   protected:
     void Tell(int code, const QString& title, const QString& text) override;
+
+  private:
+    void Print_Check(const File_Outcome& outcome);
+
+    bool check_;
+    Check_Facts facts_;
 };

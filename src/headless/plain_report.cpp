@@ -24,15 +24,39 @@ void Plain_Report::Command_Ready(const QString&, const QString&, const Command_L
                    Shell_Quoted(QStringList{Watched().Tools.System_MKVMerge_Path} + command.Arguments()) + u'\n');
 }
 
-void Plain_Report::Progress(int, int overall)
+void Plain_Report::Run_Started(int files)
 {
-    bar_.Show(overall, Printable(File_Name_Of(Source_In_Work())));
+    Batch_Report::Run_Started(files);
+    files_ = files;
 }
 
-/// The reason behind a file's name, if there is one.
-static QString In_Brackets(const QString& reason)
+void Plain_Report::File_Started(int index, const QString& source)
 {
-    return reason.isEmpty() ? QString() : u" ("_s + Printable(reason) + u')';
+    Batch_Report::File_Started(index, source);
+    index_ = index;
+}
+
+void Plain_Report::Progress(int percent, int overall)
+{
+    // Speed and rest are guesses that need a moment.
+    constexpr double first_guess = 2;
+    const double seconds = static_cast<double>(Milliseconds()) / 1000;
+    Bar_Facts facts{
+        .Index = index_, .Files = files_, .Percent = overall, .Name = Printable(File_Name_Of(Source_In_Work()))};
+    if (seconds >= first_guess) {
+        const double bytes = static_cast<double>(Counts().Bytes) + static_cast<double>(Bytes_In_Work()) * percent / 100;
+        facts.Bytes_A_Second = bytes / seconds;
+        if (overall > 0)
+            facts.Seconds_Left = static_cast<qint64>(seconds * (100 - overall) / overall);
+    }
+    bar_.Show(facts);
+}
+
+void Plain_Report::Say_Reasons(const File_Outcome& outcome)
+{
+    if (!quiet_ && !Watched().Run.Dry_Run)
+        Print_Result(outcome);
+    Batch_Report::Say_Reasons(outcome);
 }
 
 /// What stands in the target now: one file, or the pieces of a split run.
@@ -44,11 +68,8 @@ static QString Written_Files(const File_Outcome& outcome)
                                         QString::number(outcome.Pieces.size()));
 }
 
-void Plain_Report::File_Finished(const File_Outcome& outcome)
+void Plain_Report::Print_Result(const File_Outcome& outcome)
 {
-    Batch_Report::File_Finished(outcome);
-    if (quiet_ || Watched().Run.Dry_Run)
-        return;
     const QString name = Printable(File_Name_Of(outcome.Source));
     bar_.Wipe();
     switch (outcome.Status) {
@@ -57,13 +78,15 @@ void Plain_Report::File_Finished(const File_Outcome& outcome)
                                                               QString::number(outcome.Seconds, 'f', 1)));
         break;
     case File_Outcome::Kind::Failed:
-        Print_Text(Out(), u"failed   "_s + name + In_Brackets(outcome.Reason) + u'\n');
+        Print_Text(Out(), u"failed   "_s + name + u'\n');
         break;
     case File_Outcome::Kind::Skipped:
-        Print_Text(Out(), u"skipped  "_s + name + In_Brackets(outcome.Reason) + u'\n');
+        Print_Text(Out(), u"skipped  "_s + name + u'\n');
         break;
     case File_Outcome::Kind::Not_Run:
-        Print_Text(Out(), u"not run  "_s + name + In_Brackets(outcome.Reason) + u'\n');
+        Print_Text(Out(), u"not run  "_s + name +
+                              (outcome.Reason.isEmpty() ? QString() : u" ("_s + Printable(outcome.Reason) + u')') +
+                              u'\n');
         break;
     }
 }
@@ -73,14 +96,10 @@ void Plain_Report::Ended(Batch_End end, int)
     bar_.Wipe();
     if (quiet_ || Watched().Run.Dry_Run || end == Batch_End::Refused || end == Batch_End::Error)
         return;
-    const Outcome_Counts& counts = Counts();
-    QString line = u"%1: %2 done"_s.arg(end == Batch_End::Finished ? u"FINISHED"_s : u"INTERRUPTED"_s).arg(counts.Done);
-    if (counts.Warnings > 0)
-        line += u", %1 done with warnings"_s.arg(counts.Warnings);
-    line += u", %1 failed"_s.arg(counts.Failed);
-    if (counts.Skipped > 0)
-        line += u", %1 skipped"_s.arg(counts.Skipped);
-    if (counts.Not_Run > 0)
-        line += u", %1 not run"_s.arg(counts.Not_Run);
-    Print_Text(Out(), line + u'\n');
+    Print_Text(Out(), (end == Batch_End::Finished ? u"FINISHED: "_s : u"INTERRUPTED: "_s) +
+                          Summary_Of(Counts(), Milliseconds()) + u'\n');
+    // Again, where they can be found behind a thousand lines. What is told beside the only video stands right above.
+    if (files_ > 1)
+        for (const QString& reason : Reasons())
+            Complain(reason);
 }

@@ -11,8 +11,7 @@ void Print_Text(std::FILE* stream, const QString& text)
 
 void Print_Json(std::FILE* stream, const nlohmann::ordered_json& object)
 {
-    using Json = nlohmann::ordered_json;
-    const std::string line = object.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+    const std::string line = object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + '\n';
     std::fwrite(line.data(), 1, line.size(), stream);
     std::fflush(stream);
 }

@@ -1,5 +1,6 @@
 #include "headless/progress_bar.h"
 
+#include <QStringList>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -17,12 +18,51 @@ static QString Fitting(const QString& text, int columns)
     return text;
 }
 
-QString Bar_Text(int percent, const QString& name, int columns)
+QString Size_Text(double bytes)
 {
-    constexpr int cells = 30;
-    const int filled = std::clamp(percent, 0, 100) * cells / 100;
-    const QString bar = u"[%1%2] %3% "_s.arg(QString(filled, u'#'), QString(cells - filled, u' ')).arg(percent, 3);
-    return Fitting(bar + name, columns);
+    static const QStringList units = {u"B"_s, u"KB"_s, u"MB"_s, u"GB"_s, u"TB"_s};
+    qsizetype unit = 0;
+    for (; bytes >= 999.5 && unit + 1 < units.size(); ++unit)
+        bytes /= 1000;
+    return QString::number(bytes, 'f', unit == 0 || bytes >= 99.95 ? 0 : 1) + u' ' + units[unit];
+}
+
+QString Time_Text(qint64 seconds, bool hours)
+{
+    const auto two_digits = [](qint64 number) { return QString::number(number).rightJustified(2, u'0'); };
+    if (!hours && seconds < 3600)
+        return QString::number(seconds / 60) + u':' + two_digits(seconds % 60);
+    return QString::number(seconds / 3600) + u':' + two_digits(seconds / 60 % 60) + u':' + two_digits(seconds % 60);
+}
+
+QString Facts_Text(const Bar_Facts& facts)
+{
+    QString text = u"%1/%2 %3%"_s.arg(facts.Index).arg(facts.Files).arg(facts.Percent);
+    if (facts.Bytes_A_Second > 0)
+        text += u' ' + Size_Text(facts.Bytes_A_Second) + u"/s"_s;
+    if (facts.Seconds_Left >= 0)
+        text += u' ' + Time_Text(facts.Seconds_Left, true);
+    return text + u' ' + facts.Name;
+}
+
+QString Bar_Text(const Bar_Facts& facts, int columns)
+{
+    // A third of the line at most; below these columns the facts need all of it.
+    constexpr int narrow = 60;
+    const int cells = columns < narrow ? 0 : std::min(columns / 3, 60);
+    const int filled = std::clamp(facts.Percent, 0, 100) * cells / 100;
+    const QString bar = cells == 0 ? QString() : u'[' + QString(filled, u'#') + QString(cells - filled, u' ') + u"] "_s;
+    return Fitting(bar + Facts_Text(facts), columns);
+}
+
+void Progress_Bar::Show_Line(const Bar_Facts& facts)
+{
+    if (line_of_ == facts.Index)
+        return;
+    line_of_ = facts.Index;
+    const QByteArray bytes = Facts_Text(facts).toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
+    std::fflush(stream_);
 }
 
 Progress_Bar::~Progress_Bar()

@@ -3,7 +3,19 @@
 #include <QString>
 #include <cstdio>
 
-/// One line that is drawn over and over on a terminal; on anything else nothing is drawn.
+/// How far a run is.
+struct Bar_Facts
+{
+    int Index = 0; ///< of the file in work, from 1
+    int Files = 0;
+    int Percent = 0;           ///< of the whole run
+    double Bytes_A_Second = 0; ///< 0: not known yet
+    qint64 Seconds_Left = -1;  ///< below 0: not known yet
+    QString Name = {};
+};
+
+/// One line that is drawn over and over on a terminal; on a terminal that can't draw over (TERM is "dumb" or missing) a
+/// line for each file; on anything else nothing is drawn.
 class Progress_Bar
 {
   public:
@@ -13,16 +25,30 @@ class Progress_Bar
     Progress_Bar& operator=(const Progress_Bar&) = delete;
     ~Progress_Bar();
 
-    /// Draws `percent` and what is in work, cut to the terminal's width.
-    void Show(int percent, const QString& name);
+    /// Draws the facts, cut to the terminal's width.
+    void Show(const Bar_Facts& facts);
     /// Takes the line away, so that another can be printed in its place.
     void Wipe();
 
   private:
+    void Show_Line(const Bar_Facts& facts);
+
     std::FILE* stream_;
     bool on_;
+    bool draws_over_;
+    int line_of_ = 0; ///< the file that has its line
     QString shown_;
 };
 
-/// The bar as a text of at most `columns` characters: "[#####     ]  24% Movie.avi".
-QString Bar_Text(int percent, const QString& name, int columns);
+/// "17/40 43% 210 MB/s 0:03:10 name"; what isn't known is left out.
+QString Facts_Text(const Bar_Facts& facts);
+
+/// The bar and the facts behind it as a text of at most `columns` characters: "[####   ] 17/40 43% ...". The bar grows
+/// with the columns; few leave none.
+QString Bar_Text(const Bar_Facts& facts, int columns);
+
+/// "12.4 GB", in units of a thousand.
+QString Size_Text(double bytes);
+
+/// "3:10", or from an hour on, and with `hours` always, "0:03:10".
+QString Time_Text(qint64 seconds, bool hours = false);

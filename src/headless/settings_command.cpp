@@ -2,6 +2,7 @@
 
 #include "headless/bad_usage.h"
 #include "headless/batch_report.h"
+#include "headless/nearest_name.h"
 #include "headless/print.h"
 #include "settings/settings_store.h"
 #include "state/program.h"
@@ -11,6 +12,15 @@
 #include <nlohmann/json.hpp>
 
 using namespace Qt::StringLiterals;
+
+/// "Section/Key" of every row.
+static QStringList Key_Names()
+{
+    QStringList names;
+    for (const Settings_Row& row : Settings_Rows())
+        names += row.Section + u'/' + row.Key.trimmed();
+    return names;
+}
 
 void Take_Assignments(Program& program, const QStringList& assignments, Batch_Report& report)
 {
@@ -25,7 +35,8 @@ void Take_Assignments(Program& program, const QStringList& assignments, Batch_Re
         case Override_Result::Unknown_Key:
             throw Bad_Usage{
                 u"--set \"%1\": there is no such section and key (vantorra-batch settings lists all)."_s.arg(
-                    assignment)};
+                    assignment) +
+                Did_You_Mean(assignment.section(u'=', 0, 0), Key_Names())};
         case Override_Result::Not_Understood:
             throw Bad_Usage{u"--set \"%1\": that key takes no such value (vantorra-batch settings lists the values in "
                             u"force and the defaults)."_s.arg(assignment)};

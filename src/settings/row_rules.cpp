@@ -312,6 +312,7 @@ Settings_Row Output_Exists_Row(const QString& key)
     return {.Section = u"Extensions"_s,
             .Key = key,
             .Default = words.constFirst(),
+            .Words = words,
             .Written =
                 [](const Program& program) {
                     return words.at(static_cast<qsizetype>(program.Settings.Extensions.If_The_Output_Exists));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -21,8 +22,9 @@ struct Settings_Row
 
     int Number = 0; ///< place in writing order, from 1; 0 for the key that is read and never written
     QString Section = {};
-    QString Key = {};     ///< as written, with the blank at its end where it has one
-    QString Default = {}; ///< what a missing key reads as; Default_Of knows the cases that depend on the form
+    QString Key = {};       ///< as written, with the blank at its end where it has one
+    QString Default = {};   ///< what a missing key reads as; Default_Of knows the cases that depend on the form
+    QStringList Words = {}; ///< the words that it knows, where they are few and other ones than "On" and "Off"
     Use Used = Use::Read;
     bool Default_Is_Form_Place = false; ///< a missing key reads as the main form's own place
     bool Section_Starts_Anew = false;   ///< the section is deleted before the key is written

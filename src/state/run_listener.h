@@ -23,6 +23,7 @@ struct File_Outcome
     double Seconds = 0;
     QString Reason = {};       ///< in words, one line; empty where the file is plainly done
     QStringList Warnings = {}; ///< in words, one line each
+    bool Source_Kept = false;  ///< it was to go to the trash, and stays because of a warning or a failure
 };
 
 /// What a driver may want to hear while a run goes on. The headless driver prints it; the window needs none of it.
@@ -51,6 +52,9 @@ class Run_Listener
 
     /// Something that the operator should know and that stops nothing.
     virtual void Warned(const QString& /*title*/, const QString& /*text*/) {}
+
+    /// So many videos of the folder are left out, because they were done before and nothing has changed since.
+    virtual void Done_Before(int /*files*/) {}
 
     virtual void File_Finished(const File_Outcome&) {}
 };

@@ -24,6 +24,29 @@ TEST(Batch_Options, FoldersAreAbsoluteAndRunIsTheCommandThatNeedsNoWord)
     EXPECT_FALSE(line.Options->Dry_Run || line.Options->Json || line.Options->Quiet);
 }
 
+TEST(Batch_Options, TheFoldersNeedNoOptionsAndChoicesAddUp)
+{
+    const Batch_Line line = Parse({u"in put"_s, u"/out"_s, u"-nq"_s, u"--careful"_s, u"--resume"_s, u"--failed"_s,
+                                   u"--only"_s, u"a*"_s, u"--only=b"_s, u"--leave-out"_s, u"-c"_s});
+    ASSERT_TRUE(line.Options) << line.Mistake.toStdString();
+    EXPECT_EQ(line.Options->Videos, QDir::currentPath() + u"/in put"_s);
+    EXPECT_EQ(line.Options->Target, u"/out"_s);
+    EXPECT_TRUE(line.Options->Dry_Run && line.Options->Quiet && line.Options->Resume && line.Options->Only_Failed);
+    EXPECT_EQ(line.Options->Careful, true);
+    EXPECT_EQ(line.Options->Only, (QStringList{u"a*"_s, u"b"_s}));
+    EXPECT_EQ(line.Options->Leave_Out, QStringList(u"-c"_s));
+    EXPECT_EQ(Parse({u"run"_s, u"/a"_s, u"/b"_s, u"--classic"_s}).Options->Careful, false);
+    EXPECT_TRUE(Parse({u"--check"_s}).Options->Dry_Run);
+}
+
+TEST(Batch_Options, EachCommandHasAHelpOfItsOwn)
+{
+    const QString log = Parse({u"log"_s, u"--help"_s}).Text;
+    EXPECT_TRUE(log.contains(u"--full")) << log.toStdString();
+    EXPECT_FALSE(log.contains(u"--tick"));
+    EXPECT_FALSE(Parse({u"run"_s, u"-h"_s}).Text.contains(u"--full"));
+}
+
 TEST(Batch_Options, ClicksKeepTheOrderOfTheCommandLine)
 {
     const Batch_Line line = Parse({u"--untick"_s, u"a"_s, u"--tick=b"_s, u"--set"_s, u"A/b=c=d"_s, u"--tick"_s, u"a"_s,
@@ -56,7 +79,18 @@ TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
         QStringList Words;
         QString Told;
     } cases[] = {
-        {{u"--vidoes"_s, u"/a"_s}, u"vidoes"_s},
+        {{u"--vidoes"_s, u"/a"_s}, u"There is no option --vidoes. Did you mean --videos?"_s},
+        {{u"--chekc"_s}, u"Did you mean --check?"_s},
+        {{u"-x"_s}, u"There is no option -x."_s},
+        {{u"identfy"_s}, u"Did you mean identify?"_s},
+        {{u"/a"_s, u"/b"_s, u"/c"_s}, u"\"/c\""_s},
+        {{u"/a"_s, QString()}, u"empty"_s},
+        {{u"/a"_s, u"/b"_s, u"--videos"_s, u"/a"_s}, u"named twice"_s},
+        {{u"--careful"_s, u"--classic"_s}, u"either"_s},
+        {{u"--classic"_s, u"--resume"_s}, u"--resume belongs to a careful batch"_s},
+        {{u"--classic"_s, u"--leave-out"_s, u"x"_s}, u"--leave-out belongs to a careful batch"_s},
+        {{u"--only="_s}, u"want a pattern"_s},
+        {{u"log"_s, u"--check"_s}, u"--check belongs to the command run"_s},
         {{u"--videos"_s}, u"videos"_s},
         {{u"--videos="_s}, u"--videos wants a folder"_s},
         {{u"--target"_s, QString()}, u"--target wants a folder"_s},

@@ -82,16 +82,58 @@ TEST(Batch_Report, PlainLinesNameEachFileAndCountThem)
     run.File(u"f.avi"_s, File_Outcome::Kind::Done, 1, {}, {u"w"_s});
     run.Report->Ended(Batch_End::Finished, 2);
     EXPECT_EQ(run.Out.Text(), u"done     a\\x1B[2J.avi -> /t/my film.mkv (1.3 s)\n"
-                              "failed   b.avi (b\\u009Bad)\n"
+                              "failed   b.avi\n"
                               "failed   c.avi\n"
                               "skipped  d\n"
                               "not run  e.avi (halted)\n"
                               "done     f.avi -> /t/my film.mkv (1.3 s)\n"
-                              "FINISHED: 1 done, 1 done with warnings, 2 failed, 1 skipped, 1 not run\n"_s);
-    for (const QString& line :
-         {u"vantorra-batch: b.avi failed: b\\u009Bad\n"_s, u"vantorra-batch: warning: f.avi: w\n"_s})
-        EXPECT_TRUE(run.Err.Text().contains(line)) << run.Err.Text().toStdString();
+                              "FINISHED: 1 done, 1 with warnings, 2 failed, 1 skipped, 1 not run - 0 B in 0:00\n"_s);
     EXPECT_FALSE(run.Err.Text().contains(u'\x1b')) << "nothing that isn't a terminal gets a bar";
+    const QString reasons = u"vantorra-batch: b.avi failed: b\\u009Bad\nvantorra-batch: warning: f.avi: w\n"_s;
+    EXPECT_EQ(run.Err.Text(), reasons + reasons) << "beside the files, and again under the summary";
+}
+
+TEST(Batch_Report, WhatWasWarnedOfIsNotSaidTwiceBesideTheVideo)
+{
+    Played_Run run({});
+    run.Report->Run_Started(2);
+    run.Report->Warned(u"T"_s, u"both write one file"_s);
+    run.File(u"a.avi"_s, File_Outcome::Kind::Done, 0, {}, {u"both write one file"_s});
+    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: both write one file\n"_s);
+    run.Report->Ended(Batch_End::Finished, 0);
+    EXPECT_TRUE(run.Err.Text().endsWith(u"vantorra-batch: warning: a.avi: both write one file\n"_s));
+}
+
+TEST(Batch_Report, AHabitIsToldOnceInABatchAndOnceAVideoInJson)
+{
+    for (const bool json : {false, true}) {
+        Played_Run run({.Json = json, .Quiet = true});
+        for (const QString& name : {u"a.avi"_s, u"b.avi"_s})
+            run.File(name, File_Outcome::Kind::Done, 0, {},
+                     {u"\"%1\" is odd (\"Sensible Names And Sizes\" changes that)"_s.arg(name), u"w"_s});
+        EXPECT_EQ(run.Err.Text().count(u"is odd"), 1);
+        EXPECT_EQ(run.Err.Text().count(u".avi: w\n"), 2);
+        EXPECT_EQ(run.Out.Text().count(u"is odd"), json ? 2 : 0);
+    }
+}
+
+TEST(Batch_Report, ACheckTellsWhatWouldComeAndWhatIsWrong)
+{
+    Played_Run run({.Dry_Run = true, .Check = true});
+    FileInfo& sound = run.Prog.Media.FileInfoList.emplace_back();
+    sound.StreamType = u"audio"_s;
+    sound.CodecName = u"aac"_s;
+    sound.Index = u"1"_s;
+    sound.Language = u"eng"_s;
+    run.Report->Run_Started(2);
+    run.File(u"a.avi"_s, File_Outcome::Kind::Not_Run, -1, u"dry run"_s);
+    run.File(u"b.avi"_s, File_Outcome::Kind::Failed, -1, u"no track is left"_s, {u"w\x1b"_s});
+    run.Report->Ended(Batch_End::Finished, 2);
+    EXPECT_EQ(run.Report->Counts().Problems, 1);
+    EXPECT_EQ(run.Out.Text(), u"a.avi -> /t/my film.mkv\n    tracks    1 audio aac eng\n    chapters  kept\n"
+                              "b.avi -> /t/my film.mkv\n    tracks    1 audio aac eng\n    chapters  kept\n"
+                              "    PROBLEM   no track is left\n    PROBLEM   w\\x1B\n"
+                              "2 looked at, 1 with problems\n"_s);
 }
 
 TEST(Batch_Report, ADryRunPrintsCommandsForAShellAndNothingElse)

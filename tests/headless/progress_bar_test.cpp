@@ -11,14 +11,35 @@
 
 using namespace Qt::StringLiterals;
 
+static Bar_Facts Facts(int percent, const QString& name)
+{
+    return {.Index = 17, .Files = 40, .Percent = percent, .Name = name};
+}
+
 TEST(Progress_Bar, TextFitsTheColumns)
 {
-    EXPECT_EQ(Bar_Text(50, u"film"_s, 80), u"[###############               ]  50% film"_s);
-    EXPECT_EQ(Bar_Text(100, u"film"_s, 20).size(), 20);
-    EXPECT_EQ(Bar_Text(0, u"漢字漢字"_s, 43).sliced(38), u"漢字"_s) << "each takes two columns";
-    EXPECT_EQ(Bar_Text(0, u"😀😀"_s, 43).sliced(38), u"😀"_s) << "no half of a pair";
-    EXPECT_EQ(Bar_Text(-5, {}, 80).count(u'#'), 0);
-    EXPECT_EQ(Bar_Text(1000, {}, 80).count(u'#'), 30);
+    Bar_Facts facts = Facts(43, u"film"_s);
+    EXPECT_EQ(Bar_Text(facts, 59), u"17/40 43% film"_s);
+    facts.Bytes_A_Second = 210e6;
+    facts.Seconds_Left = 190;
+    EXPECT_EQ(Bar_Text(facts, 59), u"17/40 43% 210 MB/s 0:03:10 film"_s);
+    EXPECT_EQ(Bar_Text(facts, 60), u"[########            ] 17/40 43% 210 MB/s 0:03:10 film"_s);
+    EXPECT_EQ(Bar_Text(facts, 20).size(), 20);
+    EXPECT_EQ(Bar_Text(Facts(0, u"漢字漢字"_s), 14).sliced(9), u"漢字"_s) << "each takes two columns";
+    EXPECT_EQ(Bar_Text(Facts(0, u"😀😀"_s), 14).sliced(9), u"😀"_s) << "no half of a pair";
+    EXPECT_EQ(Bar_Text(Facts(-5, {}), 80).count(u'#'), 0);
+    EXPECT_EQ(Bar_Text(Facts(1000, {}), 300).count(u'#'), 60);
+}
+
+TEST(Progress_Bar, SizesAndTimesAreShort)
+{
+    EXPECT_EQ(Size_Text(0), u"0 B"_s);
+    EXPECT_EQ(Size_Text(12.4e9), u"12.4 GB"_s);
+    EXPECT_EQ(Size_Text(999'600), u"1.0 MB"_s);
+    EXPECT_EQ(Size_Text(4e17), u"400000 TB"_s);
+    EXPECT_EQ(Time_Text(190), u"3:10"_s);
+    EXPECT_EQ(Time_Text(36000), u"10:00:00"_s);
+    EXPECT_EQ(Time_Text(190, true), u"0:03:10"_s);
 }
 
 TEST(Progress_Bar, DrawsOnATerminalOnlyAndOnlyWhatChanged)
@@ -33,11 +54,19 @@ TEST(Progress_Bar, DrawsOnATerminalOnlyAndOnlyWhatChanged)
     const winsize columns{.ws_row = 24, .ws_col = 40, .ws_xpixel = 0, .ws_ypixel = 0};
     ASSERT_EQ(::ioctl(terminal, TIOCSWINSZ, &columns), 0);
 
+    const QByteArray kind = qgetenv("TERM");
+    qputenv("TERM", "xterm");
     for (const bool wanted : {true, false}) {
         Progress_Bar bar(stream, wanted);
-        bar.Show(50, u"a long name of a film"_s);
-        bar.Show(50, u"a long name of a film"_s);
+        bar.Show(Facts(50, u"a long name of a film, of all of which there is no room"_s));
+        bar.Show(Facts(50, u"a long name of a film, of all of which there is no room"_s));
     }
+    qputenv("TERM", "dumb");
+    Progress_Bar plain(stream, true);
+    for (const int index : {1, 1, 2}) {
+        plain.Show({.Index = index, .Files = 2, .Percent = 50, .Name = u"film"_s});
+    }
+    qputenv("TERM", kind);
     std::fclose(stream);
     // One read may deliver a part only; behind the last one the closed end is told as an error.
     QByteArray drawn;
@@ -45,12 +74,13 @@ TEST(Progress_Bar, DrawsOnATerminalOnlyAndOnlyWhatChanged)
     for (ssize_t size = 0; (size = ::read(terminal, part, sizeof part)) > 0;)
         drawn.append(part, size);
     ::close(terminal);
-    EXPECT_EQ(QString::fromUtf8(drawn), u"\r\033[K[###############               ]  50% a\r\033[K"_s);
+    EXPECT_EQ(QString::fromUtf8(drawn),
+              u"\r\033[K17/40 50% a long name of a film, of all\r\033[K1/2 50% film\r\n2/2 50% film\r\n"_s);
 
     Memory_Stream no_terminal;
     {
         Progress_Bar bar(no_terminal.Stream(), true);
-        bar.Show(50, u"film"_s);
+        bar.Show(Facts(50, u"film"_s));
     }
     EXPECT_TRUE(no_terminal.Text().isEmpty());
 }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class Command_Line;
+struct Program;
+
+/// What would come of a video, in words.
+struct Check_Facts
+{
+    QStringList Tracks; ///< "0 video h264 eng": kept, with the number that mkvmerge gives them
+    QStringList Added;  ///< names of the files that are added or attached
+    QString Chapters;   ///< "kept", "removed" or the name of the file that replaces them
+};
+
+/// Of the video whose command was just assembled.
+Check_Facts Check_Facts_Of(const Program& program, const Command_Line& command);
