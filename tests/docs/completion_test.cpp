@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The program that the completions ask for its lists.
-const QString Program = QStringLiteral(VANTORRA_BATCH_PROGRAM);
+const QString Batch_Program = QStringLiteral(VANTORRA_BATCH_PROGRAM);
 
 QStringList All_Matches(const QString& text, const QString& pattern)
 {
@@ -62,35 +62,36 @@ QStringList Bash_Offers(const QStringList& words)
 TEST(Completion, BashOffersWhatTheParserUnderstands)
 {
     ASSERT_GT(Parser_Options().size(), 10);
-    EXPECT_EQ(Bash_Offers({Program, u"--"_s}), Parser_Options());
-    EXPECT_EQ(Bash_Offers({Program, u"--videos"_s, u"/"_s, u"--dry"_s}), QStringList{u"--dry-run"_s});
+    EXPECT_EQ(Bash_Offers({Batch_Program, u"--"_s}), Parser_Options());
+    EXPECT_EQ(Bash_Offers({Batch_Program, u"--videos"_s, u"/"_s, u"--dry"_s}), QStringList{u"--dry-run"_s});
     for (const QString& option : {u"--tick"_s, u"--untick"_s})
-        EXPECT_EQ(Bash_Offers({Program, option, u"chk_"_s}), Box_Names());
-    EXPECT_EQ(Bash_Offers({Program, u"--tick"_s, u"="_s, u"chk_AddA"_s}),
+        EXPECT_EQ(Bash_Offers({Batch_Program, option, u"chk_"_s}), Box_Names());
+    EXPECT_EQ(Bash_Offers({Batch_Program, u"--tick"_s, u"="_s, u"chk_AddA"_s}),
               (QStringList{u"chk_AddAttachments"_s, u"chk_AddAudio"_s}));
 }
 
 TEST(Completion, BashOffersTheCommandsAndNoSecondOne)
 {
-    for (const QString& command : Bash_Offers({Program, {}})) {
+    for (const QString& command : Bash_Offers({Batch_Program, {}})) {
         const QStringList file = command == u"identify"_s ? QStringList{u"a.mkv"_s} : QStringList();
         EXPECT_TRUE(Parse_Batch_Line(QStringList{u"vantorra-batch"_s, command} + file).Options)
             << command.toStdString();
     }
-    EXPECT_EQ(Bash_Offers({Program, {}}).size(), 4);
-    EXPECT_EQ(Bash_Offers({Program, u"log"_s, {}}), QStringList());
+    EXPECT_EQ(Bash_Offers({Batch_Program, {}}).size(), 4);
+    EXPECT_EQ(Bash_Offers({Batch_Program, u"log"_s, {}}), QStringList());
 }
 
 TEST(Completion, BashOffersKeysWithTheirBlanksAndWhatTheyKnow)
 {
     const QString word = u"--set"_s;
-    EXPECT_EQ(Bash_Offers({Program, word, u"Extensions/Care"_s}), QStringList(u"Extensions/Careful\\ Batch="_s));
-    EXPECT_EQ(Bash_Offers({Program, word, u"\"Extensions/Care"_s}), QStringList(u"\"Extensions/Careful Batch="_s));
-    EXPECT_EQ(Bash_Offers({Program, word, u"Extensions/Careful\\ Batch"_s, u"="_s, u"O"_s}),
+    EXPECT_EQ(Bash_Offers({Batch_Program, word, u"Extensions/Care"_s}), QStringList(u"Extensions/Careful\\ Batch="_s));
+    EXPECT_EQ(Bash_Offers({Batch_Program, word, u"\"Extensions/Care"_s}),
+              QStringList(u"\"Extensions/Careful Batch="_s));
+    EXPECT_EQ(Bash_Offers({Batch_Program, word, u"Extensions/Careful\\ Batch"_s, u"="_s, u"O"_s}),
               (QStringList{u"Off"_s, u"On"_s}));
-    EXPECT_EQ(Bash_Offers({Program, word, u"Extensions/If\\ The\\ Output\\ Exists"_s, u"="_s}),
+    EXPECT_EQ(Bash_Offers({Batch_Program, word, u"Extensions/If\\ The\\ Output\\ Exists"_s, u"="_s}),
               (QStringList{u"Number"_s, u"Replace"_s, u"Skip"_s}));
-    EXPECT_EQ(Bash_Offers({Program, word, u"'Extensions/Careful Batch=Of"_s}),
+    EXPECT_EQ(Bash_Offers({Batch_Program, word, u"'Extensions/Careful Batch=Of"_s}),
               QStringList(u"'Extensions/Careful Batch=Off"_s));
 }
 
