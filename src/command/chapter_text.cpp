@@ -119,12 +119,15 @@ QString Chapter_Xml(const Chapter_Lists& chapters, const QString& edition_number
     line(u"    <EditionFlagHidden>0</EditionFlagHidden>"_s);
     line(u"    <EditionFlagOrdered>0</EditionFlagOrdered>"_s);
     for (qsizetype i = 0; i < chapters.Times.size(); ++i) {
-        const QString end = i + 1 < chapters.Times.size() ? chapters.Times.at(i + 1) : duration;
+        const bool is_last = i + 1 == chapters.Times.size();
+        const QString end = is_last ? duration : chapters.Times.at(i + 1);
         const QString& name = chapters.Names.at(i);
         line(u"    <ChapterAtom>"_s);
         line(u"      <ChapterUID>"_s + chapters.Uids.at(i) + u"</ChapterUID>"_s);
         line(u"      <ChapterTimeStart>"_s + chapters.Times.at(i) + u"</ChapterTimeStart>"_s);
-        line(u"      <ChapterTimeEnd>"_s + end + u"</ChapterTimeEnd>"_s);
+        // Only a careful run goes on without a duration: the last chapter has no end then.
+        if (!is_last || !duration.isEmpty())
+            line(u"      <ChapterTimeEnd>"_s + end + u"</ChapterTimeEnd>"_s);
         line(u"      <ChapterFlagHidden>0</ChapterFlagHidden>"_s);
         line(u"      <ChapterFlagEnabled>1</ChapterFlagEnabled>"_s);
         line(u"      <ChapterDisplay>"_s);

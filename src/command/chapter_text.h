@@ -34,5 +34,6 @@ QString Digits_Of(const QString& text);
 /// The number of an edition for a random number from 0 up to but not including 1: 12 digits.
 QString Edition_Number(float random);
 
-/// The XML as it is written. `duration` ends the last chapter. Nothing is checked or escaped.
+/// The XML as it is written. `duration` ends the last chapter; where it is empty, nothing does. Nothing is checked or
+/// escaped.
 QString Chapter_Xml(const Chapter_Lists& chapters, const QString& edition_number, const QString& duration);

@@ -57,6 +57,8 @@ TEST(Chapter_Text, TheXmlIsWrittenToTheLetter)
                   atom(u"1"_s, u"00:00:00.000"_s, u"00:10:00"_s, u"Tom & <Jerry>"_s) +
                   atom(u"12"_s, u"00:10:00"_s, u"01:30:00.5"_s, u"Chapter 2"_s) +
                   u"  </EditionEntry>\r\n</Chapters>\r\n"_s);
+    EXPECT_EQ(Chapter_Xml(chapters, u"1"_s, {}).count(u"<ChapterTimeEnd>"_s), chapters.Times.size() - 1)
+        << "a video whose duration isn't known doesn't end its last chapter";
 }
 
 TEST(Chapter_Text, AnEditionNumberHasTwelveDigitsFromEndToEndOfTheRange)
