@@ -32,18 +32,6 @@ struct Attachments : Companion_Test
     }
 };
 
-TEST_F(Attachments, FontsAndPicturesOfTheFolderGoWithEveryVideo)
-{
-    for (const QString& name : {u"Font.TTF"_s, u"a.txt"_s, u".hidden.png"_s, u"My Font.otf"_s, u"ttf"_s})
-        Write(u"att/"_s + name);
-    QDir().mkpath(Path(u"att/dir.png"_s));
-    EXPECT_EQ(Find(), Sorted({u"Font.TTF"_s, u".hidden.png"_s, u"My Font.otf"_s}));
-    QStringList lines;
-    for (const Attachment& attachment : List)
-        lines += u"-- Adding Attachment \""_s + attachment.FullPath + u'"';
-    EXPECT_EQ(Faults(), lines);
-}
-
 TEST_F(Attachments, EachExtensionHasItsType)
 {
     const std::pair<QString, QString> claims[] = {
@@ -68,13 +56,6 @@ TEST_F(Attachments, TitledSubfoldersAreLookedForInOrder)
     EXPECT_EQ(Find(), QStringList{u"Moviemovieposter.png"_s});
     Write(u"att/Movie_Attachments/first.png"_s);
     EXPECT_EQ(Find(), QStringList{u"Movie_Attachments/first.png"_s});
-}
-
-TEST_F(Attachments, AnEmptyFolderIsToldAndAddsNothing)
-{
-    EXPECT_EQ(Find(), QStringList{u""_s});
-    EXPECT_EQ(Command(), u""_s);
-    EXPECT_EQ(Faults(), QStringList{u"*** Add attachments is selected but no valid attachments were found"_s});
 }
 
 TEST_F(Attachments, ANameThatMkvmergeWouldNotTakeForOneIsLeftOutAndTheFileIsStillAttached)

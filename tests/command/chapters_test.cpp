@@ -176,37 +176,6 @@ TEST_F(Chapters, TheFirstCandidateWinsAndTheResultIsInTheBits)
     EXPECT_EQ(out, stem + u"_Chapters.xml"_s);
 }
 
-TEST_F(Chapters, TheConversionGatesTheWholeStep)
-{
-    Write(u"videos/Movie_Chapters.xml"_s, "x");
-    EXPECT_EQ(Find(), u"Movie_Chapters.xml"_s);
-    Prog.Options.chk_ConvertTXT.Value = 0;
-    EXPECT_EQ(Find(), u""_s);
-    Prog.Options.chk_ConvertTXT.Value = 1;
-    Prog.Options.chk_ReplaceChapters.Value = 0;
-    EXPECT_EQ(Find(), u""_s);
-    EXPECT_TRUE(Faults().isEmpty());
-}
-
-TEST_F(Chapters, AnXmlThatHoldsTheNameServesInAnyCase)
-{
-    QDir().mkpath(Path(u"videos/movie_chapters.xml"_s));
-    EXPECT_EQ(Find(), u""_s);
-    Write_All({u"Other_Chapters.xml"_s, u"Movie_Chapters.xml.bak"_s, u"Extras MOVIE_chapters.XML"_s});
-    EXPECT_EQ(Find(), u"Extras MOVIE_chapters.XML"_s);
-}
-
-TEST_F(Chapters, AFolderThatIsGoneIsToldAtAnyVerbosity)
-{
-    Prog.Options.chk_ChaptersPath.Value = 1;
-    Prog.Options.Path_Chapters = Path(u"chapters/"_s);
-    Write_All({u"Movie_Chapters.xml"_s});
-    EXPECT_EQ(Find(), u""_s);
-    EXPECT_EQ(Faults(), QStringList{u"*** The selected path "_s + Path(u"chapters/"_s) + u" does not exist."_s});
-    Write(u"chapters/Movie_Chapters.xml"_s);
-    EXPECT_EQ(Find(), Path(u"chapters/Movie_Chapters.xml"_s));
-}
-
 TEST_F(Chapters, ADryRunNamesTheFileStillToBeMadeAndTouchesNothing)
 {
     Prog.Run.Dry_Run = true;
@@ -231,29 +200,4 @@ TEST_F(Chapters, AnOldXmlThatCanNotGoToTheTrashIsNeverOverwritten)
     }
     EXPECT_EQ(Xml(), u"old"_s);
     EXPECT_EQ(Faults(), QStringList{u"-- Could not be moved to the trash - \""_s + xml + u'"'});
-}
-
-TEST_F(Chapters, OnlyTheWholeResultHasALine)
-{
-    clsStringBuilder& faults = Prog.Logs.Log_Faults;
-    for (const int result : {0, 3, 40, 128, 144, 162})
-        Log_Chapter_Result(result, 7, faults);
-    Log_Chapter_Result(1, 0, faults);
-    EXPECT_TRUE(Faults().isEmpty());
-    for (const int result : {1, 2, 4, 8, 16, 32})
-        Log_Chapter_Result(result, 1, faults);
-    EXPECT_EQ(Faults().size(), 6);
-    EXPECT_EQ(Faults().at(4), u"*** Attempted to add/replace chapters, but cannot create new \"*_Chapters.xml\" file. "
-                              "The \"*_Chapters.txt\" file is not found."_s);
-}
-
-TEST_F(Chapters, TheArgumentNeedsAFileAndTheOption)
-{
-    Command_Line command;
-    Append_Chapter_Arguments(command, u""_s, Prog.Options);
-    EXPECT_EQ(command.Text(), u""_s);
-    Append_Chapter_Arguments(command, u"/a b/M_Chapters.xml"_s, Prog.Options);
-    EXPECT_EQ(command.Text(), u" --chapter-language eng --chapters \"/a b/M_Chapters.xml\""_s);
-    EXPECT_EQ(command.Arguments(),
-              QStringList({u"--chapter-language"_s, u"eng"_s, u"--chapters"_s, u"/a b/M_Chapters.xml"_s}));
 }

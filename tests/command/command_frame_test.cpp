@@ -23,19 +23,6 @@ static QString Command_Of(Test_Program& test, const QString& ffprobe_output, con
     return test.Prog.Run.Mkvmerge_Arguments.Text();
 }
 
-TEST(CommandFrame, WithoutOptionsEveryTrackIsNamedAndOrdered)
-{
-    Test_Program test;
-    EXPECT_EQ(Command_Of(test, Format_Line + Video_Line + Audio_Line + Subtitle_Line, u"/in/Movie.avi"_s),
-              u" --ui-language en_US --output /out/Movie.mkv"
-              " --language 0:eng --default-track 0:yes --display-dimensions 0:1920x1080"
-              " --language 1:eng --default-track 1:yes --forced-track 1:no"
-              " --language 2:eng --default-track 2:no --forced-track 2:no"
-              " ( /in/Movie.avi ) --track-order 0:0,0:1,0:2"_s);
-    EXPECT_EQ(test.Prog.Run.Output_Path, u"/out/Movie.mkv"_s);
-    EXPECT_TRUE(test.Faults().isEmpty());
-}
-
 TEST(CommandFrame, OptionsStandInTheirPlaces)
 {
     Test_Program test;
@@ -51,18 +38,6 @@ TEST(CommandFrame, OptionsStandInTheirPlaces)
               " ( \"/in/My Movie.avi\" ) --title \"\\\"My Movie\\\"\""_s);
 }
 
-TEST(CommandFrame, AnExtensionInCapitalsBecomesTheNameOfOutputAndFileTitleOnly)
-{
-    Test_Program test;
-    JobOptions& options = test.Prog.Options;
-    options.chk_SetFileTitle.Value = options.chk_SetVideoTitle.Value = 1;
-    options.opt_SetFileTitle.Selected = options.opt_SetVideoTitle.Selected = 2;
-    EXPECT_EQ(Command_Of(test, Format_Line + Video_Line, u"/in/Movie.MKV"_s),
-              u" --ui-language en_US --output /out/MKV.mkv --language 0:eng --default-track 0:yes"
-              " --display-dimensions 0:1920x1080 --track-name  0:\\\"Movie\\\" ( /in/Movie.MKV )"
-              " --title \\\"MKV\\\""_s);
-}
-
 TEST(CommandFrame, NothingIsTouchedWhereFfprobeSaidNothing)
 {
     Test_Program test;
@@ -71,30 +46,6 @@ TEST(CommandFrame, NothingIsTouchedWhereFfprobeSaidNothing)
     EXPECT_EQ(Parse_VideoData_A(test.Prog, u"/out/"_s, u"/in/"_s, u"/in/Other.avi"_s), 0);
     EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), before);
     EXPECT_EQ(test.Prog.Run.Output_Path, u"/out/Movie.mkv"_s);
-}
-
-TEST(CommandFrame, TheOrderIsWrittenForMoreThanOneTrackAndKeepsACommaAtItsStart)
-{
-    Test_Program test;
-
-    struct Claim
-    {
-        QString Streams, Order;
-    };
-
-    const Claim claims[] = {
-        {u""_s, u""_s},
-        {Video_Line, u""_s},
-        {Video_Line + Audio_Line, u" --track-order 0:0,0:1"_s},
-        {Video_Line + Subtitle_Line, u" --track-order 0:0,0:2"_s},
-        {Subtitle_Line + Audio_Line + Video_Line, u" --track-order 0:0,0:1,0:2"_s},
-        {Audio_Line + Subtitle_Line, u" --track-order ,0:1,0:2"_s},
-        {Audio_Line, u""_s},
-    };
-    for (const Claim& claim : claims) {
-        const QString text = Command_Of(test, Format_Line + claim.Streams, u"/in/Movie.avi"_s);
-        EXPECT_EQ(text.mid(text.indexOf(u" )"_s) + 2), claim.Order) << claim.Streams.toStdString();
-    }
 }
 
 TEST(CommandFrame, ATitleThatMkvmergeWouldTakeForAnOptionFileIsLeftOutWithAFaultLine)

@@ -45,14 +45,6 @@ TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
     }
 }
 
-TEST(SplitCommand, WithoutFfprobesTextNothingIsWritten)
-{
-    Test_Program test;
-    EXPECT_EQ(Split_Video_Mod(test.Prog, u"/out/"_s, u"/in/"_s, u"/in/Movie.avi"_s), 0);
-    EXPECT_TRUE(test.Faults().isEmpty());
-    EXPECT_TRUE(test.Prog.Run.Mkvmerge_Arguments.Text().isEmpty());
-}
-
 TEST(SplitCommand, MinutesBecomeSecondsInPlainNumberForm)
 {
     EXPECT_EQ(Split_Duration(u"10"_s), u"duration:600s"_s);

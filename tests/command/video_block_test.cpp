@@ -112,23 +112,6 @@ TEST(VideoBlock, TheFirstTitleRuleThatAppliesNamesTheTrack)
                   head + claim.Text);
 }
 
-TEST(VideoBlock, SwitchesDropTagsAttachmentsAndChapters)
-{
-    for (int bits = 0; bits < 16; ++bits) {
-        JobOptions options;
-        options.chk_RemoveAllTags.Value = bits & 1;
-        options.chk_RemoveAllAttachments.Value = (bits >> 1) & 1;
-        options.chk_StripChaps.Value = (bits >> 2) & 1;
-        Command_Line command;
-        Append_Switches(command, options, (bits & 8) != 0);
-        QString text;
-        text += (bits & 1) != 0 ? u" --no-track-tags"_s : QString();
-        text += (bits & 2) != 0 ? u" --no-attachments"_s : QString();
-        text += (bits & 12) != 0 ? u" --no-chapters"_s : QString();
-        EXPECT_EQ(command.Text(), text);
-    }
-}
-
 TEST(FileTitle, TheFirstRuleThatAppliesWins)
 {
     struct Claim

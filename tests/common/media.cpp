@@ -67,44 +67,15 @@ QString Rich_Video()
     if (!file.open(QIODevice::WriteOnly) || file.write("1\n00:00:00,000 --> 00:00:00,400\nBonjour\n") < 0)
         qFatal("The subtitles of a test can't be written");
     file.close();
-    const QStringList arguments = Picture_And_Sound() + QStringList{u"-f"_s,
-                                                                    u"lavfi"_s,
-                                                                    u"-i"_s,
-                                                                    u"sine=frequency=880:duration=0.5"_s,
-                                                                    u"-i"_s,
-                                                                    subtitles,
-                                                                    u"-map"_s,
-                                                                    u"0"_s,
-                                                                    u"-map"_s,
-                                                                    u"1"_s,
-                                                                    u"-map"_s,
-                                                                    u"2"_s,
-                                                                    u"-map"_s,
-                                                                    u"3"_s,
-                                                                    u"-c:v"_s,
-                                                                    u"mpeg4"_s,
-                                                                    u"-c:a"_s,
-                                                                    u"aac"_s,
-                                                                    u"-c:s"_s,
-                                                                    u"srt"_s,
-                                                                    u"-disposition:v:0"_s,
-                                                                    u"default"_s,
-                                                                    u"-metadata"_s,
-                                                                    u"title=A rich film"_s,
-                                                                    u"-metadata:s:v:0"_s,
-                                                                    u"title=The picture"_s,
-                                                                    u"-metadata:s:a:0"_s,
-                                                                    u"language=eng"_s,
-                                                                    u"-metadata:s:a:0"_s,
-                                                                    u"title=English sound"_s,
-                                                                    u"-metadata:s:a:1"_s,
-                                                                    u"language=ger"_s,
-                                                                    u"-metadata:s:a:1"_s,
-                                                                    u"title=Deutscher Ton"_s,
-                                                                    u"-metadata:s:s:0"_s,
-                                                                    u"language=fre"_s,
-                                                                    u"-metadata:s:s:0"_s,
-                                                                    u"title=Sous-titres"_s};
+    const QStringList arguments =
+        Picture_And_Sound() +
+        QStringList{u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=frequency=880:duration=0.5"_s, u"-i"_s, subtitles} +
+        (u"-map 0 -map 1 -map 2 -map 3 -c:v mpeg4 -c:a aac -c:s srt -disposition:v:0 default"_s +
+         u" -metadata:s:a:0 language=eng -metadata:s:a:1 language=ger -metadata:s:s:0 language=fre"_s)
+            .split(u' ') +
+        QStringList{u"-metadata"_s,       u"title=A rich film"_s,   u"-metadata:s:v:0"_s, u"title=The picture"_s,
+                    u"-metadata:s:a:0"_s, u"title=English sound"_s, u"-metadata:s:a:1"_s, u"title=Deutscher Ton"_s,
+                    u"-metadata:s:s:0"_s, u"title=Sous-titres"_s};
     const QString path = Media_File(u"rich.mkv"_s, arguments);
     QFile::remove(subtitles);
     return path;

@@ -141,14 +141,3 @@ TEST(Help_File, StandsAloneAndItsLinksLeadSomewhere)
         EXPECT_TRUE(match.captured(1).startsWith(u"data:"_s)) << match.captured(1).toStdString();
 }
 #endif
-TEST(Formats, ThePageOnTheFormatNamesEveryKeyInItsSection)
-{
-    const QStringList chapters = Source_Text(u"docs/formats/vantorra-ini.md"_s).split(u"\n### "_s);
-    for (const Settings_Row& row : Settings_Rows()) {
-        const auto names_it = [&](const QString& chapter) {
-            return chapter.section(u'\n', 0, 0).contains(row.Section) && chapter.contains(row.Key.trimmed());
-        };
-        EXPECT_TRUE(std::any_of(chapters.begin(), chapters.end(), names_it))
-            << row.Section.toStdString() << "/" << row.Key.toStdString();
-    }
-}

@@ -47,37 +47,6 @@ struct Batch : testing::Test
 
 } // namespace
 
-TEST_F(Batch, EachContainerBecomesAMatroskaFileWithItsTracks)
-{
-    const QStringList extensions = {u"mkv"_s, u"mp4"_s, u"avi"_s, u"ts"_s, u"webm"_s, u"mov"_s};
-    for (const QString& extension : extensions)
-        Place(Test, Short_Video(extension), u"videos/from_%1.%1"_s.arg(extension));
-    EXPECT_TRUE(Run());
-    for (const QString& extension : extensions) {
-        const QJsonObject output = Identify(Output(u"from_%1.mkv"_s.arg(extension)));
-        EXPECT_EQ(output[u"container"_s][u"type"_s].toString(), u"Matroska"_s) << extension.toStdString();
-        const QJsonArray tracks = output[u"tracks"_s].toArray();
-        ASSERT_EQ(tracks.size(), 2) << extension.toStdString();
-        EXPECT_EQ(tracks[0][u"type"_s].toString(), u"video"_s);
-        EXPECT_EQ(tracks[0][u"properties"_s][u"display_dimensions"_s].toString(), u"64x48"_s);
-        EXPECT_EQ(tracks[1][u"type"_s].toString(), u"audio"_s);
-    }
-    EXPECT_TRUE(Test.Person.Messages.empty());
-    EXPECT_EQ(Test.Results().filter(u"-- Processing video file - \""_s).size(), extensions.size());
-    EXPECT_FALSE(Prog.Run.Process_Failed);
-}
-
-TEST_F(Batch, LanguagesFlagsTitlesAndOrderAreThoseOfTheSource)
-{
-    const QString source = Place(Test, Rich_Video(), u"videos/rich.mkv"_s);
-    EXPECT_TRUE(Run());
-    EXPECT_EQ(Tracks_Of(Output(u"rich.mkv"_s)), Tracks_Of(source));
-    EXPECT_EQ(Tracks_Of(source).size(), 4);
-    const QJsonObject output = Identify(Output(u"rich.mkv"_s));
-    EXPECT_EQ(output[u"container"_s][u"properties"_s][u"title"_s].toString(), u"A rich film"_s);
-    EXPECT_EQ(output[u"tracks"_s][2][u"properties"_s][u"track_name"_s].toString(), u"Deutscher Ton"_s);
-}
-
 TEST_F(Batch, NamesOfAnyKindArriveWhole)
 {
     // 255 bytes with its extension, the longest that a file system takes.
@@ -141,19 +110,6 @@ TEST_F(Batch, BadFilesDoNotHurtTheGoodOnes)
     EXPECT_TRUE(Prog.Form.pic_TargetPath.Caption.endsWith(u"7 Files Done "_s));
 }
 
-TEST_F(Batch, ARawStreamWithoutDurationEndsTheRunAndIsNamed)
-{
-    const QString media = Media_File(u"raw.h264"_s, {u"-i"_s, Short_Video(), u"-an"_s, u"-c:v"_s, u"libx264"_s});
-    const QString path = Place(Test, media, u"videos/raw.h264"_s);
-    try {
-        Run();
-        FAIL() << "A raw stream has no duration";
-    } catch (const Run_Time_Error& error) {
-        EXPECT_EQ(error.Number(), Error_Number::Type_Mismatch);
-        EXPECT_TRUE(error.Message().contains(path)) << error.what();
-    }
-}
-
 TEST_F(Batch, ATargetThatTakesNothingFailsEachFileAndKeepsTheSource)
 {
     struct Claim
@@ -177,29 +133,4 @@ TEST_F(Batch, ATargetThatTakesNothingFailsEachFileAndKeepsTheSource)
         EXPECT_EQ(Prog.Run.Exit_Status, 2) << claim.Target.toStdString();
         EXPECT_TRUE(QFile::exists(Test.Path(u"videos/a.mkv"_s)));
     }
-}
-
-TEST_F(Batch, AHaltInTheMiddleOfALargeFileLeavesTheEarlierOutputsWhole)
-{
-    const QString large = Media_File(u"large.mkv"_s, {u"-f"_s, u"lavfi"_s, u"-i"_s, u"anoisesrc=duration=300"_s,
-                                                      u"-c:a"_s, u"pcm_s32le"_s, u"-ar"_s, u"48000"_s});
-    Place(Test, large, u"videos/large.mkv"_s);
-    Test.Write(u"target/earlier.mkv"_s, "whole");
-
-    struct Halter : Run_Listener
-    {
-        Program* Prog = nullptr;
-
-        void Progress(int, int) override { Prog->Run.Halt_Requested = true; }
-    } halter;
-
-    halter.Prog = &Prog;
-    Prog.Listener = &halter;
-    EXPECT_FALSE(Run());
-    EXPECT_EQ(Prog.Run.Exit_Status, -9);
-    EXPECT_EQ(Children_Left(), 0);
-    EXPECT_EQ(Outputs(), QStringList{u"earlier.mkv"_s});
-    EXPECT_EQ(Test.Read(u"target/earlier.mkv"_s), "whole");
-    EXPECT_TRUE(QFile::exists(Test.Path(u"videos/large.mkv"_s)));
-    EXPECT_EQ(Test.Faults().constLast(), u"*** Process halted before finishing."_s);
 }

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 /// What chapter files and attachments become, with the real tools; and a run with everything switched on.
 
-static const QString Picture = u"video MPEG-4p2 und default"_s;
-static const QString Sound = u"audio MP3 und"_s;
+static const QString Film_Picture = u"video MPEG-4p2 und default"_s;
+static const QString Film_Sound = u"audio MP3 und"_s;
 
 static void Replace_Chapters(Library_Run& run, const QString& name, const QByteArray& text)
 {
@@ -37,7 +37,7 @@ static const Track_Claim Table[] = {
     {.Name = "ATextFileReplacesTheSourcesChapters",
      .Video = u"film.mp4"_s,
      .Prepare = [](Library_Run& run) { Replace_Chapters(run, u"Movie_Chapters.txt"_s, Text_Chapters); },
-     .Tracks = {Picture, u"audio AAC ger default"_s},
+     .Tracks = {Film_Picture, u"audio AAC ger default"_s},
      .Check =
          [](Library_Run& run) {
              EXPECT_EQ(run.Chapters(), QStringList({u"0.000  Über uns"_s, u"0.400  Act  Two"_s, u"0.700 Chapter 3"_s}));
@@ -51,44 +51,11 @@ static const Track_Claim Table[] = {
              Replace_Chapters(run, u"Movie_Chapters.txt"_s, Text_Chapters);
              Replace_Chapters(run, u"Movie_Chapters.xml"_s, Xml_Chapters);
          },
-     .Tracks = {Picture, Sound},
+     .Tracks = {Film_Picture, Film_Sound},
      .Check =
          [](Library_Run& run) {
              EXPECT_EQ(run.Chapters(), QStringList({u"0.100 Intro"_s, u"0.600 Chapter 2"_s}));
              EXPECT_TRUE(Names_In_Trash().contains(u"Movie_Chapters.xml"_s));
-         }},
-    {.Name = "AFinishedXmlIsUsedAsItStands",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_StripOrigAudio.Value = 1;
-             run.Prog.Options.chk_StripOrigSubs.Value = 1;
-             Replace_Chapters(run, u"Movie_Chapters.xml"_s, Xml_Chapters);
-         },
-     .Tracks = {u"video MPEG-4p2 und [Picture] default"_s},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Chapters(), QStringList{u"0.250 Mine"_s}); }},
-    {.Name = "ChaptersComeFromTheirOwnFolder",
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_ReplaceChapters.Value = 1;
-             run.Prog.Options.chk_ConvertTXT.Value = 1;
-             run.Prog.Options.chk_ChaptersPath.Value = 1;
-             run.Prog.Options.Path_Chapters = run.Path(u"chapters/"_s);
-             run.Write(u"chapters/Extras movie_chapters.XML"_s, Xml_Chapters);
-         },
-     .Tracks = {Picture, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Chapters(), QStringList{u"0.250 Mine"_s}); }},
-    {.Name = "WithoutConversionTheSourceKeepsItsChapters",
-     .Video = u"film.mp4"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             Replace_Chapters(run, u"Movie_Chapters.xml"_s, Xml_Chapters);
-             run.Prog.Options.chk_ConvertTXT.Value = 0;
-         },
-     .Tracks = {Picture, u"audio AAC ger default"_s},
-     .Check =
-         [](Library_Run& run) {
-             EXPECT_EQ(run.Chapters(), QStringList({u"0.000 Eins"_s, u"0.500 Zwei"_s}));
          }},
     {.Name = "FontsAndPicturesAreAttachedByteForByte",
      .Prepare =
@@ -96,7 +63,7 @@ static const Track_Claim Table[] = {
              Attach(run, u"font.ttf"_s, u"My Font.TTF"_s);
              Attach(run, u"pic.png"_s, u"pic.png"_s);
          },
-     .Tracks = {Picture, Sound},
+     .Tracks = {Film_Picture, Film_Sound},
      .Check =
          [](Library_Run& run) {
              EXPECT_EQ(run.Attachments(), QStringList({u"My Font.TTF font/ttf"_s, u"pic.png image/png"_s}));
@@ -104,55 +71,16 @@ static const Track_Claim Table[] = {
              EXPECT_THAT(both, testing::UnorderedElementsAre(Bytes_Of_File(Library_File(u"font.ttf"_s)),
                                                              Bytes_Of_File(Library_File(u"pic.png"_s))));
          }},
-    {.Name = "ATtcIsBinaryAndATifHasItsOwnWord",
-     .Prepare =
-         [](Library_Run& run) {
-             Attach(run, u"font.ttf"_s, u"a.ttc"_s);
-             Attach(run, u"pic.png"_s, u"b.tif"_s);
-             Attach(run, u"pic.png"_s, u"notes.txt"_s);
-         },
-     .Tracks = {Picture, Sound},
-     .Check =
-         [](Library_Run& run) {
-             EXPECT_EQ(run.Attachments(), QStringList({u"a.ttc binary"_s, u"b.tif image/tif"_s}));
-         }},
-    {.Name = "ATitledSubfolderGoesWithItsVideoOnly",
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.Use_Attachment_Subfolders = true;
-             Attach(run, u"pic.png"_s, u"Movie_Attachments/mine.png"_s);
-             Attach(run, u"pic.png"_s, u"Other_Attachments/not mine.png"_s);
-             Attach(run, u"pic.png"_s, u"everyone's.png"_s);
-         },
-     .Tracks = {Picture, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Attachments(), QStringList{u"mine.png image/png"_s}); }},
     {.Name = "AttachmentsWithHostileNamesAreAttached",
      .Prepare =
          [](Library_Run& run) {
              Attach(run, u"pic.png"_s, u"@argument.png"_s);
              Attach(run, u"pic.png"_s, u"-o \"x\" 'y'.png"_s);
          },
-     .Tracks = {Picture, Sound},
+     .Tracks = {Film_Picture, Film_Sound},
      .Check =
          [](Library_Run& run) {
              EXPECT_EQ(run.Attachments(), QStringList({u"-o \"x\" 'y'.png image/png"_s, u"@argument.png image/png"_s}));
-         }},
-    {.Name = "NewAttachmentsReplaceTheSourcesIfThoseAreRemoved",
-     .Video = u"cover.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_RemoveAllAttachments.Value = 1;
-             Attach(run, u"font.ttf"_s, u"font.ttf"_s);
-         },
-     .Tracks = {Picture, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Attachments(), QStringList{u"font.ttf font/ttf"_s}); }},
-    {.Name = "AnEmptyAttachmentsFolderIsOnlyTold",
-     .Prepare = [](Library_Run& run) { Attach(run, u"c.srt"_s, u"text.srt"_s); },
-     .Tracks = {Picture, Sound},
-     .Check =
-         [](Library_Run& run) {
-             EXPECT_EQ(run.Attachments(), QStringList());
-             EXPECT_TRUE(run.Log().contains(u"*** Add attachments is selected but no valid attachments were found"_s));
          }},
 };
 
@@ -228,24 +156,4 @@ TEST(Everything, SwitchedOnAtOnceIsThereInTheOutputAndTheFilesGoAfterwards)
     EXPECT_TRUE(QDir(run.Path(u"att"_s)).isEmpty());
     EXPECT_EQ(QDir(run.Path(u"videos"_s)).entryList(QDir::Files),
               QStringList({u"Movie_Chapters.txt"_s, u"Movie_Chapters.xml"_s}));
-}
-
-TEST(Everything, InADryRunIsNamedAndNothingIsTouched)
-{
-    Library_Run run;
-    run.Add(u"langs.mkv"_s, u"Movie.mkv"_s);
-    run.Add(u"c.flac"_s, u"Movie.flac"_s);
-    run.Add(u"c.srt"_s, u"Movie.srt"_s);
-    Switch_Everything_On(run);
-    run.Prog.Options.Delete_Video_After = true;
-    run.Prog.Options.Delete_Sundry_Files = true;
-    run.Prog.Run.Dry_Run = true;
-    EXPECT_TRUE(run.Run());
-    const QString command = run.Prog.Run.Mkvmerge_Arguments.Text();
-    for (const QString& name : {u"/Movie.flac )"_s, u"/Movie.srt )"_s, u"/Movie_Chapters.xml"_s, u"/pic.png"_s})
-        EXPECT_TRUE(command.contains(name)) << command.toStdString();
-    EXPECT_EQ(QDir(run.Path(u"videos"_s)).entryList(QDir::Files),
-              QStringList({u"Movie.flac"_s, u"Movie.mkv"_s, u"Movie.srt"_s, u"Movie_Chapters.txt"_s}));
-    EXPECT_TRUE(QDir(run.Path(u"target"_s)).isEmpty());
-    EXPECT_TRUE(QFile::exists(run.Path(u"att/pic.png"_s)));
 }

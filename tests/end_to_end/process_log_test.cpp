@@ -148,31 +148,6 @@ TEST_P(Process_Log_Level, ARunOverAGoodFileAFailingOneAndNoVideoLeavesExactlyThi
 INSTANTIATE_TEST_SUITE_P(Verbosity, Process_Log_Level, testing::ValuesIn(Levels),
                          [](const auto& level) { return std::to_string(level.param.Number); });
 
-TEST(Process_Log_Entry, ARefusedRunLeavesItsReason)
-{
-    struct Case
-    {
-        const char* Videos;
-        const char* Target;
-        QByteArray Reason;
-    };
-
-    const Case cases[] = {
-        {"gone/", "gone/", "The Video path and the Target path do not exist!"},
-        {"gone/", "target/", "The Video path does not exist!"},
-        {"videos/", "gone/", "The Target path does not exist!"},
-        {"videos/", "target/", "NO VIDEO FILES FOUND!"},
-    };
-    for (const Case& one : cases) {
-        Log_Run run(0);
-        run.Prog.Options.Path_Videos = run.Path(QLatin1StringView(one.Videos));
-        run.Prog.Options.Path_Target = run.Path(QLatin1StringView(one.Target));
-        run.Write(u"videos/notes.txt"_s);
-        EXPECT_FALSE(run.Run());
-        EXPECT_EQ(run.Masked_Log(), Header(0) + "        -- " + one.Reason + "\n\n\n");
-    }
-}
-
 TEST(Process_Log_Entry, AHaltedRunSaysThatItWasHalted)
 {
     Log_Run run(1);

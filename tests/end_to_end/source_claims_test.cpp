@@ -22,65 +22,6 @@ static const Track_Claim Source_Table[] = {
              EXPECT_EQ(run.Attachments(), QStringList{u"font.ttf font/ttf"_s});
              EXPECT_TRUE(run.Person.Messages.empty());
          }},
-    {.Name = "StrippedAudioIsGone",
-     .Video = u"langs.mkv"_s,
-     .Prepare = [](Library_Run& run) { run.Prog.Options.chk_StripOrigAudio.Value = 1; },
-     .Tracks = {Picture, English_Text, German_Text}},
-    {.Name = "EnglishOnlyDropsOtherAndUndeterminedAudio",
-     .Video = u"langs.mkv"_s,
-     .Prepare = [](Library_Run& run) { run.Prog.Options.chk_EngAudioOnly.Value = 1; },
-     .Tracks = {Picture, English, English_Text, German_Text}},
-    {.Name = "EnglishTitledAudioStaysIfAsked",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_EngAudioOnly.Value = 1;
-             run.Prog.Options.Keep_English_Audio = true;
-         },
-     .Tracks = {Picture, English, German, English_Text, German_Text}},
-    {.Name = "ACustomFilterCutsItsAudioLanguages",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_CustomAudioFilter.Value = 1;
-             run.Prog.Options.AudioFilter.Languages = u"German (ger):Undetermined (und)"_s;
-         },
-     .Tracks = {Picture, English, English_Text, German_Text}},
-    {.Name = "ACustomFilterKeepsOnlyItsAudioLanguages",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_CustomAudioFilter.Value = 1;
-             run.Prog.Options.AudioFilter.Languages = u"German (ger)"_s;
-             run.Prog.Options.AudioFilter.KeepOrCut = 1;
-         },
-     .Tracks = {Picture, German, English_Text, German_Text}},
-    {.Name = "StrippedSubtitlesAreGone",
-     .Video = u"langs.mkv"_s,
-     .Prepare = [](Library_Run& run) { run.Prog.Options.chk_StripOrigSubs.Value = 1; },
-     .Tracks = {Picture, English, German, Unknown}},
-    {.Name = "EnglishOnlyDropsOtherSubtitles",
-     .Video = u"langs.mkv"_s,
-     .Prepare = [](Library_Run& run) { run.Prog.Options.chk_EngSubsOnly.Value = 1; },
-     .Tracks = {Picture, English, German, Unknown, English_Text}},
-    {.Name = "ACustomFilterKeepsOnlyItsSubtitleLanguages",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_CustomSubsFilter.Value = 1;
-             run.Prog.Options.SubsFilter.Languages = u"German (ger)"_s;
-             run.Prog.Options.SubsFilter.KeepOrCut = 1;
-         },
-     .Tracks = {Picture, English, German, Unknown, German_Text}},
-    {.Name = "AllSubtitlesTakeTheWordsOfTheBoxes",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_SubDefaults = {.Value = 1, .Caption = {}, .Tag = u"yes"_s};
-             run.Prog.Options.chk_SubForces = {.Value = 1, .Caption = {}, .Tag = u"no"_s};
-         },
-     .Tracks = {Picture, English, German, Unknown, English_Text + u" default"_s,
-                u"subtitles SubRip/SRT ger [Schilder] default"_s}},
     {.Name = "TrackTitlesGoWhereTheyAreStripped",
      .Video = u"langs.mkv"_s,
      .Prepare =
@@ -110,20 +51,6 @@ static const Track_Claim Source_Table[] = {
                  EXPECT_NEAR(times[sound], 300, 10) << sound;
              EXPECT_NEAR(times[4], 200, 10);
          }},
-    {.Name = "AttachmentsAndChaptersAndTagsGoIfAsked",
-     .Video = u"langs.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_RemoveAllAttachments.Value = 1;
-             run.Prog.Options.chk_StripChaps.Value = 1;
-             run.Prog.Options.chk_RemoveAllTags.Value = 1;
-         },
-     .Tracks = {Picture, English, German, Unknown, English_Text, German_Text},
-     .Check =
-         [](Library_Run& run) {
-             EXPECT_EQ(run.Attachments(), QStringList());
-             EXPECT_EQ(run.Chapters(), QStringList());
-         }},
     {.Name = "CoverArtStays",
      .Video = u"cover.mkv"_s,
      .Tracks = {u"video MPEG-4p2 und default"_s, u"audio MP3 und"_s},
@@ -132,17 +59,6 @@ static const Track_Claim Source_Table[] = {
              EXPECT_EQ(run.Attachments(), QStringList{u"cover.png image/png"_s});
              EXPECT_EQ(run.Attachment_Bytes(1), Bytes_Of_File(Library_File(u"pic.png"_s)));
          }},
-    {.Name = "AnMp4WithADataStreamKeepsItsChapters",
-     .Video = u"film.mp4"_s,
-     .Tracks = {u"video MPEG-4p2 und default"_s, u"audio AAC ger default"_s},
-     .Check =
-         [](Library_Run& run) {
-             EXPECT_EQ(run.Chapters(), QStringList({u"0.000 Eins"_s, u"0.500 Zwei"_s}));
-         }},
-    {.Name = "AnAviBecomesMatroska",
-     .Video = u"old.avi"_s,
-     .Tracks = {u"video MPEG-4p2 und default"_s, u"audio MP3 und"_s},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Output()[u"container"][u"type"], u"Matroska"_s); }},
     {.Name = "ATransportStreamKeepsItsLanguages",
      .Video = u"tv.ts"_s,
      .Tracks = {u"video MPEG-1/2 und default"_s, u"audio MP2 eng"_s, u"audio MP2 fre"_s}},
@@ -168,45 +84,6 @@ static const Track_Claim Title_Table[] = {
          },
      .Tracks = {u"video MPEG-4p2 und [\"a \"b\" \\ --output /x\n"_s + QString(10000, u'z') + u"\"] default"_s, Sound},
      .Check = [](Library_Run& run) { EXPECT_EQ(run.Title(), u"--no-audio \"ü\" \\"_s); }},
-    {.Name = "AnEmptyCustomTitleSaysSo",
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_CustomVideoTitle.Value = 1;
-             run.Prog.Options.chk_CustomFileTitle.Value = 1;
-         },
-     .Tracks = {u"video MPEG-4p2 und [(empty)] default"_s, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Title(), u"(empty)"_s); }},
-    {.Name = "TitlesFromTheFileNameCarryQuotes",
-     .Video = u"titles.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_SetVideoTitle.Value = 1;
-             run.Prog.Options.opt_SetVideoTitle.Selected = 2;
-             run.Prog.Options.chk_SetFileTitle.Value = 1;
-             run.Prog.Options.opt_SetFileTitle.Selected = 2;
-         },
-     .Tracks = {u"video MPEG-4p2 und [\"Movie\"] default"_s, Titled_Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Title(), u"\"Movie\""_s); }},
-    {.Name = "TitlesOnlyIfEmptyLeaveTheSourcesAlone",
-     .Video = u"titles.mkv"_s,
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_SetVideoTitle.Value = 1;
-             run.Prog.Options.opt_SetVideoTitle.Selected = 1;
-             run.Prog.Options.chk_SetFileTitle.Value = 1;
-             run.Prog.Options.opt_SetFileTitle.Selected = 1;
-         },
-     .Tracks = {u"video MPEG-4p2 und [\"Quoted\" a: b] default"_s, Titled_Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Title(), u"back\\slash 'x'"_s); }},
-    {.Name = "APictureRateIsSet",
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_VideoFrameRate.Value = 1;
-             run.Prog.Options.Frame_Rate_Kind = 2;
-             run.Prog.Options.Frame_Rate_Value = u"24000/1001p"_s;
-         },
-     .Tracks = {u"video MPEG-4p2 und default"_s, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Track_Properties(0)[u"default_duration"].toInt(), 41708333); }},
     {.Name = "APictureRateIsSetForAnotherContainer",
      .Video = u"film.mp4"_s,
      .Prepare =
@@ -217,24 +94,6 @@ static const Track_Claim Title_Table[] = {
          },
      .Tracks = {u"video MPEG-4p2 und default"_s, u"audio AAC ger default"_s},
      .Check = [](Library_Run& run) { EXPECT_EQ(run.Track_Properties(0)[u"default_duration"].toInt(), 40000000); }},
-    {.Name = "AnAspectRatioIsSet",
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_VideoFormatOptions.Value = 1;
-             run.Prog.Options.Video_Format_Kind = 1;
-             run.Prog.Options.Video_Format_Value = u"16/9"_s;
-         },
-     .Tracks = {u"video MPEG-4p2 und default"_s, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Track_Properties(0)[u"display_dimensions"], u"85x48"_s); }},
-    {.Name = "DisplayDimensionsAreSet",
-     .Prepare =
-         [](Library_Run& run) {
-             run.Prog.Options.chk_VideoFormatOptions.Value = 1;
-             run.Prog.Options.Video_Format_Kind = 2;
-             run.Prog.Options.Video_Format_Value = u"1280x720"_s;
-         },
-     .Tracks = {u"video MPEG-4p2 und default"_s, Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Track_Properties(0)[u"display_dimensions"], u"1280x720"_s); }},
 };
 
 INSTANTIATE_TEST_SUITE_P(Titles, Track_Claims, testing::ValuesIn(Title_Table), Name_Of_Claim);

@@ -206,37 +206,6 @@ TEST(Vantorra_Batch, AssignmentsAndClicksHoldForTheRunAndAreNeverSaved)
     EXPECT_EQ(batch.Read(u"app/Vantorra.ini"_s), saved);
 }
 
-TEST(Vantorra_Batch, AKeyThatIsNeverReadIsToldAndHarmless)
-{
-    Batch_Process batch;
-    Place(batch, Short_Video(), u"videos/a.mkv"_s);
-    const Batch_Result result = batch.Run({u"--set"_s, u"Paths/Last Videos Path=/elsewhere"_s, u"--quiet"_s});
-    EXPECT_EQ(result.Exit, 0);
-    EXPECT_TRUE(result.Err.contains(u"changes nothing"_s)) << result.Err.toStdString();
-    EXPECT_TRUE(result.Out.isEmpty());
-}
-
-TEST(Vantorra_Batch, IdentifyAndLogPrintWhatTheViewersShow)
-{
-    Batch_Process batch;
-    const QString film = Place(batch, Rich_Video(), u"videos/film.mkv"_s);
-    EXPECT_EQ(batch.Run().Exit, 0);
-
-    batch.Start_With({u"identify"_s, u"--app-folder"_s, batch.Path(u"app"_s), film});
-    const Batch_Result identified = batch.Finish();
-    EXPECT_EQ(identified.Exit, 0) << identified.Err.toStdString();
-    EXPECT_TRUE(identified.Out.contains(u"container: Matroska"_s)) << identified.Out.toStdString();
-    EXPECT_TRUE(identified.Out.contains(u"language:ger"_s)) << identified.Out.toStdString();
-
-    for (const bool full : {false, true}) {
-        batch.Start_With(QStringList{u"log"_s, u"--app-folder"_s, batch.Path(u"app"_s)} +
-                         (full ? QStringList{u"--full"_s} : QStringList()));
-        const Batch_Result log = batch.Finish();
-        EXPECT_EQ(log.Exit, 0);
-        EXPECT_EQ(log.Out, QString::fromUtf8(batch.Read(u"app/Vantorra_Process.log"_s)).remove(u'\r'));
-    }
-}
-
 TEST(Vantorra_Batch, SettingsListsEveryKeyWithItsValueInForce)
 {
     Batch_Process batch;
@@ -359,21 +328,6 @@ TEST(Vantorra_Batch, ASignalInTheMiddleOfALargeFileEndsTheRunAtOnce)
     }
 }
 
-TEST(Vantorra_Batch, ASignalBeforeTheFirstFileCountsToo)
-{
-    Batch_Process batch;
-    for (int i = 0; i < 5; ++i)
-        Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
-    // The first that the program runs is ffprobe's version test, which hangs here.
-    Write_Stand_In(batch, u"app/ffprobe"_s,
-                   "case \"$*\" in *-version*) kill -INT $PPID; sleep 1000;; esac\nexec '" +
-                       Tool_In_Path(u"ffprobe"_s).toUtf8() + "' \"$@\"\n");
-    const Batch_Result result = batch.Run({u"--json"_s});
-    EXPECT_EQ(result.Exit, 130) << result.Err.toStdString();
-    EXPECT_TRUE(batch.Names_In(u"target"_s).isEmpty());
-    EXPECT_EQ(result.Events(u"finished"_s).constLast()[u"status"_s].toString(), u"interrupted"_s);
-}
-
 /// A mkvmerge that comes first in the batch's PATH; it knows its version unless it does `ahead`.
 static void Put_Mkvmerge_Ahead(Batch_Process& batch, const QByteArray& ahead)
 {
@@ -441,46 +395,4 @@ TEST(Vantorra_Batch, AReaderThatGoesAwayHaltsTheRun)
     EXPECT_EQ(shell.exitCode(), 130);
     EXPECT_LT(batch.Names_In(u"target"_s).size(), 20);
     EXPECT_TRUE(batch.Read(u"app/Vantorra_Process.log"_s).contains("*** Process halted before finishing!"));
-}
-
-TEST(Vantorra_Batch, ThreeHundredVideosLeaveNoZombieAndNoDescriptor)
-{
-    Batch_Process batch;
-    // Stand-ins: what is counted is what the program leaves behind, not what the tools do.
-    Write_Stand_In(batch, u"app/ffprobe"_s,
-                   "case \"$*\" in\n"
-                   "*show_streams*) echo 'stream|index=0|codec_type=video|width=64|height=48';;\n"
-                   "*) echo 'format|filename=v|duration=1.0|size=1';;\n"
-                   "esac\n");
-    const QString mkvmerge = Write_Stand_In(batch, u"tools/mkvmerge"_s, "echo 'mkvmerge v74.0.0 64-bit'\n");
-    for (int i = 0; i < 300; ++i)
-        batch.Write(u"videos/%1.mkv"_s.arg(i), "x");
-
-    batch.Start({u"--json"_s, u"--set"_s, u"Paths/System mkvmerge.exe Path="_s + mkvmerge});
-    ASSERT_TRUE(batch.Read_Until("\"event\":\"file\",\"index\":2,"));
-    const auto descriptors = [&batch] {
-        return QDir(u"/proc/%1/fd"_s.arg(batch.Process.processId())).entryList(QDir::AllEntries | QDir::System).size();
-    };
-    const qsizetype descriptors_at_first = descriptors();
-    ASSERT_TRUE(batch.Read_Until("\"event\":\"file\",\"index\":300,"));
-    EXPECT_LE(Children_Of(batch.Process.processId()).size(), 1);
-    EXPECT_LE(descriptors(), descriptors_at_first + 2);
-    const Batch_Result result = batch.Finish();
-    EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
-    EXPECT_EQ(result.Events(u"finished"_s).constLast()[u"done"_s].toInt(), 300);
-}
-
-TEST(Vantorra_Batch, TwoBatchesMayShareOneProgramFolder)
-{
-    Batch_Process one;
-    Batch_Process two;
-    for (const Batch_Process* batch : {&one, &two})
-        for (int i = 0; i < 3; ++i)
-            Place(*batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
-    const QStringList shared{u"--app-folder"_s, one.Path(u"app"_s), u"--set"_s, u"Menu/Append Logs=True"_s};
-    one.Start(shared);
-    two.Start(shared);
-    EXPECT_EQ(one.Finish().Exit, 0);
-    EXPECT_EQ(two.Finish().Exit, 0);
-    EXPECT_EQ(one.Read(u"app/Vantorra_Process.log"_s).count("This entry generated on - "), 2);
 }

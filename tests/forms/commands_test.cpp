@@ -201,16 +201,6 @@ TEST_F(Commands, EachFolderIsSetByItsButtonItsMenuItemItsPopupAndADrop)
     }
 }
 
-TEST_F(Commands, ACancelledPickerLeavesTheFolder)
-{
-    for (const Folder_Command& row : Folder_Commands) {
-        const QString before = Window.Get<QLabel>(row.Label).text();
-        Window.Person.On_Form[u"QFileDialog"_s] = [](QWidget& form) { Press(form, Qt::Key_Escape); };
-        Window.Choose(row.Menu_Item);
-        EXPECT_EQ(Window.Get<QLabel>(row.Label).text(), before) << row.Label;
-    }
-}
-
 TEST_F(Commands, SaveNowWritesAtOnceAndSaveOnExitOnlyFlips)
 {
     const auto saved = [this] { return Window.Files.Read(u"app/Vantorra.ini"_s); };
@@ -253,48 +243,6 @@ TEST_F(Commands, HelpOpensTheHelpFile)
     EXPECT_LT(places[0], places[1]);
     EXPECT_EQ(places[2], places[0]);
     EXPECT_TRUE(form->isVisible()) << "Enter looks on";
-}
-
-TEST_F(Commands, ClearTheLogSetsItAside)
-{
-    Window.Files.Write(u"app/Vantorra_Process.log"_s, "an entry\r\n");
-    Window.Choose("mnu_ClearLog");
-    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"app/Vantorra_Process.log"_s)));
-    EXPECT_EQ(Window.Files.Read(u"app/Vantorra_ProcessA.log"_s), "an entry\r\n");
-}
-
-TEST_F(Commands, TheMkvmergeInUseIsReadPickedOrRefused)
-{
-    const QString mkvmerge = Tool_In_Path(u"mkvmerge"_s);
-    const QString other = Window.Files.Write(u"other/tool"_s);
-    Open("mnu_ExecutablePaths", "frm_Locations", [&](QWidget& form) {
-        EXPECT_EQ(In<QLabel>(form, "lbl_ffprobe_Loc").text(), u"ffprobe.exe path (cannot change)");
-        Push(form, "btn_Clear");
-        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_PathFault").text(), u"MKVMerge.exe Path Not set");
-        Push(form, "btn_PathFromRegistry");
-        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_Path").text(), mkvmerge);
-        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_Choose").text(), u"Read from Registry");
-        EXPECT_FALSE(In(form, "btn_PathFromRegistry").isEnabled());
-
-        EXPECT_EQ(Answer_Picker(other, [&] { Push(form, "btn_BrowseMKVMerge"); }),
-                  u"Find and select the mkvmerge.exe file.");
-        EXPECT_EQ(Window.Prog().Tools.System_MKVMerge_Path, mkvmerge);
-        auto& panel = In<QWidget>(form, "pic_MKVMerge_Path");
-        Click_On(In<QLabel>(form, "lbl_MKVMerge_Path"), Qt::RightButton);
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_TRUE(menu);
-        EXPECT_EQ(menu->actions().constFirst()->objectName(), u"mnu_PopupMKVMergeBrowse1");
-        menu->close();
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(other)});
-        Drop_On(panel, data);
-        EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_PathFault").text(),
-                  u"mkvmerge.exe can not be found at the given path!");
-        Answer_Picker(mkvmerge, [&] { Push(form, "btn_BrowseMKVMerge"); });
-    });
-    EXPECT_EQ(Window.Prog().Tools.System_MKVMerge_Path, mkvmerge);
-    ASSERT_EQ(Window.Person.Boxes.size(), 1U);
-    EXPECT_EQ(Window.Person.Boxes[0].Text, u"mkvmerge.exe was not the file selected");
 }
 
 TEST_F(Commands, TheAttachmentFolderIsPickedByItsButtonAndItsPopup)

@@ -49,25 +49,6 @@ TEST_F(Folder_Panels, AFolderAFileOrTheFirstOfSeveralSetsThePath)
     EXPECT_TRUE(Window.Person.Boxes.empty());
 }
 
-TEST_F(Folder_Panels, WhatIsNoFolderIsToldInTheNumberedBox)
-{
-    QFile::link(Window.Files.Path(u"nowhere"_s), Window.Files.Path(u"dead"_s));
-    QMimeData text;
-    text.setText(u"just words"_s);
-    QMimeData link;
-    link.setUrls({QUrl(u"https://example.org/video.mkv"_s)});
-    QMimeData dead;
-    dead.setUrls({QUrl::fromLocalFile(Window.Files.Path(u"dead"_s))});
-    for (const QMimeData* data : {&text, &link, &dead}) {
-        Drop_On(Window.Get("pic_VideosPath"), *data);
-        Drop_On(Window.Get("pic_TargetPath"), *data);
-    }
-    ASSERT_EQ(Window.Person.Boxes.size(), 6u);
-    EXPECT_EQ(Window.Person.Boxes[0].Title, u"Error #401 - Video Path processing error!");
-    EXPECT_EQ(Window.Person.Boxes[1].Title, u"Error #405 - Target Path processing error!");
-    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"The selected path cannot be found."));
-}
-
 TEST_F(Folder_Panels, APanelComesAndGoesWithItsBoxAndNothingMoves)
 {
     const int target = Window.Get("pic_TargetPath").y();
@@ -85,18 +66,6 @@ TEST_F(Folder_Panels, APanelComesAndGoesWithItsBoxAndNothingMoves)
         Click_On(Window.Get(box));
     EXPECT_FALSE(Window.Get("pic_SubsPath").isVisible());
     EXPECT_EQ(Window.Get("pic_TargetPath").y(), target);
-}
-
-TEST_F(Folder_Panels, AnEmptyCompanionFolderIsMarked)
-{
-    QDir().mkpath(Window.Files.Path(u"audio"_s));
-    Click_On(Window.Get("chk_AudioPath"));
-    EXPECT_TRUE(Window.Get("lbl_AudioPathFault").isVisible());
-    Drop("pic_AudioPath", {Window.Files.Path(u"audio"_s)});
-    EXPECT_TRUE(Window.Get("lbl_AudipPathEmpty").isVisible());
-    Window.Files.Write(u"audio/a.mka"_s);
-    Drop("pic_AudioPath", {Window.Files.Path(u"audio"_s)});
-    EXPECT_FALSE(Window.Get("lbl_AudipPathEmpty").isVisible());
 }
 
 TEST_F(Folder_Panels, ALongPathIsCutInItsMiddleAndWholeInItsTooltip)
@@ -125,22 +94,6 @@ TEST_F(Folder_Panels, TheBrowseButtonAsksFromTheFolderAndShowsTheAnswer)
     EXPECT_EQ(title,
               u"Select a Target Folder to hold your processed files. It CANNOT be the same as the Video Files path.");
     EXPECT_EQ(Shown("ulbl_TargetPath"), Window.Files.Path(u"target/"_s));
-}
-
-TEST_F(Folder_Panels, TheTargetsArrowOffersTheRecentTargets)
-{
-    QDir().mkpath(Window.Files.Path(u"older"_s));
-    Drop("pic_TargetPath", {Window.Files.Path(u"older"_s)});
-    Drop("pic_TargetPath", {Window.Files.Path(u"target"_s)});
-    QStringList offered;
-    Window.Person.On_Form[u"frm_TargetMRU"_s] = [&](QWidget& form) {
-        const auto* list = form.findChild<QComboBox*>(u"cmbo_MRU"_s);
-        for (int i = 0; i < list->count(); ++i)
-            offered += list->itemText(i);
-    };
-    Click_On(Window.Get("img_TargetMRU"));
-    EXPECT_EQ(offered.value(0), Window.Files.Path(u"older/"_s));
-    EXPECT_EQ(Shown("ulbl_TargetPath"), Window.Files.Path(u"target/"_s)) << "closed without a choice";
 }
 
 TEST_F(Folder_Panels, AFolderThatVanishesIsToldAtTheRunAndLosesItsPanelsPath)

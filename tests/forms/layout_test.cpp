@@ -65,17 +65,6 @@ TEST_F(Layout, NothingIsClippedAtAnyFontSizeWithAllPanelsInView)
     }
 }
 
-TEST_F(Layout, TheProposedSizeNeedsNoScrolling)
-{
-    ASSERT_TRUE(Window.Start());
-    Window.Form().resize(Window.Form().sizeHint());
-    QCoreApplication::processEvents();
-    EXPECT_LE(Window.Get("fram_Options").height(), Window.Get<QScrollArea>("scr_Options").viewport()->height());
-    EXPECT_LE(Window.Form().sizeHint().width(), 1366);
-    EXPECT_EQ(Window.Get("chk_AddAudio").mapToGlobal(QPoint()).y(),
-              Window.Get("chk_AddSubs").mapToGlobal(QPoint()).y());
-}
-
 TEST_F(Layout, TheColoursThatMeanSomethingReadOnBothPalettes)
 {
     const QPalette dark(QColor(0x2f, 0x33, 0x38), QColor(0x2b, 0x2e, 0x32));

@@ -141,33 +141,6 @@ TEST(Window_Life, AfterAStartWithoutAWindowTheFirstOneIsCentredAtItsOwnSize)
     EXPECT_NEAR(window.Form().geometry().center().y(), area.center().y(), 1);
 }
 
-TEST(Window_Life, F12CentresTheForm)
-{
-    Test_Window window;
-    ASSERT_TRUE(window.Start());
-    window.Form().setGeometry(0, 0, 600, 500);
-    QCoreApplication::processEvents();
-    Press(window.Form(), Qt::Key_F12);
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-    EXPECT_NEAR(window.Form().geometry().center().x(), area.center().x(), 1);
-    EXPECT_NEAR(window.Form().geometry().center().y(), area.center().y(), 1);
-}
-
-TEST(Window_Life, KeepTopmostStandsBackWhileAFormIsOpen)
-{
-    Test_Window window;
-    ASSERT_TRUE(window.Start());
-    const auto on_top = [&] { return window.Form().windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint); };
-    window.Choose("mnu_KeepTopmost");
-    EXPECT_TRUE(on_top());
-    EXPECT_TRUE(window.Form().isVisible());
-    bool during = true;
-    window.Person.On_Form[u"frm_CustomTitle"_s] = [&](QWidget&) { during = on_top(); };
-    window.Choose("mnu_CustomFileTitle");
-    EXPECT_FALSE(during);
-    EXPECT_TRUE(on_top());
-}
-
 TEST(Window_Life, AnErrorThatCantBeGoneOnFromIsLoggedToldOnceAndEndsTheProgram)
 {
     Test_Window window;

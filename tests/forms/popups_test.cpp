@@ -103,14 +103,3 @@ TEST_F(Popup_Menus, ARightClickOnTheEnabledAttachmentsBoxOpensItsFormAtOnce)
     Click_On(box, Qt::RightButton);
     EXPECT_EQ(Window.Person.Forms, QStringList{u"frm_Attachments"_s});
 }
-
-TEST_F(Popup_Menus, EveryCommandOfThePopupsStandsInTheMenuBarToo)
-{
-    for (const char* action :
-         {"mnu_BrowseVideos", "mnu_BrowseTarget", "mnu_BrowseAudio", "mnu_BrowseSubs", "mnu_BrowseChapters",
-          "mnu_CustomAudioFilter", "mnu_CustomSubtitleFilter", "mnu_VideoFrameRate", "mnu_VideoFormatOptions",
-          "mnu_CustomFileTitle", "mnu_CustomVideoTitle", "mnu_Attachments", "mnu_AudioOptionsFile",
-          "mnu_SubtitleOptionsFile", "mnu_FlipSubDefaults", "mnu_FlipSubForces", "mnu_RecentSources",
-          "mnu_RecentTargets", "mnu_ViewVidInfo"})
-        EXPECT_TRUE(Window.Action(action).isVisible()) << action;
-}

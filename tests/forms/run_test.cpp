@@ -74,25 +74,6 @@ TEST_F(Window_Run, AWholeRunFromTheButtonToFinished)
     EXPECT_EQ(Children_Left(), 0);
 }
 
-TEST_F(Window_Run, OnlyAPlainLeftReleaseOverTheButtonStarts)
-{
-    Prepare();
-    Place(Window.Files, Short_Video(), u"videos/one.mkv"_s);
-    auto& button = Window.Get("btn_RunVantorra");
-    QWindow* window = Window.Form().windowHandle();
-    const QPoint at = button.mapTo(&Window.Form(), button.rect().center());
-    Click_On(button, Qt::RightButton);
-    Click_On(button, Qt::LeftButton, Qt::ShiftModifier);
-    QTest::mousePress(window, Qt::LeftButton, {}, at);
-    QTest::mouseRelease(window, Qt::LeftButton, {}, at - QPoint(0, 200));
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/one.mkv"_s)));
-    EXPECT_TRUE(Window.Get("btn_NOP").hasFocus()) << "a release off the button parks the focus";
-    button.setFocus();
-    Press(button, Qt::Key_Space);
-    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/one.mkv"_s)));
-}
-
 TEST_F(Window_Run, EnterStartsAndAFolderWithoutVideosIsRefused)
 {
     Prepare();
@@ -187,14 +168,4 @@ TEST_F(Window_Run, AnErrorInTheMiddleOfARunReapsTheChildAndEndsTheProgram)
     EXPECT_TRUE(Window.Desk->Guard.Ended());
     ASSERT_EQ(Window.Person.Boxes.size(), 1u);
     EXPECT_EQ(Children_Left(), 0);
-}
-
-TEST_F(Window_Run, TheFailurePictureFlashesAndStays)
-{
-    Prepare();
-    Window.Prog().Form.pic_ProcessFailed.Visible = false;
-    Window.Desk->Guard.Call([&] { Window.Prog().Form.pic_ProcessFailed.Visible = true; });
-    EXPECT_TRUE(Window.Get("img_ProcessFailed").isVisible());
-    Window.Desk->Guard.Call([&] { Window.Prog().Form.img_ProcessFailed_Out = true; });
-    EXPECT_LT(Window.Get<QAbstractButton>("img_ProcessFailed").iconSize().width(), 4);
 }

@@ -140,73 +140,6 @@ TEST_F(Log_Form, TheLongestLineCanBeScrolledToItsEndAtEverySize)
     });
 }
 
-TEST_F(Log_Form, ItIsCentredOnTheFirstRunEverAndThenWhereItWasLeft)
-{
-    Start();
-    const QPoint centre = Window.Form().geometry().center();
-    const auto is_centred = [&](const QWidget& form) {
-        return (form.geometry().center() - centre).manhattanLength() <= 2;
-    };
-    Look([&](QWidget& form) {
-        EXPECT_TRUE(is_centred(form)) << form.x() << " " << form.y();
-        form.setGeometry(40, 50, 600, 420);
-        QCoreApplication::processEvents();
-    });
-    Look([&](QWidget& form) {
-        EXPECT_EQ(form.geometry(), QRect(40, 50, 600, 420));
-        Press(form, Qt::Key_F12);
-        EXPECT_TRUE(is_centred(form));
-        EXPECT_EQ(form.size(), QSize(600, 420));
-        Press(form, Qt::Key_F12, Qt::ShiftModifier);
-        EXPECT_EQ(form.geometry(), Window.Form().geometry());
-        form.resize(10, 10);
-        QCoreApplication::processEvents();
-        EXPECT_GE(form.height(), form.minimumSizeHint().height());
-        form.setGeometry(60, 70, 610, 430);
-        form.setWindowState(Qt::WindowMaximized);
-        QCoreApplication::processEvents();
-    });
-    EXPECT_EQ(Window.Prog().Settings.ProcessLog_Box.MM, 2);
-    EXPECT_EQ(Window.Prog().Settings.ProcessLog_Box.Width, 610);
-    Window.Quit();
-    Start();
-    Look([&](QWidget& form) {
-        EXPECT_TRUE(form.isMaximized());
-        Press(form, Qt::Key_F12);
-        EXPECT_FALSE(form.isMaximized());
-        EXPECT_EQ(form.size(), QSize(610, 430));
-    });
-    // A place that is on no screen.
-    Window.Prog().Settings.ProcessLog_Box = {.Top = 9000, .Left = -9000, .Width = 600, .Height = 400};
-    Look([&](QWidget& form) { EXPECT_TRUE(form.screen()->availableGeometry().contains(form.geometry())); });
-}
-
-TEST_F(Log_Form, LoadingIsToldWhileTheFullLogLoads)
-{
-    struct Seen : QObject
-    {
-        QStringList Painted;
-
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() == QEvent::Paint)
-                Painted += static_cast<QLabel*>(watched)->text();
-            return false;
-        }
-    };
-
-    Start();
-    Write_Log(600);
-    Look([&](QWidget& form) {
-        Seen seen;
-        In<QLabel>(form, "lbl_LoadLog").installEventFilter(&seen);
-        QTest::qWait(20); // repainting is held to sixty times a second
-        Push(form, "btn_LoadFullLog");
-        EXPECT_TRUE(seen.Painted.contains(u"Loading Full Log"_s));
-        EXPECT_FALSE(In<QLabel>(form, "lbl_LoadLog").isVisible());
-    });
-}
-
 TEST_F(Info_Form, BothViewersCloseByTheSameKeysArePlacedByF12AndGiveTheTopBack)
 {
     struct Case
@@ -280,20 +213,6 @@ TEST_F(Info_Form, BothViewersCloseByTheSameKeysArePlacedByF12AndGiveTheTopBack)
     }
 }
 
-TEST_F(Log_Form, ALogOfTooManyLinesIsTheErrorThatNamesIt)
-{
-    Start();
-    Write_Log(32'768);
-    Look([&](QWidget& form) {
-        EXPECT_EQ(Lines(form).model()->rowCount(), 500);
-        Push(form, "btn_LoadFullLog");
-    });
-    EXPECT_TRUE(Window.Desk->Guard.Ended());
-    ASSERT_EQ(Window.Person.Boxes.size(), 1u);
-    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"Run-time error '6'"_s));
-    EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(u"Vantorra_Process.log"_s));
-}
-
 TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
 {
     Start();
@@ -356,26 +275,6 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
     EXPECT_EQ(Children_Left(), 0);
 }
 
-TEST_F(Info_Form, WhatIsNoFileIsTheNumberedErrorAndTheTextStays)
-{
-    Start();
-    Place(Window.Files, Short_Video(), u"videos/film.mkv"_s);
-    const QString link = Window.Files.Path(u"dead"_s);
-    ASSERT_TRUE(QFile::link(Window.Files.Path(u"nowhere"_s), link));
-    Look([&](QWidget& form) {
-        Pick(form, 0);
-        const QString info = Text(form);
-        for (const QString& path : {Window.Files.Path(u"videos"_s), link, QString()}) {
-            Window.Person.Boxes.clear();
-            Drop(form, path);
-            ASSERT_EQ(Window.Person.Boxes.size(), 1u) << path.toStdString();
-            EXPECT_EQ(Window.Person.Boxes[0].Title, u"Error #440 - Invalid File Name.");
-            EXPECT_EQ(Text(form), info);
-            EXPECT_TRUE(form.isVisible());
-        }
-    });
-}
-
 TEST_F(Info_Form, NothingElseHappensWhileTheToolIsAsked)
 {
     Start();
@@ -415,22 +314,4 @@ TEST_F(Info_Form, AClickOnTheDisabledButtonTellsWhatItLacks)
     EXPECT_EQ(Window.Person.Boxes.size(), 1u);
     Window.Choose("mnu_IdentifyWithAnyMkvmerge");
     EXPECT_TRUE(Window.Get("btn_ViewVidInfo").isEnabled());
-}
-
-TEST_F(Info_Form, AnInfoTextOfTenMegabytesIsShown)
-{
-    Start();
-    Place(Window.Files, Short_Video(), u"videos/film.mkv"_s);
-    Window.Prog().Tools.Local_MKVMerge_OK = true;
-    Window.Prog().Tools.Local_MKVMerge_Path =
-        Write_Stand_In(Window.Files, u"app/mkvmerge"_s,
-                       "[ \"$1\" = -V ] && echo \"mkvmerge v19.0.0 ('Brave Captain') 64-bit\" && exit 0\n"
-                       "yes 'Track ID 0: video (h264) [language:eng display_dimensions:1920x1080]' | head -c 5000000\n"
-                       "printf '\\nlast [name:'\nhead -c 5000000 /dev/zero | tr '\\0' x\necho ']'\n");
-    Look([&](QWidget& form) {
-        Pick(form, 0);
-        EXPECT_GT(Text(form).size(), 10'000'000);
-        QCoreApplication::processEvents();
-        Press(form, Qt::Key_Escape);
-    });
 }

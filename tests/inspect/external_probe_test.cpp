@@ -9,21 +9,6 @@ using namespace Qt::StringLiterals;
 static const QByteArray Probe = "printf 'stream|index=0|codec_type=audio|disposition:default=1|disposition:forced=0|"
                                 "tag:handler_name=Sound|tag:x=y\\n'";
 
-TEST(ExternalProbe, AudioAnswersOneAndSubtitlesZeroThoughBothAreRead)
-{
-    Test_Program test;
-    Media_State& media = test.Prog.Media;
-    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"ffprobe"_s, Probe);
-    EXPECT_EQ(Run_FFProbe_ExtAudio(test.Prog, u"/v/a b.mp3"_s), 1);
-    EXPECT_EQ(media.ExtAudioInfo.HandlerName, u"Sound"_s);
-    EXPECT_EQ(media.ExtAudioInfo.Language, u"und"_s);
-    EXPECT_EQ(media.ExtAudioInfo.Default, u"Yes"_s);
-    EXPECT_EQ(Run_FFProbe_ExtSubtitle(test.Prog, u"/v/a b.srt"_s), 0);
-    EXPECT_EQ(media.ExtSubtitleInfo.HandlerName, u"Sound"_s);
-    EXPECT_EQ(media.ExtSubtitleInfo.Language, u""_s);
-    EXPECT_TRUE(test.Person.Messages.empty());
-}
-
 TEST(ExternalProbe, AFailureIsReportedWithItsFileAndLeavesTheLastAnswer)
 {
     Test_Program test;

@@ -39,13 +39,6 @@ TEST(Identification, CodecPrivateValuesAreMaskedAndEscapesUndoneInThatOrder)
     }
 }
 
-TEST(Identification, EmptyLinesAtTheEndGoAndThoseInsideStay)
-{
-    EXPECT_EQ(Identification_Lines(u"a\r\n\r\nb\r\n\r\n\r\n"_s, false), (QStringList{u"a"_s, {}, u"b"_s}));
-    EXPECT_EQ(Identification_Lines(u"\r\n\r\n"_s, true), QStringList());
-    EXPECT_EQ(Identification_Lines({}, true), QStringList());
-}
-
 TEST(Identification_Json, IsWrittenOutAsVerboseText)
 {
     struct Case
@@ -116,66 +109,8 @@ struct Identify_Test : testing::Test, Test_Program
 {
     Identify_Test() { Prog.Tools.System_MKVMerge_Path = u"/usr/bin/mkvmerge"_s; }
 
-    static void Run(const QString& tool, const QStringList& arguments)
-    {
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(tool, arguments);
-        process.waitForFinished();
-        ASSERT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
-    }
-
     QString Lines() const { return Prog.Media.Video_Info_Lines.join(u'\n'); }
 };
-
-TEST_F(Identify_Test, RealFilesShowTracksCodecsLanguagesAndAttachmentsWithPrivateValuesMaskedOrNot)
-{
-    const QString source = Path(u"videos/a film's source.mkv"_s);
-    Run(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=d=1:s=64x64"_s, u"-f"_s, u"lavfi"_s,
-                      u"-i"_s, u"sine=d=1"_s, u"-c:v"_s, u"libx264"_s, u"-c:a"_s, u"aac"_s, u"-metadata:s:a:0"_s,
-                      u"language=fre"_s, u"-metadata"_s, u"title=a: b \\ c"_s, source});
-    const QString mkv = Path(u"videos/with font.mkv"_s);
-    Run(u"mkvmerge"_s, {u"-q"_s, u"-o"_s, mkv, u"--attachment-mime-type"_s, u"font/ttf"_s, u"--attach-file"_s,
-                        Write(u"my font.ttf"_s, "x"), source});
-    for (const QString& extension : {u"mp4"_s, u"ts"_s})
-        Run(u"ffmpeg"_s,
-            {u"-v"_s, u"error"_s, u"-i"_s, source, u"-c"_s, u"copy"_s, Path(u"videos/film."_s + extension)});
-
-    ASSERT_TRUE(Identify_File(Prog, mkv));
-    EXPECT_TRUE(Lines().startsWith(u"File '"_s + mkv + u"': container: Matroska [container_type:17 "_s));
-    for (const auto* piece : {u"title:a: b \\ c", u"Track ID 0: video (AVC/H.264", u"Track ID 1: audio (AAC)",
-                              u"language:fre", u" codec_private_data:XX ", u" codec_private_length:XX ",
-                              u"Attachment ID 1: type 'font/ttf', size 1 bytes, file name 'my font.ttf' [uid:"})
-        EXPECT_TRUE(Lines().contains(QString::fromUtf16(piece))) << QString::fromUtf16(piece).toStdString();
-    Prog.Media.Show_Codec_Private = 1;
-    ASSERT_TRUE(Identify_File(Prog, mkv));
-    EXPECT_FALSE(Lines().contains(u":XX"_s));
-    EXPECT_TRUE(Lines().contains(u"title:a\\c\\sb\\s\\\\sc"_s)) << "raw, escapes included";
-    EXPECT_TRUE(Lines().contains(u" codec_private_data:01"_s));
-
-    Prog.Media.Show_Codec_Private = 0;
-    ASSERT_TRUE(Identify_File(Prog, Path(u"videos/film.mp4"_s)));
-    EXPECT_TRUE(Lines().contains(u"container: QuickTime/MP4"_s) && Lines().contains(u"language:fre"_s));
-    ASSERT_TRUE(Identify_File(Prog, Path(u"videos/film.ts"_s)));
-    EXPECT_TRUE(Lines().contains(u"container: MPEG transport stream"_s) &&
-                Lines().contains(u"Track ID 1: audio (AAC)"_s) && Lines().contains(u"service_provider:FFmpeg"_s));
-
-    ASSERT_TRUE(Identify_File(Prog, Path(u"videos/gone.mkv"_s)));
-    EXPECT_EQ(Prog.Media.Video_Info_Lines.size(), 1);
-    EXPECT_TRUE(Lines().startsWith(u"Error: The file '"_s)) << Lines().toStdString();
-    ASSERT_TRUE(Identify_File(Prog, Write(u"videos/text.mkv"_s, "no media")));
-    EXPECT_EQ(Lines(), u"Error: The type of file '"_s + Path(u"videos/text.mkv"_s) + u"' is not supported."_s);
-}
-
-TEST_F(Identify_Test, AnInvalidByteInATagCostsOneLetterOnly)
-{
-    Prog.Tools.System_MKVMerge_Path =
-        Write_Stand_In(*this, u"mkvmerge"_s,
-                       R"(printf '{"container":{"recognized":true,"supported":true,"type":"X\377Y"}}\n')"
-                       "\n");
-    ASSERT_TRUE(Identify_File(Prog, u"/f"_s));
-    EXPECT_EQ(Lines(), u"File '/f': container: X\uFFFDY"_s);
-}
 
 TEST_F(Identify_Test, TheLocalCopyIsAskedForItsOwnTextWithThePathAsOneArgument)
 {

@@ -125,24 +125,6 @@ TEST(StreamParser, OnlyStreamsOfKnownKindsMakeRecordsAndOnlyALastOneLeavesAnEmpt
         EXPECT_EQ(Types_Of(Parsed(Output_Of(claim.Streams))), claim.Types) << claim.Streams.join(u'/').toStdString();
 }
 
-TEST(StreamParser, SideDataStaysWithItsStreamAndEndsItsLastValueAtTheNextPipe)
-{
-    const FileInfoList list = Parsed(u"format|filename=x\r\nstream|index=0|codec_type=audio|tag:language=eng\r\n"
-                                     "side_data|side_data_type=Replay|gain=1\r\nstream|index=1|codec_type=audio\r\n"_s);
-    ASSERT_EQ(list.size(), 3U);
-    EXPECT_EQ(list[1].Language, u"eng side_data_type=Replay"_s);
-    EXPECT_EQ(list[2].Index, u"1"_s);
-}
-
-TEST(StreamParser, AnEmptyTextGivesOneEmptyRecordAndNoAssembly)
-{
-    Media_State media;
-    media.FileInfoList.resize(4);
-    EXPECT_FALSE(Parse_FFProbe_Output(media, {}));
-    ASSERT_EQ(media.FileInfoList.size(), 1U);
-    EXPECT_TRUE(media.FileInfoList[0].StreamType.isEmpty());
-}
-
 TEST(StreamParser, APipeInATitleSurvivesOnlyInAStreamAndOnlyBetweenBlanks)
 {
     struct Claim

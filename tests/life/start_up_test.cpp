@@ -91,17 +91,6 @@ TEST(StartUp, WithoutASettingsFileOneIsWrittenReadBackAndTheFormCentred)
     EXPECT_EQ(test.Prog.Form.Place.Top, 7) << "later activations leave the form where it is";
 }
 
-TEST(StartUp, ADryRunReadsTheFirstFileWithoutWritingIt)
-{
-    Test_Program test;
-    test.Prog.Settings.App_Folder = test.Path(u"new/"_s);
-    test.Prog.Run.Dry_Run = true;
-    Load_Settings(test.Prog);
-    EXPECT_EQ(test.Prog.Options.chk_RemoveAllTags.Value, 0);
-    EXPECT_FALSE(QFile::exists(test.Path(u"new"_s)));
-    EXPECT_TRUE(test.Person.Messages.empty());
-}
-
 TEST(StartUp, AFolderThatCantBeWrittenIsToldAndTheProgramStarts)
 {
     Test_Program test;
@@ -123,21 +112,6 @@ TEST(StartUp, ASecondWindowOnTheFolderSaysSoAndDoesNothing)
     EXPECT_FALSE(QFile::exists(test.Prog.Settings.Ini_File));
     ASSERT_EQ(test.Person.Messages.size(), 1U);
     EXPECT_EQ(test.Person.Messages[0].Title, u"Vantorra is open already"_s);
-}
-
-TEST(StartUp, ATargetThatIsTheSourceIsEmptiedAndTheRunButtonFollows)
-{
-    for (const bool follows : {true, false}) {
-        Test_Program test;
-        const QByteArray videos = test.Path(u"videos/"_s).toUtf8();
-        test.Write(u"app/Vantorra.ini"_s,
-                   "[MainWindow]\nLeft=0\nTop=0\nWidth=1\nHeight=1\n[Most Recently Used Sources]\nMRU Sources=" +
-                       videos + "\n[Most Recently Used Destinations]\nMRU Targets=" + videos +
-                       "\n[Extensions]\nRun Button Follows Folders=" + (follows ? "On" : "Off") + "\n");
-        ASSERT_TRUE(Start_Up(test.Prog, nullptr));
-        EXPECT_EQ(test.Prog.Options.Path_Target, u""_s);
-        EXPECT_EQ(test.Prog.Form.btn_RunVantorra.Enabled, !follows);
-    }
 }
 
 TEST(ShutDown, TheCloseBoxIsRefusedAndEveryOtherCloseSaves)
@@ -162,28 +136,6 @@ TEST(ShutDown, TheCloseBoxIsRefusedAndEveryOtherCloseSaves)
     EXPECT_FALSE(test.Person.Topmost);
     Unload(test.Prog);
     EXPECT_TRUE(test.Prog.Form.Closing);
-}
-
-TEST(ShutDown, WithoutSavingTheFirstKeyIsWrittenAllTheSame)
-{
-    Test_Program test;
-    Load_Settings(test.Prog);
-    test.Prog.Settings.Save_On_Exit = false;
-    test.Prog.Options.Custom_File_Title = u"new"_s;
-    EXPECT_TRUE(Query_Unload(test.Prog));
-    const Ini_Document document = Load_Ini_File(test.Prog.Settings.Ini_File);
-    EXPECT_EQ(document.Value(u"MainWindow"_s, u"Save Settings on Exit"_s), u"False"_s);
-    EXPECT_EQ(document.Value(u"Other Options"_s, u"Set Custom File Title Text"_s), u""_s);
-}
-
-TEST(ShutDown, ThePictureButtonGivesUpTheTopmostState)
-{
-    Test_Program test;
-    test.Prog.Form.Topmost_On = test.Person.Topmost = true;
-    img_Quit_Click(test.Prog);
-    EXPECT_FALSE(test.Person.Topmost || test.Prog.Form.Topmost_On);
-    mnu_Quit_Click(test.Prog);
-    EXPECT_EQ(test.Person.Unloads, 2);
 }
 
 TEST(MainFormKeys, ActByWhetherARunGoesOn)
@@ -240,32 +192,4 @@ TEST(Help, OpensTheFileOrShowsItWhereTheDesktopHasNoProgramForIt)
     mnu_Help_Click(test.Prog);
     EXPECT_EQ(test.Person.Opened_Documents, QStringList{own});
     EXPECT_TRUE(test.Person.Messages.empty());
-}
-
-TEST(AboutBox, ClosesByItselfAfterSevenTicks)
-{
-    Test_Program test;
-    test.Prog.Now = [] { return QDateTime(QDate(2026, 3, 7), QTime(1, 2)); };
-    test.Prog.Form.Topmost_On = test.Person.Topmost = true;
-    mnu_AboutProgram_Click(test.Prog);
-    const About_Form& form = test.Prog.About_Box;
-    EXPECT_EQ(test.Person.Forms, QStringList{u"frm_Splash"_s});
-    EXPECT_EQ(form.lbl_Version.Caption, u"Version 2.5.5"_s);
-    EXPECT_EQ(form.lbl_Author.Caption, u"By Zarnegar   Saturday, March 07, 2026"_s);
-    Tick_About_Box(test.Prog);
-    EXPECT_EQ(form.lbl_Countdown.Caption, u""_s) << "nothing counts before the first activation";
-    Activate_About_Box(test.Prog);
-    EXPECT_EQ(form.lbl_Countdown.Caption, u"8"_s);
-    EXPECT_FALSE(test.Person.Topmost);
-    for (int tick = 0; tick < 6; ++tick)
-        Tick_About_Box(test.Prog);
-    EXPECT_TRUE(form.Visible);
-    Tick_About_Box(test.Prog);
-    EXPECT_FALSE(form.Visible || form.Timer1_Running);
-    EXPECT_TRUE(test.Person.Topmost);
-
-    mnu_AboutProgram_Click(test.Prog);
-    Activate_About_Box(test.Prog);
-    Close_About_Box(test.Prog);
-    EXPECT_FALSE(form.Visible || form.Timer1_Running) << "a click closes it at once";
 }

@@ -65,55 +65,6 @@ void Turn_All_On(Program& program)
     program.Form.ulbl_ChaptersPath.Caption = u"/label/c/"_s;
 }
 
-TEST(Log_Sections, EveryBoxHasItsLineInTheLogsOrder)
-{
-    Test_Program test;
-    Turn_All_On(test.Prog);
-    const char16_t* const lines[] = {
-        u"            ~~ Strip Existing Audio Title",
-        u"            ~~ Apply custom Audio Filter (cut)",
-        u"               ~~ Original Audio Languages to Cut - English (eng):French (fre)",
-        u"            ~~ Filter out NON-English Audio",
-        u"            ~~ Audio Delay Adjust -250ms",
-        u"            ~~ Add Audio Files",
-        u"              ~~ Use Audio '.opt' (options) files",
-        u"                ~~ Apply Default Audio options",
-        u"            ~~ Alternate Audio File Path - Path= /label/a/",
-        u"            ~~ Strip Existing Subtitles Title",
-        u"            ~~ Apply custom Subtitle Filter (cut)",
-        u"               ~~ Original Subtitle Languages to Keep - German (ger)",
-        u"            ~~ Filter out NON-English Subtitles",
-        u"            ~~ Set All Subtitles defaults to 'no'",
-        u"            ~~ Set All Subtitles forces to 'yes'",
-        u"            ~~ Add Subtitles",
-        u"              ~~ Use Subtitle '.opt' (options) files",
-        u"                ~~ Apply Default Subtitle options",
-        u"            ~~ Alternate Subtitle File Path - Path= /label/s/",
-        u"            ++ Strip Existing Chapters",
-        u"            ++ Install/Replace Chapters With New XML File",
-        u"            ++ Convert TXT to XML Chapters HH:MM:SS.ff",
-        u"            ++ Alternate Chapters File Path - Path= /label/c/",
-        u"            -- Delete Source Video File After Its Processed",
-        u"            -- Set Video Frame Rate  - \"25p\"",
-        u"            -- Use Video Format Options  - \"16/9 Aspect Ratio\"",
-        u"            -- Set File Title (If Empty)",
-        u"            -- Set Video Title (Always)",
-        u"            -- Remove All Original Tags",
-        u"            -- Remove All Original Attachments",
-        u"            -- Add Attachments in Videos Path.",
-        u"            -- Split multiple video files is On",
-        u"            ~~ Video Files Path= /v/",
-        u"            ~~ Target Path= /t/",
-        u"            ~~ Alternate Audio File Path - Path= (Audio path not set)",
-        u"            ~~ Alternate Subtitle File Path - Path= /s/",
-        u"            ++ Alternate Chapters File Path - Path= (Chapters path not set)",
-    };
-    QStringList expected;
-    for (const auto* line : lines)
-        expected += QString::fromUtf16(line);
-    EXPECT_EQ(Active_Checkbox_Lines(test.Prog), expected);
-}
-
 /// One change to the state in which everything is on: the lines that go and the lines that come.
 struct Change
 {
@@ -130,14 +81,6 @@ TEST(Log_Sections, ABoxSilencesTheLinesItRulesOut)
          [](Program& p) { p.Options.chk_StripOrigAudio.Value = 1; },
          {u"            ~~ Strip Existing Audio Title"_s, u"            ~~ Filter out NON-English Audio"_s},
          {u"            ~~ Strip Existing Audio"_s}},
-        {"stripped subtitles",
-         [](Program& p) { p.Options.chk_StripOrigSubs.Value = 1; },
-         {u"            ~~ Strip Existing Subtitles Title"_s, u"            ~~ Filter out NON-English Subtitles"_s},
-         {u"            ~~ Strip Existing Subtitles"_s}},
-        {"no option files, so no defaults for them",
-         [](Program& p) { p.Options.chk_UseAudioOpts.Value = 0; },
-         {u"              ~~ Use Audio '.opt' (options) files"_s, u"                ~~ Apply Default Audio options"_s},
-         {}},
         {"no added subtitles",
          [](Program& p) { p.Options.chk_AddSubs.Value = 0; },
          {u"            ~~ Add Subtitles"_s, u"              ~~ Use Subtitle '.opt' (options) files"_s,
@@ -161,26 +104,10 @@ TEST(Log_Sections, ABoxSilencesTheLinesItRulesOut)
          {u"            -- Set Video Frame Rate  - \"25p\""_s,
           u"            -- Use Video Format Options  - \"16/9 Aspect Ratio\""_s},
          {}},
-        {"display dimensions",
-         [](Program& p) { p.Options.Video_Format_Kind = 2; },
-         {u"            -- Use Video Format Options  - \"16/9 Aspect Ratio\""_s},
-         {u"            -- Use Video Format Options  - \"16/9 Width/Height\""_s}},
-        {"a custom file title ahead of a set one",
-         [](Program& p) { p.Options.chk_CustomFileTitle.Value = 1; },
-         {u"            -- Set File Title (If Empty)"_s},
-         {u"            -- Set Custom File Title (empty)"_s}},
         {"a removed file title ahead of both",
          [](Program& p) { p.Options.chk_RemoveFileTitle.Value = p.Options.chk_CustomFileTitle.Value = 1; },
          {u"            -- Set File Title (If Empty)"_s},
          {u"            -- Remove File Title"_s}},
-        {"a custom video title",
-         [](Program& p) { p.Options.chk_CustomVideoTitle.Value = 1; },
-         {u"            -- Set Video Title (Always)"_s},
-         {u"            -- Set Custom Video Title (empty)"_s}},
-        {"a removed video title",
-         [](Program& p) { p.Options.chk_RemoveVideoTitle.Value = p.Options.chk_CustomVideoTitle.Value = 1; },
-         {u"            -- Set Video Title (Always)"_s},
-         {u"            -- Remove Video Title"_s}},
         {"attachments from subfolders",
          [](Program& p) { p.Options.Use_Attachment_Subfolders = true; },
          {u"            -- Add Attachments in Videos Path."_s},
@@ -207,32 +134,6 @@ TEST(Log_Sections, ABoxSilencesTheLinesItRulesOut)
         EXPECT_EQ(gone, change.Gone) << change.What;
         EXPECT_EQ(come, change.Come) << change.What;
     }
-}
-
-TEST(Log_Sections, MenuSelectionsTellTheSwitchesAndTheTools)
-{
-    Test_Program test;
-    Program& program = test.Prog;
-    program.Options.Log_Verbosity = 6;
-    program.Form.Topmost_On = true;
-    program.Settings.Save_On_Exit = false;
-    program.Options.mnu_AppendLogs = true;
-    program.Options.Keep_English_Audio = true;
-    program.Options.Keep_English_Subs = true;
-    program.Tools.FFProbe_Path = u"/f"_s;
-    program.Tools.System_MKVMerge_Path = u"/m"_s;
-    program.Tools.System_MKVMerge_Version = u"MKVMERGE v19.0.0 ('Brave Captain')"_s;
-    EXPECT_EQ(
-        Menu_Selection_Lines(program),
-        (QStringList{u"            -- Keep this program topmost"_s, u"            -- Save Settings on Exit is Off"_s,
-                     u"            -- Append Vantorra Log(s)"_s,
-                     u"            -- Log Verbosity 6 - Include ALL MKVMerge Reports"_s,
-                     u"            -- Keep English Titled Audio"_s, u"            -- Keep English Titled Subtitles"_s,
-                     u"            -- ffprobe.exe location - /f"_s,
-                     u"            -- MKVMerge.exe location - /m   v19.0.0 ('Brave Captain')"_s}));
-    program.Tools.System_MKVMerge_Version = u"a fork v1\r\n"_s;
-    EXPECT_EQ(Menu_Selection_Lines(program).constLast(),
-              u"            -- MKVMerge.exe location - /m   a fork v1\r\n"_s);
 }
 
 } // namespace

@@ -44,13 +44,6 @@ struct Log_Test : testing::Test, Test_Program
     QStringList Files() const { return QDir(Path(u"app"_s)).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
 };
 
-TEST_F(Log_Test, AnEmptyEntryIsTheHeaderAndTwoEmptyLines)
-{
-    EXPECT_TRUE(Write_Process_Log(Prog));
-    EXPECT_EQ(Log(), Header(0) + "\r\n\r\n");
-    EXPECT_EQ(Files(), QStringList{u"Vantorra_Process.log"_s}) << "no work file, no lock file stays";
-}
-
 TEST_F(Log_Test, OnlyResultsThatSaySomethingReachTheFileAndAllBuffersAreEmptyAfterwards)
 {
     for (const auto* line : {u"@", u"~~~~", u"", u" @", u"    -- ü \"x\"", u"@"})
@@ -61,40 +54,6 @@ TEST_F(Log_Test, OnlyResultsThatSaySomethingReachTheFileAndAllBuffersAreEmptyAft
     EXPECT_EQ(Log(), Header(0) + "~~~~\r\n @\r\n    -- ü \"x\"\r\n\r\n\r\n");
     EXPECT_TRUE(Prog.Logs.Log_Results.Is_Empty() && Prog.Logs.Log_Faults.Is_Empty() &&
                 Prog.Logs.Log_Console.Is_Empty());
-}
-
-TEST_F(Log_Test, AHaltedRunSaysSoBehindItsResults)
-{
-    Prog.Run.Halt_Requested = true;
-    Prog.Logs.Log_Results.AppendLine(u"~~~~");
-    Write_Process_Log(Prog);
-    EXPECT_EQ(Log(), Header(0) + "~~~~\r\n\r\n        *** Process halted before finishing!\r\n\r\n\r\n");
-}
-
-TEST_F(Log_Test, TheLevelDecidesOnTheSections)
-{
-    const QByteArray paths = "            ~~ Video Files Path= " + Path(u"videos/"_s).toUtf8() +
-                             "\r\n            ~~ Target Path= " + Path(u"target/"_s).toUtf8() + "\r\n";
-    const QByteArray boxes = "        [Active Checkboxes]\r\n" + paths + "\r\n";
-    const auto menu = [](const QByteArray& verbosity) {
-        return "        [Menu Selections]\r\n            -- Save Settings on Exit is On\r\n" + verbosity +
-               "            -- ffprobe.exe location - /app/ffprobe\r\n            -- MKVMerge.exe location - "
-               "/usr/bin/mkvmerge   v74.0.0 ('You Oughta Know') 64-bit\r\n\r\n";
-    };
-    const QByteArray sections[] = {
-        "",
-        "",
-        "",
-        boxes,
-        menu("            -- Log Verbosity 4 - Include All Menu Settings\r\n") + boxes,
-        menu("            -- Log Verbosity 5 - Include MKVMerge Reports\r\n") + boxes,
-        menu("            -- Log Verbosity 6 - Include ALL MKVMerge Reports\r\n") + boxes,
-        menu("") + boxes,
-    };
-    for (int level = 0; level <= 7; ++level) {
-        Prog.Options.Log_Verbosity = static_cast<std::int16_t>(level);
-        EXPECT_EQ(Log_Entry(Prog).toUtf8(), Header(level) + sections[level] + "\r\n\r\n") << level;
-    }
 }
 
 TEST_F(Log_Test, AppendingCarriesTheOldTextBelowTheNewEntryAndTrashesNothing)
@@ -121,21 +80,6 @@ TEST_F(Log_Test, WhatACrashedRunLeftInTheWorkFileStaysAheadOfTheNewEntry)
         Write_Process_Log(Prog);
         EXPECT_EQ(Log(), leftover + Header(0) + "\r\n\r\n") << leftover.data();
     }
-}
-
-TEST_F(Log_Test, FiveRunsWithoutAppendingLeaveAToD)
-{
-    for (const auto* text : {u"1", u"2", u"3", u"4", u"5"}) {
-        Prog.Logs.Log_Results.AppendLine(text);
-        Write_Process_Log(Prog);
-    }
-    const auto entry = [&](const char* text) { return Header(0) + text + "\r\n\r\n\r\n"; };
-    EXPECT_EQ(Log(), entry("5"));
-    EXPECT_EQ(Generation("A"), entry("4"));
-    EXPECT_EQ(Generation("B"), entry("3"));
-    EXPECT_EQ(Generation("C"), entry("2"));
-    EXPECT_EQ(Generation("D"), entry("1"));
-    EXPECT_EQ(Files().size(), 5);
 }
 
 TEST_F(Log_Test, RotationMovesEachGenerationByOneLetterAndClosesNoGap)
@@ -201,15 +145,6 @@ TEST_F(Log_Test, ATrashThatRefusesTheOldestLogStopsTheRotationAndTheOldTextIsCar
     EXPECT_EQ(Log(), entry + "\r\n" + entry + refusal.toUtf8() + "\r\n\r\n");
     for (const auto* letter : {"A", "B", "C", "D", "E"})
         EXPECT_EQ(Generation(letter), QByteArray(letter));
-}
-
-TEST_F(Log_Test, ADryRunWritesNothing)
-{
-    Prog.Run.Dry_Run = true;
-    Prog.Logs.Log_Results.AppendLine(u"x");
-    EXPECT_TRUE(Write_Process_Log(Prog));
-    EXPECT_EQ(Files(), QStringList());
-    EXPECT_TRUE(Prog.Logs.Log_Results.Is_Empty());
 }
 
 TEST_F(Log_Test, ALogThatIsAFolderIsAnErrorThatNamesItAndTheEntryWaitsInTheWorkFile)

@@ -26,25 +26,6 @@ static QStringList Digest(int verbosity, const QString& console, bool deleted = 
     return test.Results();
 }
 
-TEST(ResultsDigest, EachVerbosityKeepsItsLines)
-{
-    const QStringList head = {u"~~~~"_s, u"        [Vantorra Results]"_s,
-                              u"            -- Processing video file - \"/v/a.mkv\""_s, u"@"_s,
-                              u"        [mkvmerge Results]"_s};
-    const QString took = u"               Multiplexing took 1 second."_s;
-    const QStringList picked = {u"            The file 'x' has been opened for writing."_s,
-                                u"            The cue entries are being written..."_s};
-    const QStringList all = {u"              The file 'x' has been opened for writing."_s,
-                             u"              The cue entries are being written..."_s,
-                             u"              Multiplexing took 1 second."_s};
-    EXPECT_EQ(Digest(0, Console), QStringList());
-    for (const int verbosity : {1, 2, 3, 4})
-        EXPECT_EQ(Digest(verbosity, Console), head + QStringList{took}) << verbosity;
-    EXPECT_EQ(Digest(5, Console), head + picked + QStringList{took});
-    for (const int verbosity : {6, 7})
-        EXPECT_EQ(Digest(verbosity, Console), head + picked + all) << verbosity;
-}
-
 TEST(ResultsDigest, DeletionNotesFollowWhatMkvmergeSaidAndNothingElse)
 {
     const QString note = u"-- Source video file DELETED after Processing - \"/v/a.mkv\""_s;
@@ -52,21 +33,6 @@ TEST(ResultsDigest, DeletionNotesFollowWhatMkvmergeSaidAndNothingElse)
     EXPECT_EQ(Digest(1, Console, true).mid(6), (QStringList{u"@"_s, u"            "_s + note}));
     EXPECT_EQ(Digest(0, u""_s, true), QStringList());
     EXPECT_EQ(Digest(1, u""_s, true).size(), 4); // faults and "@" only
-}
-
-TEST(ResultsDigest, OnlyTheFirstOfSeveralDeletionNotesIsSeparated)
-{
-    Test_Program test;
-    Run_State& run = test.Prog.Run;
-    test.Prog.Options.Log_Verbosity = 1;
-    run.Ancillary_Deleted = run.Attachment_Files_Deleted = run.Attachment_Folder_Deleted = true;
-    test.Prog.Logs.Log_Console.AppendLine(u"mkvmerge v74");
-    Digest_Results(test.Prog);
-    EXPECT_EQ(test.Results(),
-              (QStringList{u"@"_s, u"        [mkvmerge Results]"_s, u"@"_s,
-                           u"            -- Source video Ancillary files DELETED after Processing - \"\""_s,
-                           u"            -- Source video ATTACHMENT files DELETED after Processing - \"\""_s,
-                           u"            -- Source video ATTACHMENT folder DELETED after Processing - \"\""_s}));
 }
 
 TEST(ResultsDigest, AFailureIsNoticedAtSixAndSevenOnlyAndNeverInTheBanner)

@@ -18,28 +18,6 @@ static const LanguageTable& Table()
     return table;
 }
 
-TEST(LanguageTable, Has401RowsOf180WithATwoLetterCodeInTheirOrder)
-{
-    ASSERT_EQ(Table().size(), 401U);
-    EXPECT_EQ(std::ranges::count_if(Table(), [](const LanguageRow& row) { return !row.Iso639_1.isEmpty(); }), 180);
-    EXPECT_TRUE(std::ranges::all_of(Table(), [](const LanguageRow& row) { return row.Iso639_2.size() == 3; }));
-    EXPECT_EQ(Table().front().Name, u"Abkhazian"_s);
-    EXPECT_EQ(Table().back().Name, u"Zuni"_s);
-    EXPECT_EQ(std::ranges::count(Table(), u"Norwegian"_s, &LanguageRow::Name), 2);
-    EXPECT_EQ(std::ranges::count(Table(), u"Bini; Edo"_s, &LanguageRow::Name), 1);
-}
-
-TEST(LanguageTable, ReaderTakesBothLineEndsAndDropsOnlyEmptyPieces)
-{
-    const LanguageTable table = Parse_Language_Table("A\\aaa\\aa\r\nB\\bbb\\\n\r\nC\\ccc\\cc");
-    ASSERT_EQ(table.size(), 3U);
-    EXPECT_EQ(table[1].Name, u"B"_s);
-    EXPECT_EQ(table[1].Iso639_1, u""_s);
-    EXPECT_EQ(table[2].Iso639_1, u"cc"_s);
-    EXPECT_TRUE(Parse_Language_Table("").empty());
-    EXPECT_THROW(Parse_Language_Table("A\\aaa\n"), Run_Time_Error);
-}
-
 TEST(LanguageTable, CodeOfATextFollowsItsFirstWordOnly)
 {
     struct Claim
@@ -72,17 +50,6 @@ TEST(LanguageTable, CodeOfATextFollowsItsFirstWordOnly)
         EXPECT_EQ(Language_Code_Of(Table(), claim.Text), claim.Code) << claim.Text.toStdString();
     EXPECT_THROW(Language_Code_Of(Table(), u""_s), Run_Time_Error);
     EXPECT_THROW(Language_Code_Of(Table(), u")"_s), Run_Time_Error);
-}
-
-TEST(LanguageTable, AFoundRowFillsAllThreeAndAMissLeavesWhatTheTextSet)
-{
-    QString iso1, iso2, name;
-    EXPECT_TRUE(Parse_Language_Text(Table(), u"French"_s, iso1, iso2, name));
-    EXPECT_EQ(iso1 + iso2 + name, u"frfreFrench"_s);
-    EXPECT_FALSE(Parse_Language_Text(Table(), u"Elvish (elv)"_s, iso1, iso2, name));
-    EXPECT_EQ(iso1, u""_s);
-    EXPECT_EQ(iso2, u""_s);
-    EXPECT_EQ(name, u"Elvish"_s);
 }
 
 TEST(LanguageTable, DisplayComparesWithTheThreeLetterCodeAndTheLastRowWins)

@@ -84,13 +84,6 @@ TEST_F(Option_File, ALanguageLineWithNothingBehindItStopsTheRunAndNamesTheFile)
     }
 }
 
-TEST_F(Option_File, TenMegabytesInOneLineAreOneTitle)
-{
-    const qsizetype size = 10 << 20;
-    const QString values = Run_Reads("Title=" + QByteArray(size, 'x') + "\r\nDelay=" + QByteArray(size, '='));
-    EXPECT_EQ(values.size(), size + 4);
-}
-
 TEST_F(Option_File, TheEditorTrimsKeepsTheLanguageAndPassesOverBadLines)
 {
     const OptionRecord record = Editor_Reads("Title=  My Film \r\n #no comment\r\n#  one \r\nnonsense\r\n\r\n"
@@ -116,18 +109,6 @@ TEST_F(Option_File, AKeyAloneStopsTheEditorAndNamesTheFile)
             EXPECT_EQ(error.Subject(), Path(u"videos/a.mp3.opt"_s));
         }
     }
-}
-
-TEST_F(Option_File, FlagsAreSetAndClearedByMask)
-{
-    OptionRecord record;
-    Set_Option_Flag(record, Title_Flag | Delay_Flag, true);
-    Set_Option_Flag(record, Title_Flag, false);
-    EXPECT_EQ(record.Flags, Delay_Flag);
-    record.Title = u"x"_s;
-    Clear_Option_Record(record);
-    EXPECT_EQ(record.Flags, 0);
-    EXPECT_TRUE(record.Title.isEmpty());
 }
 
 TEST_F(Option_File, WritingReplacesTheWholeFileAndFiveEmptyValuesTrashIt)

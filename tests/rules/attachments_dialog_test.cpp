@@ -36,51 +36,6 @@ struct AttachmentsDialog : testing::Test, Test_Program
     QString Folder;
 };
 
-TEST_F(AttachmentsDialog, OpensWithTheFolderOrSaysThatThereIsNone)
-{
-    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Caption, u"Attachment path not set!"_s);
-    Open_Attachments_Dialog(Prog);
-    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Caption, u"Attachment path NOT set!"_s);
-    EXPECT_FALSE(Prog.Options.chk_UseSubfolders.Enabled);
-    EXPECT_TRUE(Prog.Options.chk_AddAttachments.Enabled); // the main form isn't touched at the opening
-    Prog.Options.Path_Attachments = Folder;
-    Open_Attachments_Dialog(Prog);
-    EXPECT_EQ(Prog.Attachments_Dialog.lbl_AttachmentsPath.Caption, Folder);
-    EXPECT_FALSE(Prog.Attachments_Dialog.lbl_AttachmentsPathFault.Visible);
-    EXPECT_TRUE(Prog.Options.chk_UseSubfolders.Enabled);
-}
-
-TEST_F(AttachmentsDialog, RestoreGivesBackWhatClearTook)
-{
-    Prog.Options.Path_Attachments = Folder;
-    Prog.Options.chk_AddAttachments.Value = 1;
-    Prog.Options.Add_Attachments_On = true;
-    btn_Attachments_Restore_Click(Prog);
-    EXPECT_EQ(Prog.Options.Path_Attachments, Folder);
-    btn_Attachments_Clear_Click(Prog);
-    Expect_Applied(u""_s);
-    EXPECT_EQ(Prog.Options.chk_AddAttachments.Value, 0);
-    EXPECT_FALSE(Prog.Options.Add_Attachments_On);
-    EXPECT_EQ(Prog.Attachments_Dialog.Focus, u"cmd_Done"_s);
-    btn_Attachments_Restore_Click(Prog);
-    Expect_Applied(Folder);
-    EXPECT_EQ(Prog.Options.chk_AddAttachments.Value, 0);
-}
-
-TEST_F(AttachmentsDialog, ABrowseAppliesWhatWasChosenAndACancelWhatIsThere)
-{
-    mnu_PopupAttachBrowse1_Click(Prog);
-    Expect_Applied(u""_s);
-    EXPECT_EQ(Person.Folder_Questions.back(), std::pair(u"Select the Attachment folder."_s, u"/"_s));
-    Person.Folder_Answer = Path(u"fonts"_s);
-    mnu_PopupAttachBrowse1_Click(Prog);
-    Expect_Applied(Folder);
-    Person.Folder_Answer.clear();
-    mnu_PopupAttachBrowse1_Click(Prog);
-    Expect_Applied(Folder);
-    EXPECT_EQ(Person.Folder_Questions.back().second, Folder);
-}
-
 TEST_F(AttachmentsDialog, ADropTakesAFolderAndRefusesAllElse)
 {
     Drop_On_Attachments_Panel(Prog, {.Has_File_List = true, .Paths = {Path(u"fonts"_s)}});

@@ -52,18 +52,6 @@ TEST_F(FolderChanges, ADropYieldsTheFolderOfItsFirstItem)
     }
 }
 
-TEST_F(FolderChanges, ADropOfAFileWantsAFile)
-{
-    QString path;
-    EXPECT_TRUE(Drop_File(Dropped(u"new/film.mkv"_s), true, path));
-    EXPECT_EQ(path, Path(u"new/film.mkv"_s));
-    for (const Drop_Data& data : {Dropped(u"new"_s), Dropped(u"gone.mkv"_s), Drop_Data{}}) {
-        EXPECT_FALSE(Drop_File(data, true, path));
-        EXPECT_EQ(path, u""_s);
-    }
-    EXPECT_FALSE(Drop_File(Dropped(u"new/film.mkv"_s), false, path));
-}
-
 TEST_F(FolderChanges, ADropPutsTheOldPathIntoTheRecentListAndTestsTheRunButton)
 {
     const QString old = Prog.Options.Path_Videos;
@@ -81,29 +69,6 @@ TEST_F(FolderChanges, ADropPutsTheOldPathIntoTheRecentListAndTestsTheRunButton)
     Drop_On_Videos_Panel(Prog, Dropped(u"new"_s));
     Drop_On_Videos_Panel(Prog, Dropped(u"new"_s));
     EXPECT_EQ(Prog.Settings.Source_MRU.count(Path(u"new/"_s)), 1);
-}
-
-TEST_F(FolderChanges, AFirstDropLeavesAnEmptyItemAtTheTop)
-{
-    Prog.Options.Path_Target.clear();
-    Prog.Settings.Target_MRU = {u"/x/"_s};
-    Drop_On_Target_Panel(Prog, Dropped(u"new"_s));
-    EXPECT_EQ(Prog.Settings.Target_MRU, (QStringList{u""_s, u"/x/"_s}));
-    EXPECT_EQ(Recent_Targets_Value(Prog), Path(u"new/"_s) + u";/x/"_s);
-}
-
-TEST_F(FolderChanges, NeitherDropNorBrowseLetsARecentListGrowPastFourteen)
-{
-    for (int i = 0; i < 40; ++i) {
-        QDir().mkpath(Path(u"f%1"_s.arg(i)));
-        Drop_On_Videos_Panel(Prog, Dropped(u"f%1"_s.arg(i)));
-        Person.Folder_Answer = Path(u"f%1"_s.arg(i));
-        mnu_PopupTargetBrowse1_Click(Prog);
-    }
-    EXPECT_EQ(Prog.Settings.Source_MRU.size(), 14);
-    EXPECT_EQ(Prog.Settings.Source_MRU.constFirst(), Path(u"f38/"_s));
-    EXPECT_EQ(Prog.Settings.Target_MRU.size(), 14);
-    EXPECT_EQ(Prog.Settings.Target_MRU.constFirst(), Path(u"f39/"_s));
 }
 
 TEST_F(FolderChanges, ABadDropIsToldAndOnlyCompanionFoldersTakeIt)
@@ -178,60 +143,6 @@ TEST_F(FolderChanges, ABrowsedTargetThatIsTheSourceIsEmptied)
     EXPECT_EQ(Prog.Form.ulbl_TargetPath.Caption, u""_s);
     EXPECT_EQ(Prog.Form.lbl_TargetPathFault.Caption, u"Target Path Not Set"_s);
     EXPECT_FALSE(Prog.Form.btn_RunVantorra.Enabled);
-}
-
-TEST_F(FolderChanges, ACancelledBrowseSaysVideoPathNotSetForBothFolders)
-{
-    Prog.Options.Path_Videos.clear();
-    for (const auto browse : {mnu_PopupVideoBrowse1_Click, mnu_PopupTargetBrowse1_Click}) {
-        Label& fault =
-            browse == mnu_PopupVideoBrowse1_Click ? Prog.Form.lbl_VideoPathFault : Prog.Form.lbl_TargetPathFault;
-        Label& shown = browse == mnu_PopupVideoBrowse1_Click ? Prog.Form.ulbl_VideosPath : Prog.Form.ulbl_TargetPath;
-        fault = {.Caption = u"old"_s, .Visible = false};
-        shown.Caption = u"/shown/"_s;
-        browse(Prog);
-        EXPECT_EQ(fault.Caption, u"old"_s);
-        shown.Caption.clear();
-        browse(Prog);
-        EXPECT_EQ(fault.Caption, u"Video Path Not Set"_s);
-        EXPECT_TRUE(fault.Visible);
-    }
-    EXPECT_EQ(Person.Folder_Questions.front().second, Prog.Settings.App_Folder);
-    EXPECT_TRUE(Prog.Settings.Source_MRU.isEmpty());
-}
-
-TEST_F(FolderChanges, ABrowsedCompanionFolderIsTakenUnchecked)
-{
-    struct Claim
-    {
-        void (*Browse)(Program&);
-        QString JobOptions::*Path;
-        Label Main_Form::*Shown;
-        Label Main_Form::*Fault;
-        QString Title;
-    };
-
-    const Claim claims[] = {{mnu_PopupAudioBrowse1_Click, &JobOptions::Path_Audios, &Main_Form::ulbl_AudioPath,
-                             &Main_Form::lbl_AudioPathFault, u"Select the folder of Audio Files."_s},
-                            {mnu_PopupSubsBrowse1_Click, &JobOptions::Path_Subtitles, &Main_Form::ulbl_SubsPath,
-                             &Main_Form::lbl_SubsPathFault, u"Select the folder of Subtitle Files."_s},
-                            {mnu_PopupChapsBrowse1_Click, &JobOptions::Path_Chapters, &Main_Form::ulbl_ChaptersPath,
-                             &Main_Form::lbl_ChapsPathFault, u"Select the folder of Chapter Files."_s}};
-    Prog.Form.lbl_AudipPathEmpty.Visible = true;
-    for (const Claim& claim : claims) {
-        Person.Folder_Answer = Path(u"new"_s);
-        claim.Browse(Prog);
-        EXPECT_EQ(Person.Folder_Questions.back().first, claim.Title);
-        EXPECT_EQ(Person.Folder_Questions.back().second, Prog.Settings.App_Folder);
-        EXPECT_EQ(Prog.Options.*claim.Path, Path(u"new/"_s));
-        EXPECT_EQ((Prog.Form.*claim.Shown).Caption, Path(u"new/"_s));
-        EXPECT_EQ((Prog.Form.*claim.Fault).Caption, u""_s);
-        Person.Folder_Answer.clear();
-        claim.Browse(Prog);
-        EXPECT_EQ(Person.Folder_Questions.back().second, Path(u"new/"_s));
-        EXPECT_EQ(Prog.Options.*claim.Path, Path(u"new/"_s));
-    }
-    EXPECT_TRUE(Prog.Form.lbl_AudipPathEmpty.Visible);
 }
 
 TEST_F(FolderChanges, WhateverChangesAFolderForgetsTheLastRun)

@@ -62,23 +62,6 @@ TEST_F(Locations_Test, TheFirstActivationShowsWhatIsThereAndWhatIsMissing)
     EXPECT_TRUE(Form.btn_Clear.Enabled);
 }
 
-TEST_F(Locations_Test, ClearingForgetsThePathAndOffersTheRegistry)
-{
-    Prog.Tools.System_MKVMerge_Path = Mkvmerge(u"x/mkvmerge"_s);
-    Locations_Activate(Prog, Form);
-    Locations_btn_Clear(Prog, Form);
-    EXPECT_EQ(Prog.Tools.System_MKVMerge_Path + Form.lbl_MKVMerge_Path.Caption + Form.lbl_MKVMerge_Version.Caption +
-                  Prog.Settings.lbl_MKVMerge_Choose,
-              QString());
-    EXPECT_EQ(Form.lbl_MKVMerge_PathFault.Caption, u"MKVMerge.exe Path Not set"_s);
-    EXPECT_TRUE(Form.lbl_MKVMerge_PathFault.Visible && Form.btn_PathFromRegistry.Enabled && !Form.btn_Clear.Enabled);
-    EXPECT_EQ(Form.Focus, u"cmd_Done"_s);
-    Prog.Form.Topmost_On = true;
-    Locations_cmd_Done(Prog, Form);
-    EXPECT_TRUE(Person.Topmost);
-    EXPECT_FALSE(Prog.Form.btn_ViewVidInfo.Enabled) << "nothing is left that identifies";
-}
-
 TEST_F(Locations_Test, TheRegistryGivesThePathElseTheLocalCopyAfterTwoReports)
 {
     Locations_btn_PathFromRegistry(Prog, Form);
@@ -124,15 +107,6 @@ TEST_F(Locations_Test, ADropOfTheFileOrOfItsFolderSetsThePath)
     }
 }
 
-TEST_F(Locations_Test, ADroppedMkvmergeThatSaysNothingIsTakenAndReportedTwice)
-{
-    const QString mkvmerge = Write_Stand_In(*this, u"x/mkvmerge"_s, "");
-    Locations_Drop(Prog, Form, {.Has_File_List = true, .Paths = {mkvmerge}});
-    EXPECT_EQ(Codes(), (QList<int>{3, 3}));
-    EXPECT_EQ(Prog.Tools.System_MKVMerge_Path, mkvmerge);
-    EXPECT_EQ(Form.lbl_MKVMerge_Version.Caption, u"- "_s);
-}
-
 TEST_F(Locations_Test, BrowsingTakesAnMkvmergeAndRefusesAnythingElse)
 {
     const QString mkvmerge = Mkvmerge(u"x/mkvmerge"_s);
@@ -153,16 +127,6 @@ TEST_F(Locations_Test, BrowsingTakesAnMkvmergeAndRefusesAnythingElse)
     EXPECT_EQ(Person.File_Questions[0].Start_Folder, Prog.Settings.App_Folder);
     EXPECT_EQ(Person.File_Questions[3].Start_Folder, Path(u"x/"_s));
     EXPECT_EQ(Person.File_Questions[0].Title, u"Find and select the mkvmerge.exe file."_s);
-}
-
-TEST_F(Locations_Test, F12CentresTheFormOnTheMainForm)
-{
-    Prog.Form.Place = {.Left = 100, .Top = 50, .Width = 400, .Height = 300};
-    Form.Place = {.Left = 0, .Top = 0, .Width = 600, .Height = 100, .Window_State = 2};
-    Locations_KeyDown(Prog, Form, 123);
-    EXPECT_EQ(Form.Place.Left, 0);
-    EXPECT_EQ(Form.Place.Top, 150);
-    EXPECT_EQ(Form.Place.Window_State, 0);
 }
 
 } // namespace

@@ -6,32 +6,10 @@
 
 using namespace Qt::StringLiterals;
 
-/// The two boxes, typed into as a person does: each key is put in at the caret, then the rule has its say.
+/// A program behind its first activation, when the rules of the two boxes have their say.
 struct NumberBoxes : testing::Test, Test_Program
 {
     NumberBoxes() { Prog.Form.Options_Ready = true; }
-
-    static void Press(Text_Box& box, QChar key)
-    {
-        box.Text.insert(box.Caret, key);
-        ++box.Caret;
-    }
-
-    void Type_Delay(const QString& keys)
-    {
-        for (const QChar key : keys) {
-            Press(Prog.Form.txt_AudioDelayValue, key);
-            txt_AudioDelayValue_Change(Prog);
-        }
-    }
-
-    void Type_Split(const QString& keys)
-    {
-        for (const QChar key : keys) {
-            Press(Prog.Form.txt_SplitVideosValue, key);
-            txt_SplitVideosValue_Change(Prog);
-        }
-    }
 };
 
 /// What one change of the text comes to.
@@ -103,69 +81,6 @@ TEST_F(NumberBoxes, TheSplitRuleTakesNumbersOfThreeDigits)
         Apply_Split_Rule);
 }
 
-TEST_F(NumberBoxes, TypedKeyByKeyOnlyANumberComesToStand)
-{
-    const std::vector<std::pair<QString, QString>> delays = {
-        {u"-0"_s, u"-"_s},       {u"--250"_s, u"-250"_s}, {u"1234567"_s, u"12345"_s}, {u"-1234567"_s, u"-12345"_s},
-        {u"5 0x-0"_s, u"500"_s}, {u"000"_s, u"0"_s},
-    };
-    for (const auto& [keys, text] : delays) {
-        Prog.Form.txt_AudioDelayValue = {};
-        Prog.Form.Audio_Delay_Last_Good.clear();
-        Type_Delay(keys);
-        EXPECT_EQ(Prog.Form.txt_AudioDelayValue.Text, text) << keys.toStdString();
-    }
-    const std::vector<std::pair<QString, QString>> splits = {
-        {u"0"_s, u"1"_s}, {u"05"_s, u"15"_s}, {u"1234"_s, u"123"_s}, {u"4x5"_s, u"45"_s}, {u"-0"_s, u"10"_s}};
-    for (const auto& [keys, text] : splits) {
-        Prog.Form.txt_SplitVideosValue = {};
-        Prog.Form.Split_Minutes_Last_Good.clear();
-        Type_Split(keys);
-        EXPECT_EQ(Prog.Form.txt_SplitVideosValue.Text, text) << keys.toStdString();
-    }
-}
-
-TEST_F(NumberBoxes, ABadFirstKeyReturnsToTheTextThatWasLoaded)
-{
-    Prog.Options.Audio_Delay = u"500"_s;
-    Prog.Form.txt_AudioDelayValue = {.Text = u"500"_s, .Caret = 3};
-    Type_Delay(u"x"_s);
-    EXPECT_EQ(Prog.Form.txt_AudioDelayValue.Text, u"500"_s);
-    EXPECT_EQ(Prog.Form.txt_AudioDelayValue.Caret, 3);
-    Prog.Options.Split_Minutes = u"45"_s;
-    Prog.Form.txt_SplitVideosValue = {.Text = u"45"_s, .Caret = 0};
-    Type_Split(u"x"_s);
-    EXPECT_EQ(Prog.Form.txt_SplitVideosValue.Text, u"45"_s);
-    EXPECT_EQ(Prog.Form.txt_SplitVideosValue.Caret, 0);
-}
-
-TEST_F(NumberBoxes, ABadKeyReturnsToTheTextThatAKeyOrTheLeavingPutThere)
-{
-    Text_Box& delay = Prog.Form.txt_AudioDelayValue;
-    Prog.Options.Audio_Delay = u"500"_s;
-    Type_Delay(u"12"_s);
-    txt_AudioDelayValue_Key(Prog, Number_Key::Escape);
-    Type_Delay(u"x"_s);
-    EXPECT_EQ(delay.Text, u"500"_s);
-
-    Text_Box& split = Prog.Form.txt_SplitVideosValue;
-    Prog.Options.Split_Minutes = u"45"_s;
-    Type_Split(u"7"_s);
-    txt_SplitVideosValue_Key(Prog, Number_Key::Escape);
-    Type_Split(u"x"_s);
-    EXPECT_EQ(split.Text, u"45"_s);
-    split = {};
-    Type_Split(u"7"_s);
-    txt_SplitVideosValue_Key(Prog, Number_Key::Enter);
-    Type_Split(u"x"_s);
-    EXPECT_EQ(split.Text, u"10"_s);
-    split = {};
-    Type_Split(u"7"_s);
-    txt_SplitVideosValue_LostFocus(Prog);
-    Type_Split(u"x"_s);
-    EXPECT_EQ(split.Text, u"30"_s);
-}
-
 TEST_F(NumberBoxes, KeysOfTheDelayBoxStoreAndRestore)
 {
     Text_Box& box = Prog.Form.txt_AudioDelayValue;
@@ -180,19 +95,6 @@ TEST_F(NumberBoxes, KeysOfTheDelayBoxStoreAndRestore)
     txt_AudioDelayValue_Key(Prog, Number_Key::Enter);
     EXPECT_EQ(Prog.Options.Audio_Delay, u"-80"_s);
     EXPECT_EQ(Prog.Form.Focus, u"btn_NOP"_s);
-}
-
-TEST_F(NumberBoxes, LeavingAnEmptyDelayBoxUnticksTheOption)
-{
-    for (const QString& text : {u""_s, u"-"_s, u"20"_s}) {
-        Prog.Form.Delay_Toggle = true;
-        Prog.Options.chk_AudioDelayAdjust.Value = 1;
-        Prog.Form.txt_AudioDelayValue.Text = text;
-        txt_AudioDelayValue_LostFocus(Prog);
-        EXPECT_EQ(Prog.Options.Audio_Delay, text);
-        EXPECT_EQ(Prog.Form.Delay_Toggle, !text.isEmpty());
-        EXPECT_EQ(Prog.Options.chk_AudioDelayAdjust.Value, text.isEmpty() ? 0 : 1);
-    }
 }
 
 TEST_F(NumberBoxes, TheSplitBoxNeverComesToStandBelowTenMinutes)

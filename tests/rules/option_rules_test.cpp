@@ -100,44 +100,6 @@ TEST_F(OptionRules, AFilterWithoutALanguageCanBeNeitherTickedNorReached)
     });
 }
 
-TEST_F(OptionRules, TheModeIsTheFirstBoxTickedInTheOrderStripEnglishCustom)
-{
-    struct Case
-    {
-        int Strip, English, Custom;
-        std::int16_t Keep, Mode;
-    };
-
-    for (const Case& one :
-         {Case{0, 0, 0, 1, 0}, {1, 1, 1, 1, 1}, {0, 1, 1, 1, 2}, {0, 0, 1, 0, 3}, {0, 0, 1, 1, 4}, {2, 2, 2, 1, 0}}) {
-        JobOptions options;
-        options.chk_StripOrigAudio.Value = options.chk_StripOrigSubs.Value = one.Strip;
-        options.chk_EngAudioOnly.Value = options.chk_EngSubsOnly.Value = one.English;
-        options.chk_CustomAudioFilter.Value = options.chk_CustomSubsFilter.Value = one.Custom;
-        options.AudioFilter.KeepOrCut = options.SubsFilter.KeepOrCut = one.Keep;
-        options.SubsFilterKeep = 7;
-        Set_Audio_Filter_Mode(options);
-        Set_Subs_Filter_Mode(options);
-        EXPECT_EQ(options.AudioFilterMode, one.Mode);
-        EXPECT_EQ(options.SubsFilterMode, one.Mode);
-        EXPECT_EQ(options.SubsFilterKeep, one.Mode == 4 ? 1 : one.Mode == 3 ? 0 : 7);
-    }
-}
-
-TEST_F(OptionRules, TheDelayBoxFollowsItsToggle)
-{
-    Hold({
-        {u"AudioDelayAdjust"_s, u"AudioDelayAdjust=1 DelayPanel- DelayBox- DelayActive-"_s,
-         u"DelayToggle+ DelayPanel+ DelayBox+ DelayActive+"_s},
-        {u"AudioDelayAdjust"_s, u"DelayToggle+"_s, u"DelayToggle- DelayPanel- DelayBox- DelayActive-"_s},
-        // The toggle decides what the box says, whatever the click made of it.
-        {u"AudioDelayAdjust"_s, u"AudioDelayAdjust=1 DelayToggle+"_s,
-         u"DelayToggle- AudioDelayAdjust=0 DelayPanel- DelayBox- DelayActive-"_s},
-        {u"AudioDelayAdjust"_s, u"AudioDelayAdjust=1 AudioDelayAdjust- DelayToggle+"_s,
-         u"DelayPanel- DelayBox- DelayActive-"_s},
-    });
-}
-
 TEST_F(OptionRules, OptionFilesNeedAddedFilesAndTheirDefaultsNeedOptionFiles)
 {
     Hold({
@@ -153,18 +115,6 @@ TEST_F(OptionRules, OptionFilesNeedAddedFilesAndTheirDefaultsNeedOptionFiles)
         {u"AddSubs"_s, u"UseSubOpts=1 SubsDiagram+"_s, u"UseSubOpts- ApplyDefaultSubOpts- SubsDiagram-"_s},
         {u"UseSubOpts"_s, u"UseSubOpts=1 ApplyDefaultSubOpts-"_s, u"ApplyDefaultSubOpts+ SubsDiagram+"_s},
         {u"UseSubOpts"_s, u"SubsDiagram+"_s, u"ApplyDefaultSubOpts- SubsDiagram-"_s},
-    });
-}
-
-TEST_F(OptionRules, ConvertingNeedsReplacing)
-{
-    Hold({
-        {u"ConvertTXT"_s, u"ConvertTXT=1 ChapsFormat-"_s, u"ChapsFormat+"_s},
-        {u"ConvertTXT"_s, u""_s, u"ChapsFormat-"_s},
-        {u"ReplaceChapters"_s, u"ReplaceChapters=1 ConvertTXT=1 ConvertTXT- ChapsFormat-"_s,
-         u"ConvertTXT+ ChapsFormat+"_s},
-        {u"ReplaceChapters"_s, u"ReplaceChapters=1 ConvertTXT-"_s, u"ConvertTXT+ ChapsFormat-"_s},
-        {u"ReplaceChapters"_s, u"ConvertTXT=1"_s, u"ConvertTXT- ChapsFormat-"_s},
     });
 }
 
@@ -212,23 +162,6 @@ TEST_F(OptionRules, OtherBoxesDriveTheirMirrorsAndPanels)
     });
 }
 
-TEST_F(OptionRules, ATickOfAnAlternateFolderChecksThatFolder)
-{
-    Prog.Options.Path_Subtitles = Path(u"gone/"_s);
-    Prog.Options.chk_SubsPath.Value = 1;
-    chk_SubsPath_Click(Prog);
-    EXPECT_EQ(Prog.Options.Path_Subtitles, u""_s);
-}
-
-TEST_F(OptionRules, BoxesWithoutARuleChangeNothingButTheFocus)
-{
-    for (const QString& box :
-         {u"StripOrigAudioTitle"_s, u"ApplyDefaultAudioOpts"_s, u"StripOrigSubsTitle"_s, u"ApplyDefaultSubOpts"_s,
-          u"SubDefaults"_s, u"SubForces"_s, u"StripChaps"_s, u"VideoFrameRate"_s, u"VideoFormatOptions"_s,
-          u"RemoveAllTags"_s, u"RemoveAllAttachments"_s, u"RemoveUnicode"_s})
-        Hold({{box, box + u"=1"_s, u""_s}});
-}
-
 TEST_F(OptionRules, TheRightButtonFlipsTheWordOfDefaultsAndForces)
 {
     JobOptions& options = Prog.Options;
@@ -240,16 +173,6 @@ TEST_F(OptionRules, TheRightButtonFlipsTheWordOfDefaultsAndForces)
     chk_SubDefaults_Right_Click(Prog);
     EXPECT_EQ(options.chk_SubDefaults.Caption, u"Set All Subtitles defaults to \"no\""_s);
     EXPECT_EQ(options.chk_SubDefaults.Value, 0);
-}
-
-TEST_F(OptionRules, TheChapterFormatGoesBackAndForth)
-{
-    lbl_ChapsFormat_Click(Prog);
-    EXPECT_EQ(Prog.Options.lbl_ChapsFormat.Caption, u"HH:MM:SS.hh(h)"_s);
-    EXPECT_EQ(Prog.Options.Chapter_Format_Index, 1);
-    lbl_ChapsFormat_Click(Prog);
-    EXPECT_EQ(Prog.Options.lbl_ChapsFormat.Caption, u"HH:MM:SS.ff"_s);
-    EXPECT_EQ(Prog.Options.Chapter_Format_Index, 0);
 }
 
 TEST_F(OptionRules, EveryRuleWaitsForTheFirstActivationAndThenParksTheFocus)

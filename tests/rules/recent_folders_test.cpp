@@ -30,39 +30,6 @@ struct RecentFolders : testing::Test, Test_Program
     }
 };
 
-TEST_F(RecentFolders, NoneInAnyCaseEmptiesThePathAndTheEmptyTextChangesNothing)
-{
-    for (const QString& none : {u"NONE"_s, u"none"_s, u"None"_s}) {
-        Prog.Options.Path_Videos = Folder(0);
-        Read_Recent_Sources(Prog, none);
-        EXPECT_EQ(Prog.Options.Path_Videos, u""_s);
-    }
-    Prog.Options.Path_Target = Folder(0);
-    Read_Recent_Targets(Prog, u""_s);
-    EXPECT_EQ(Prog.Options.Path_Target, Folder(0));
-    EXPECT_TRUE(Prog.Settings.Source_MRU.isEmpty());
-    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u"Video Path Not Set"_s);
-}
-
-TEST_F(RecentFolders, TheHeadIsThePathAndTheOthersAreTheDropDown)
-{
-    Read_Recent_Sources(Prog, Folders(0, 2).join(u';'));
-    EXPECT_EQ(Prog.Options.Path_Videos, Folder(0));
-    EXPECT_EQ(Prog.Form.ulbl_VideosPath.Caption, Folder(0));
-    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
-    EXPECT_EQ(Prog.Settings.Source_MRU, Folders(1, 2));
-    EXPECT_TRUE(Prog.Settings.Target_MRU.isEmpty());
-    Read_Recent_Targets(Prog, Folder(3));
-    EXPECT_EQ(Prog.Options.Path_Target, Folder(3));
-    EXPECT_TRUE(Prog.Settings.Target_MRU.isEmpty());
-}
-
-TEST_F(RecentFolders, SixteenStoredItemsReachTheProgram)
-{
-    Read_Recent_Sources(Prog, Folders(0, 19).join(u';'));
-    EXPECT_EQ(Prog.Settings.Source_MRU, Folders(1, 15));
-}
-
 TEST_F(RecentFolders, GoneFoldersComeInEmptyAndTwoColonsKeepOneOut)
 {
     QDir().mkpath(Path(u"a:b:c"_s));
@@ -98,19 +65,6 @@ TEST_F(RecentFolders, TheWriterDropsEmptyItemsAndThoseWithinAnEarlierText)
     };
     for (const Claim& claim : claims)
         EXPECT_EQ(Recent_Folders_Value(claim.Path, claim.List), claim.Value) << claim.Path.toStdString();
-}
-
-TEST_F(RecentFolders, AListReadsBackAsItWasWritten)
-{
-    Prog.Options.Path_Videos = Folder(4);
-    Prog.Settings.Source_MRU = Folders(0, 3);
-    const QString value = Recent_Sources_Value(Prog);
-    Prog.Settings.Source_MRU.clear();
-    Prog.Options.Path_Videos.clear();
-    Read_Recent_Sources(Prog, value);
-    EXPECT_EQ(Prog.Options.Path_Videos, Folder(4));
-    EXPECT_EQ(Prog.Settings.Source_MRU, Folders(0, 3));
-    EXPECT_EQ(Recent_Targets_Value(Prog), u"NONE"_s);
 }
 
 TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
@@ -150,19 +104,4 @@ TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
     img_SourceMRU_MouseDown(Prog);
     img_SourceMRU_Click(Prog);
     EXPECT_FALSE(Prog.Source_MRU_Form.Arrow_Pressed);
-}
-
-TEST_F(RecentFolders, TheRunButtonFollowsAChoiceOnlyWithItsExtension)
-{
-    for (const bool follows : {false, true}) {
-        Prog.Settings.Extensions.Run_Button_Follows_Folders = follows;
-        Prog.Form.btn_RunVantorra.Enabled = false;
-        Prog.Options.Path_Videos = Folder(0);
-        Prog.Options.Path_Target.clear();
-        Prog.Settings.Target_MRU = {Folder(1)};
-        Person.On_Form[u"frm_TargetMRU"_s] = [&] { Choose_Recent_Target(Prog, 0); };
-        img_TargetMRU_Click(Prog);
-        EXPECT_EQ(Prog.Options.Path_Target, Folder(1));
-        EXPECT_EQ(Prog.Form.btn_RunVantorra.Enabled, follows);
-    }
 }

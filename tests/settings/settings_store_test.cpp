@@ -131,15 +131,6 @@ TEST(SettingsStore, WhatWasReadShowsOnTheForm)
     EXPECT_TRUE(test.Prog.Settings.Settings_Loaded);
 }
 
-TEST(SettingsStore, ADelayThatIsNoNumberLeavesTheTextBoxAsItStands)
-{
-    Test_Program test;
-    test.Prog.Form.txt_AudioDelayValue.Text = u"before"_s;
-    Read_Text(test, "[Audio]\nAudio Delay=soon\n");
-    EXPECT_EQ(test.Prog.Options.Audio_Delay, u"0"_s);
-    EXPECT_EQ(test.Prog.Form.txt_AudioDelayValue.Text, u"before"_s);
-}
-
 TEST(SettingsStore, WithSaveOnExitOffOnlyThatSettingIsWritten)
 {
     Test_Program test;

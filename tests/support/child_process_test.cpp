@@ -170,18 +170,3 @@ TEST(ChildProcess, ChildrenSpeakEnglishInUtf8AndLeadAGroupOfTheirOwn)
     const QByteArray stat = Output_Of(child);
     EXPECT_EQ(stat.mid(stat.lastIndexOf(')') + 2).split(' ').value(2), number);
 }
-
-TEST(ChildProcess, AThousandChildrenLeaveNoDescriptorAndNoZombie)
-{
-    const int descriptors = Open_Descriptors();
-    for (int round = 0; round < 1000; ++round) {
-        Child_Process child;
-        ASSERT_EQ(child.Start(u"/bin/true"_s, {}), Started::Yes);
-        QByteArray chunk;
-        while (child.Read_Chunk(chunk, 100) != Read::Ended) {}
-        if (round % 2 == 0)
-            child.Wait([] { return true; });
-    }
-    EXPECT_EQ(Open_Descriptors(), descriptors);
-    EXPECT_EQ(Children_Left(), 0);
-}

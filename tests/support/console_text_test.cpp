@@ -34,11 +34,3 @@ TEST(ConsoleText, WhatFollowsSkippedBytesIsTheSameAsIfTheyHadBeenRead)
             ASSERT_EQ(skipped.Decode(bytes.mid(second)), read.Decode(bytes.mid(second))) << first << " " << second;
         }
 }
-
-TEST(ConsoleText, AnEmptyChunkForgetsNothing)
-{
-    Console_Text text;
-    EXPECT_EQ(text.Decode("a\r"), u"a\r"_s);
-    EXPECT_EQ(text.Decode(""), u""_s);
-    EXPECT_EQ(text.Decode("\nb"), u"\nb"_s);
-}

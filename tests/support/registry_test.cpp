@@ -53,11 +53,3 @@ TEST(Registry, BadRootsAndBadKeysLeaveTheSameErrorAndAGoodKeyIsNotFoundHere)
     QString value;
     EXPECT_FALSE(Reg_Read_Value(state, u"SOFTWARE"_s, {}, value));
 }
-
-TEST(Registry, ErrorCodesHaveTheirTexts)
-{
-    EXPECT_EQ(Reg_Error_Message(0x80040003), u"Key Not Found."_s);
-    EXPECT_EQ(Reg_Error_Message(0x8004000F), u"Unable To Delete Value."_s);
-    for (const std::uint32_t code : {0u, 0x80040000u, 0x80040010u, 0xffffffffu})
-        EXPECT_EQ(Reg_Error_Message(code), u"Undefined Error."_s);
-}

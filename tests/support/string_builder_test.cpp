@@ -32,35 +32,6 @@ static QString Text_Of(const clsStringBuilder& builder)
     return text;
 }
 
-TEST(StringBuilder, TextIsAddedAtTheEndWithAndWithoutALineEnd)
-{
-    clsStringBuilder builder;
-    EXPECT_EQ(Text_Of(builder), u""_s);
-    builder.Append(u"one");
-    builder.Append(u"");
-    builder.AppendLine(u"two");
-    builder.AppendLine(u"");
-    builder.AppendNL(u"three");
-    EXPECT_EQ(Text_Of(builder), u"onetwo\r\n\r\nthree\r\n"_s);
-    QString copy;
-    builder.StringData(copy);
-    EXPECT_EQ(copy, builder.ToString());
-}
-
-TEST(StringBuilder, PartsAreCutAtTheEnds)
-{
-    const clsStringBuilder builder = Builder_With(u"abcdef"_s);
-    EXPECT_EQ(builder.ToStringLeft(2), u"ab"_s);
-    EXPECT_EQ(builder.ToStringLeft(99), u"abcdef"_s);
-    EXPECT_EQ(builder.ToStringLeft(-1), u""_s);
-    EXPECT_EQ(builder.ToStringRight(2), u"ef"_s);
-    EXPECT_EQ(builder.ToStringRight(99), u"abcdef"_s);
-    EXPECT_EQ(builder.ToStringMid(3, 2), u"cd"_s);
-    EXPECT_EQ(builder.ToStringMid(6, 99), u"f"_s);
-    EXPECT_EQ(builder.ToStringMid(7, 1), u""_s);
-    EXPECT_EQ(builder.ToStringMid(0, 1), u""_s);
-}
-
 namespace {
 
 /// A change to "abcdef", what comes of it, and the kind that is recorded for it.
@@ -128,17 +99,6 @@ TEST(StringBuilder, EachChangeIsUndoneOnceAndByItsKindOnly)
         builder.Undo();
         EXPECT_EQ(Text_Of(builder), u"abcdef"_s);
     }
-}
-
-TEST(StringBuilder, AnAppendedLineEndIsAStepOfItsOwnOnlyWithAppendNL)
-{
-    clsStringBuilder builder;
-    builder.AppendNL(u"one");
-    builder.Undo();
-    EXPECT_EQ(builder.ToString(), u"one"_s);
-    builder.AppendLine(u"two");
-    builder.Undo();
-    EXPECT_EQ(builder.ToString(), u"one"_s);
 }
 
 TEST(StringBuilder, MemoryGrowsBySixTenthsInWholePagesAndClearGivesItBack)

@@ -8,31 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(System_Identification, VersionsHaveTheNamesOfTheirTable)
-{
-    struct Case
-    {
-        Os_Version_Info Info;
-        const char16_t* Name;
-    };
-
-    const Case cases[] = {
-        {{.Major = 3, .Minor = 51}, u"Windows NT 3.5 Workstation"},
-        {{.Major = 4, .Minor = 7, .Product_Type = 3}, u"Windows NT 4.0 Server"},
-        {{.Major = 5, .Minor = 1}, u"Windows XP Professional"},
-        {{.Major = 5, .Minor = 1, .Suite_Mask = 0x300, .Product_Type = 3}, u"Windows XP Home Edition"},
-        {{.Major = 5, .Minor = 2, .Product_Type = 2}, u"Windows Server 2003"},
-        {{.Major = 6, .Minor = 3, .Suite_Mask = 0x200}, u"Windows 8.1"},
-        {{.Major = 6, .Minor = 4}, u"Unrecognized Version"},
-        {{.Major = 10, .Minor = 0, .Product_Type = 3}, u"Windows Server 2016"},
-        {{.Major = 11, .Minor = 5, .Product_Type = 3}, u"Windows 11"},
-        {{.Major = 12}, u"Unrecognized Version"},
-        {{.Major = 2}, u"Unrecognized Version"},
-    };
-    for (const Case& one : cases)
-        EXPECT_EQ(Get_OS_Name(one.Info), QString::fromUtf16(one.Name)) << one.Info.Major << '.' << one.Info.Minor;
-}
-
 TEST(System_Identification, TheVersionLineHasThreeFieldsAndTwoBlanksWithoutAServicePack)
 {
     const Os_Version_Info info{.Major = 6, .Minor = 1, .Build = 7601, .Service_Pack_Major = 1, .Service_Pack_Minor = 2};

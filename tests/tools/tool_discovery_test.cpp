@@ -173,40 +173,6 @@ TEST_F(Tools_Test, TheInstalledMkvmergeIsTheOneBesideTheGraphicalProgram)
     EXPECT_EQ(Codes(), QList<int>{52});
 }
 
-TEST_F(Tools_Test, AVersionTextTellsItsBitness)
-{
-    struct Case
-    {
-        QByteArray Words;
-        int Bits;
-        bool On_32;
-    };
-
-    const Case cases[] = {
-        {"mkvmerge v19 64-bit", 64, false}, {"mkvmerge v19 64BIT", 64, false}, {"mkvmerge v19 32bit", 32, true},
-        {"32-bit on 64-bit", 64, false},    {"mkvmerge v19", 0, true},         {"64 bit", 0, true},
-    };
-    for (const Case& one : cases) {
-        Prog.Tools.System_MKVMerge_Path = Says(u"a tool/mkvmerge"_s, one.Words);
-        Prog.Tools.System_Bits = 64;
-        EXPECT_TRUE(Get_System_MKVMerge_Version(Prog)) << one.Words.constData();
-        EXPECT_EQ(Prog.Tools.MKVMerge_Bits, one.Bits) << one.Words.constData();
-        EXPECT_EQ(Prog.Tools.System_MKVMerge_Version, QString::fromUtf8(one.Words + "\r\n"));
-        EXPECT_EQ(Codes(), QList<int>());
-        Prog.Tools.System_Bits = 32;
-        EXPECT_EQ(Get_System_MKVMerge_Version(Prog), one.On_32) << one.Words.constData();
-        EXPECT_EQ(Codes(), one.On_32 ? QList<int>() : QList<int>{5});
-        Person.Messages.clear();
-        // The local copy is refused without a word.
-        Prog.Tools.Local_MKVMerge_Path = Prog.Tools.System_MKVMerge_Path;
-        Prog.Tools.Local_MKVMerge_Runs = false;
-        EXPECT_EQ(Get_Local_MKVMerge_Version(Prog), one.On_32) << one.Words.constData();
-        EXPECT_EQ(Prog.Tools.Local_MKVMerge_Runs, one.On_32) << one.Words.constData();
-        EXPECT_TRUE(Prog.Tools.Local_MKVMerge_OK);
-        EXPECT_EQ(Codes(), QList<int>());
-    }
-}
-
 TEST_F(Tools_Test, AToolThatCantTellItsVersionIsReported)
 {
     Prog.Tools.System_MKVMerge_Path = Says_Nothing(u"bin/mkvmerge"_s);
@@ -221,15 +187,6 @@ TEST_F(Tools_Test, AToolThatCantTellItsVersionIsReported)
     EXPECT_EQ(Prog.Tools.Local_MKVMerge_Path, Path(u"app/mkvmerge"_s));
 }
 
-TEST_F(Tools_Test, AToolThatPrintsTenMegabytesIsReadToItsEnd)
-{
-    Prog.Tools.System_MKVMerge_Path = Write_Stand_In(
-        *this, u"bin/mkvmerge"_s, "/usr/bin/head -c 10485760 /dev/zero | /usr/bin/tr '\\0' x\necho 64-bit\n");
-    EXPECT_TRUE(Get_System_MKVMerge_Version(Prog));
-    EXPECT_EQ(Prog.Tools.System_MKVMerge_Version.size(), 10'485'760 + 8);
-    EXPECT_EQ(Prog.Tools.MKVMerge_Bits, 64);
-}
-
 TEST_F(Tools_Test, AToolThatHangsGivesWayToAHalt)
 {
     Prog.Tools.System_MKVMerge_Path =
@@ -238,20 +195,6 @@ TEST_F(Tools_Test, AToolThatHangsGivesWayToAHalt)
     Get_System_MKVMerge_Version(Prog);
     EXPECT_EQ(Prog.Tools.System_MKVMerge_Version, u"mkvmerge v1\r\n"_s);
     EXPECT_EQ(Prog.Run.Exit_Status, -9);
-}
-
-TEST_F(Tools_Test, TheBannerOfFFProbeEndsAtItsCopyrightOwner)
-{
-    QString version = u"old"_s;
-    EXPECT_FALSE(Get_FFProbe_Version(Prog, version));
-    EXPECT_EQ(version, QString());
-    EXPECT_EQ(Codes(), QList<int>{20});
-    Says(u"app/ffprobe"_s, "  ffprobe version 4.1 Copyright (c) 2007-2018 the FFmpeg developers\nbuilt with");
-    EXPECT_TRUE(Get_FFProbe_Version(Prog, version));
-    EXPECT_EQ(version, u"ffprobe version 4.1 Copyright (c) 2007-2018"_s);
-    Says(u"app/ffprobe"_s, "ffprobe of somebody else");
-    EXPECT_TRUE(Get_FFProbe_Version(Prog, version));
-    EXPECT_EQ(version, QString());
 }
 
 TEST_F(Tools_Test, PathsAreCheckedForExistenceAndName)

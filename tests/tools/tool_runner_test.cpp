@@ -21,21 +21,6 @@ static QString Console_Of(Test_Program& test, const QByteArray& body)
 /// Reads what the stand-in's second write follows only after the first was taken.
 static const QByteArray Pause = "; sleep 0.3; ";
 
-TEST(ToolRunner, CaptureAppendsAndFreshReplaces)
-{
-    Test_Program test;
-    Program& program = test.Prog;
-    const QString tool = Write_Stand_In(test, u"tool"_s, "printf 'one\\ntwo\\r\\n'; echo err >&2; exit 1");
-    QString output = u"before "_s;
-    Run_Tool_Capture(program, tool, {}, output);
-    EXPECT_EQ(output, u"before one\r\ntwo\r\nerr\r\n"_s);
-    Run_Tool_Capture_Fresh(program, tool, {}, output);
-    EXPECT_EQ(output, u"one\r\ntwo\r\nerr\r\n"_s);
-    EXPECT_EQ(program.Run.Pipe_Result, 1);
-    EXPECT_EQ(program.Run.Process_Result, -1);
-    EXPECT_EQ(program.Run.Exit_Status, 1);
-}
-
 TEST(ToolRunner, AFailedStartLeavesTheSystemsNumber)
 {
     Test_Program test;
@@ -75,34 +60,6 @@ TEST(ToolRunner, ChunksAreKeptOrDroppedWhole)
         Test_Program test;
         EXPECT_EQ(Console_Of(test, claim.Body), claim.Console) << claim.Body.toStdString();
     }
-}
-
-TEST(ToolRunner, TheWordProgressIsFoundWhereverItStands)
-{
-    for (int ahead = 0; ahead < 20; ++ahead)
-        for (const QByteArray& word : {QByteArray("progress"), QByteArray("PrOgReSs")}) {
-            Test_Program test;
-            EXPECT_EQ(Console_Of(test, "printf '%s' '" + QByteArray(ahead, 'r') + word + "'"), u""_s) << ahead;
-            EXPECT_TRUE(test.Prog.Form.lbl_ProgressFinished.Visible) << ahead;
-        }
-    for (const QByteArray& other :
-         {QByteArray("a very long progres"), QByteArray("rogress is no word"), QByteArray("progprogpro ressgress")}) {
-        Test_Program test;
-        EXPECT_EQ(Console_Of(test, "printf '" + other + "'"), QString::fromUtf8(other) + u"\r\n"_s);
-    }
-}
-
-TEST(ToolRunner, AChunkThatNamesTheProgramsFolderIsDropped)
-{
-    Test_Program test;
-    const QByteArray folder = test.Path(u"app"_s).toUtf8();
-    EXPECT_EQ(Console_Of(test, "echo 'opened: " + folder + "/x.mkv'"), u""_s);
-    EXPECT_NE(Console_Of(test, "echo 'opened: " + folder.toUpper() + "/x.mkv'"), u""_s);
-
-    // The program in the root folder: every text holds the empty one.
-    Test_Program root;
-    root.Prog.Settings.App_Folder = u"/"_s;
-    EXPECT_EQ(Console_Of(root, "echo 'A line that would be kept'"), u""_s);
 }
 
 TEST(ToolRunner, AChunkIsWhatOneReadDelivered)
@@ -203,19 +160,6 @@ TEST(ToolRunner, ACaptureThatDoesNotEndIsLeftAtAHaltOrAtTheEndOfTheProgram)
         }
 }
 
-TEST(ToolRunner, AVideoIsProbedTwiceAndTheTextsStandBehindEachOther)
-{
-    Test_Program test;
-    test.Prog.Tools.FFProbe_Path = Write_Stand_In(
-        test, u"ffprobe"_s, "shift 4; [ \"$1\" = -show_format ] && printf 'format|duration=1.0|file=%s\\n' \"$2\"\n");
-    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 1);
-    // The second run printed nothing, which is no failure.
-    EXPECT_EQ(test.Prog.Media.FFProbe_Output, u"format|duration=1.0|file=/v/a b.mkv\r\n"_s);
-    EXPECT_EQ(FFProbe_Command(u"-show_streams"_s, u"/v/a b.mkv"_s).Text(),
-              u" -v quiet -print_format compact -show_streams \"/v/a b.mkv\""_s);
-    EXPECT_TRUE(test.Person.Messages.empty());
-}
-
 TEST(ToolRunner, AFailedProbeIsReportedByItsKind)
 {
     Test_Program test;
@@ -231,13 +175,4 @@ TEST(ToolRunner, AFailedProbeIsReportedByItsKind)
     EXPECT_EQ(test.Person.Messages[1].Code, 13);
     EXPECT_EQ(test.Person.Messages[2].Code, 13);
     EXPECT_TRUE(test.Results().contains(u"            \"/v/a b.mkv\""_s));
-}
-
-TEST(ToolRunner, AHundredMegabytesPassThrough)
-{
-    Test_Program test;
-    QString output;
-    Run_Tool_Capture_Fresh(test.Prog, Write_Stand_In(test, u"tool"_s, "head -c 100000000 /dev/zero | tr '\\0' x"), {},
-                           output);
-    EXPECT_EQ(output.size(), 100000000);
 }

@@ -25,34 +25,6 @@ struct Viewer_Test : testing::Test, Test_Program
     }
 };
 
-TEST_F(Viewer_Test, TheFirstFiveHundredLinesAreLoadedAndThenAll)
-{
-    EXPECT_EQ(Count(499), u"0 Lines"_s);
-    EXPECT_FALSE(Form.btn_LoadFullLog.Enabled) << "no log";
-    for (const int lines : {499, 500, 501}) {
-        Write_Lines(lines);
-        EXPECT_EQ(Count(499), QString::number(std::min(lines, 500)) + u" Lines"_s);
-    }
-    Write_Lines(1000);
-    Person.On_Pump = [&] { EXPECT_TRUE(Form.lbl_LoadLog.Visible) << "painted while it loads"; };
-    ProcessLog_Activate(Prog, Form);
-    EXPECT_EQ(Form.lst_ProcessLog.size(), 500);
-    EXPECT_EQ(Form.btn_LoadFullLog.Caption, u"Load Full Log "_s);
-    ProcessLog_btn_LoadFullLog(Prog, Form);
-    EXPECT_EQ(Form.lst_ProcessLog.size(), 1000);
-    EXPECT_EQ(Form.btn_LoadFullLog.Caption, u"Load 500 Lines"_s);
-    EXPECT_EQ(Form.Selected_Row, 0);
-    EXPECT_EQ(Form.Focus, u"btn_Done"_s);
-
-    ProcessLog_KeyDown(Prog, Form, 27, false);
-    EXPECT_FALSE(Form.Visible);
-    Write_Lines(700);
-    ProcessLog_Activate(Prog, Form);
-    EXPECT_EQ(Form.lbl_LogLines.Caption, u"700 Lines"_s) << "reopens in the mode it was left in";
-    ProcessLog_btn_LoadFullLog(Prog, Form);
-    EXPECT_EQ(Form.lbl_LogLines.Caption, u"500 Lines"_s);
-}
-
 TEST_F(Viewer_Test, TheFullLoadCountsInSixteenBits)
 {
     Write_Lines(32767);
@@ -90,51 +62,6 @@ TEST_F(Viewer_Test, LinesEndInAnyOfThreeWaysAndEmptyOnesCount)
         const QString path = Write(u"log"_s, one.Content);
         EXPECT_EQ(Read_Log_Lines(path, 32767), one.Lines) << one.Content.left(20).toStdString();
     }
-}
-
-TEST_F(Viewer_Test, TheTextSizeStaysBetweenFourAndThirtyFive)
-{
-    std::int16_t& size = Prog.Settings.ProcessLog_Font_Size;
-    size = 34;
-    ProcessLog_img_FontInc(Prog, Form);
-    ProcessLog_img_FontInc(Prog, Form);
-    EXPECT_EQ(Form.lbl_FontSize.Caption, u"Current Font Size 35"_s);
-    size = 41; // the settings file allows it
-    ProcessLog_img_FontInc(Prog, Form);
-    EXPECT_EQ(size, 41);
-    ProcessLog_img_FontDec(Prog, Form);
-    EXPECT_EQ(size, 40);
-    size = 4;
-    ProcessLog_img_FontDec(Prog, Form);
-    EXPECT_EQ(size, 4);
-    ProcessLog_img_FontReset(Prog, Form);
-    EXPECT_EQ(Form.lbl_FontSize.Caption, u"Current Font Size 10"_s);
-}
-
-TEST_F(Viewer_Test, ThePlaceIsCentredOnTheFirstRunEverAndKeptFromThenOn)
-{
-    Prog.Form.Place = {.Left = 100, .Top = 100, .Width = 300, .Height = 200};
-    Form.Place = {.Left = 5, .Top = 5, .Width = 100, .Height = 100};
-    Prog.Settings.ProcessLog_Box = {.Top = 1, .Left = 2, .Width = 3, .Height = 4};
-    ProcessLog_Activate(Prog, Form);
-    EXPECT_EQ(Form.Place.Left, 200);
-    EXPECT_EQ(Form.Place.Top, 150);
-    EXPECT_TRUE(Prog.Settings.ProcessLog_Not_First_Run);
-
-    ProcessLog_KeyDown(Prog, Form, 123, true);
-    EXPECT_EQ(Form.Place.Width, 300);
-    Form.Place.Window_State = 2;
-    ProcessLog_btn_Done(Prog, Form);
-    EXPECT_EQ(Prog.Settings.ProcessLog_Box.Top, 100);
-    EXPECT_EQ(Prog.Settings.ProcessLog_Box.MM, 2);
-    Form.Place = {};
-    ProcessLog_Activate(Prog, Form);
-    EXPECT_EQ(Form.Place.Height, 200);
-    ProcessLog_btn_Done(Prog, Form);
-    Form.Place = {.Left = 7, .Top = 7, .Width = 7, .Height = 7};
-    Prog.Settings.ProcessLog_Box.Width = 0;
-    ProcessLog_Activate(Prog, Form);
-    EXPECT_EQ(Form.Place.Left, 7) << "nothing usable was saved";
 }
 
 } // namespace

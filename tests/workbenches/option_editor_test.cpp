@@ -63,29 +63,6 @@ TEST(OptionEditor, ListsMediaFilesThenOrphansInOrderOfNames)
     });
 }
 
-TEST(OptionEditor, MergeSortKeepsTheOrderOfEqualTexts)
-{
-    const std::vector<std::array<QString, 2>> table{
-        {u"b"_s, u"1"_s}, {u"a"_s, u"2"_s}, {u"b"_s, u"0"_s}, {u"~@@@"_s, u"0"_s}, {u"B"_s, u"9"_s}};
-    EXPECT_EQ(MergeSort2(table, {0, 1, 2, 3, 4}, 0), (std::vector<int>{4, 1, 0, 2, 3}));
-}
-
-TEST(OptionEditor, AnUnsetOrVanishedFolderGivesAnEmptyList)
-{
-    Editor_Test test;
-    test.Write(u"videos/a.mp3"_s);
-    test.Edit([&] {
-        test.Editor().Folder = test.Path(u"vanished/"_s);
-        Scan_Option_Folder(test.Prog);
-        EXPECT_TRUE(test.Listed().isEmpty());
-    });
-    test.Prog.Options.Path_Videos.clear();
-    test.Edit([&] {
-        EXPECT_TRUE(test.Listed().isEmpty());
-        EXPECT_EQ(test.Editor().Folder, QString());
-    });
-}
-
 TEST(OptionEditor, TheAlternateFolderIsScannedOrElseNothingOpens)
 {
     Editor_Test test;
@@ -102,35 +79,6 @@ TEST(OptionEditor, TheAlternateFolderIsScannedOrElseNothingOpens)
         EXPECT_EQ(test.Editor().Kind.Form_Caption, u"Create and Edit Subtitle Options Files"_s);
     };
     EXPECT_TRUE(Open_Subtitle_Option_Editor(test.Prog, u"NOP"_s));
-}
-
-TEST(OptionEditor, TheBoxesShowWhatAllSelectedFilesAgreeOn)
-{
-    Editor_Test test;
-    test.Write(u"videos/a.mp3"_s);
-    test.Write(u"videos/a.mp3.opt"_s, "Title=One\r\nLanguage=English (eng)\r\nDefault=Yes\r\nForced=maybe\r\n");
-    test.Write(u"videos/b.mp3"_s);
-    test.Write(u"videos/b.mp3.opt"_s, "Title=Two\r\nLanguage=English (eng)\r\nDelay=300\r\n");
-    test.Write(u"videos/c.mp3"_s);
-
-    struct Claim
-    {
-        std::vector<int> Rows;
-        QString Boxes;
-    };
-
-    const Claim claims[] = {
-        {{0}, u"[One]/[English (eng)]/[yes]//"_s},
-        {{1}, u"[Two]/[English (eng)]///[300]"_s},
-        {{0, 1}, u"/[English (eng)]///"_s},
-        {{0, 2}, u"////"_s},
-    };
-    test.Edit([&] {
-        for (const Claim& claim : claims) {
-            test.Select(claim.Rows);
-            EXPECT_EQ(test.Boxes(), claim.Boxes);
-        }
-    });
 }
 
 TEST(OptionEditor, AppliesToOneRowAllBoxesAndToSeveralTheSetOnes)

@@ -72,23 +72,6 @@ TEST_F(Info_Test, ADropOfAnythingButAFileIsThePathError)
     }
 }
 
-TEST_F(Info_Test, AFailingToolLeavesWhatWasShown)
-{
-    ViewVFI_lst_VideoFiles_Click(Prog, Form, 0);
-    Tool("");
-    ViewVFI_txt_VideoInfo_Drop(Prog, Form, {.Has_File_List = true, .Paths = {Path(u"videos/notes.txt"_s)}});
-    EXPECT_EQ(Form.txt_VideoInfo, Shown(Film));
-    EXPECT_EQ(Form.Shown_File, Film);
-    EXPECT_FALSE(Form.shp_VideoInfo.Visible);
-    ASSERT_EQ(Person.Messages.size(), 1U);
-    EXPECT_EQ(Person.Messages[0].Code, 3);
-    // Without any tool a click does nothing at all.
-    QFile::remove(Prog.Tools.Local_MKVMerge_Path);
-    ViewVFI_lst_VideoFiles_Click(Prog, Form, -1);
-    EXPECT_TRUE(Form.btn_SaveToFile.Enabled);
-    EXPECT_EQ(Person.Messages.size(), 1U);
-}
-
 TEST_F(Info_Test, PrivateValuesAreShownAndHiddenAgain)
 {
     ViewVFI_lst_VideoFiles_Click(Prog, Form, 0);
@@ -142,12 +125,6 @@ TEST_F(Info_Test, AChangedFolderShowsAtTheNextOpening)
     EXPECT_EQ(Form.lst_VideoFiles, QStringList());
     EXPECT_EQ(Form.txt_VideoInfo + Form.lbl_FileName.Caption, u""_s) << "nothing is left of a drop";
     EXPECT_FALSE(Form.shp_VideoInfo.Visible);
-}
-
-TEST(Video_Info, EachLineHasFiveBlanksBehindItAndOnlyTheLastNoLineEnd)
-{
-    EXPECT_EQ(Video_Info_Text({u"a"_s, {}, u"b"_s}), u"a     \r\nb     "_s);
-    EXPECT_EQ(Video_Info_Text({}), QString());
 }
 
 } // namespace
