@@ -28,6 +28,15 @@ static QStringList Command_Of(Batch_Process& batch, const QStringList& more)
     return arguments;
 }
 
+/// The children that run a program of their own by now: one that was stopped before that would hold its parent up.
+static QList<long> Children_At_Work(long process)
+{
+    QList<long> children = Children_Of(process);
+    const QString parents = QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(process));
+    children.removeIf([&](long child) { return QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(child)) == parents; });
+    return children;
+}
+
 TEST(Vantorra_Batch, AFolderOfVideosBecomesAFolderOfMatroskaFiles)
 {
     Batch_Process batch;
@@ -82,7 +91,7 @@ TEST(Vantorra_Batch, ADryRunWritesNothingAtAll)
     batch.Start_With({u"settings"_s, u"--dry-run"_s, u"--app-folder"_s, batch.Path(u"app"_s)});
     EXPECT_EQ(batch.Finish().Exit, 0);
     EXPECT_EQ(batch.Run({u"--dry-run"_s, u"--target"_s, batch.Path(u"gone"_s)}).Exit, 1);
-    EXPECT_EQ(batch.Run({u"--dry-run"_s, u"--set"_s, u"MainWindow/Left=far"_s}).Exit, 70);
+    EXPECT_EQ(batch.Run({u"--dry-run"_s, u"--set"_s, u"MainWindow/Left=far"_s}).Exit, 64);
     EXPECT_EQ(batch.Tree(), before);
 }
 
@@ -125,7 +134,7 @@ TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
         {"disabled box", {u"a.mkv!"_s}, {u"--tick"_s, u"chk_CustomAudioFilter"_s}, 64, u"chk_CustomAudioFilter"_s},
         {"unknown key", {u"a.mkv!"_s}, {u"--set"_s, u"Audio/Nothing=On"_s}, 64, u"Audio/Nothing"_s},
         {"no assignment", {u"a.mkv!"_s}, {u"--set"_s, u"Audio"_s}, 64, u"Section/Key=Value"_s},
-        {"bad number", {u"a.mkv!"_s}, {u"--set"_s, u"MainWindow/Left=far"_s}, 70, u"\"Left\""_s},
+        {"bad number", {u"a.mkv!"_s}, {u"--set"_s, u"MainWindow/Left=far"_s}, 64, u"MainWindow/Left"_s},
     };
 
     for (const auto& [name, files, more, exit, told] : cases) {
@@ -305,7 +314,7 @@ TEST(Vantorra_Batch, ASignalInTheMiddleOfALargeFileEndsTheRunAtOnce)
             if (!clock.isValid())
                 clock.start();
             ASSERT_LT(clock.elapsed(), 20'000);
-            children = Children_Of(batch.Process.processId());
+            children = Children_At_Work(batch.Process.processId());
         }
         ASSERT_EQ(children.size(), 1);
         ASSERT_EQ(::kill(static_cast<pid_t>(children[0]), SIGSTOP), 0);
@@ -351,7 +360,7 @@ TEST(Vantorra_Batch, EverySignalEndsTheChildWhateverTheParentDidToSignals)
         clock.start();
         QList<long> children;
         while (children.isEmpty() && clock.elapsed() < 20'000)
-            children = Children_Of(batch.Process.processId());
+            children = Children_At_Work(batch.Process.processId());
         ASSERT_EQ(children.size(), 1);
         ASSERT_EQ(::kill(static_cast<pid_t>(batch.Process.processId()), signal_number), 0);
         EXPECT_EQ(batch.Finish().Exit, signal_number == SIGKILL ? -SIGKILL : 130) << signal_number;
