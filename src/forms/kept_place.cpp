@@ -34,11 +34,15 @@ void Kept_Place::Open()
     const Form_Place wanted = place_;
     const QRect normal = Onto_Screen(Rect_Of(wanted, form_.minimumSizeHint()));
     const bool was_maximised = form_.isVisible() && (form_.isMaximized() || form_.isFullScreen());
+    placed_ = normal;
     form_.setWindowState(Qt::WindowNoState);
     form_.setGeometry(normal);
     // A window manager gives such a form its old normal place back in its own time.
     if (was_maximised && wanted.Window_State == 0)
-        QTimer::singleShot(100, this, [this, normal] { form_.setGeometry(normal); });
+        QTimer::singleShot(100, this, [this, normal] {
+            if (normal == placed_)
+                form_.setGeometry(normal);
+        });
     if (wanted.Window_State == 2)
         form_.setWindowState(Qt::WindowMaximized);
     Note();

@@ -3,6 +3,7 @@
 #include "support/controls.h"
 
 #include <QObject>
+#include <QRect>
 #include <QSize>
 
 class QWidget;
@@ -32,4 +33,5 @@ class Kept_Place : public QObject
     QWidget& form_;
     Form_Place& place_;
     Form_Place shown_; ///< the record as it was rendered
+    QRect placed_;     ///< where the form was put last
 };
