@@ -4,6 +4,7 @@
 #include "support/child_process.h"
 #include "support/command_line.h"
 
+#include <QRegularExpression>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -20,12 +21,14 @@ bool Tool_Answer::Ended_Well(int also) const
 
 QString First_Line(const QByteArray& messages)
 {
+    // ffprobe says where in its memory the part lies that complains: "[mov @ 0x55d0ac] moov atom not found".
+    static const QRegularExpression address(u" @ 0x[0-9a-f]+\\]"_s);
     for (const QString& line : QString::fromUtf8(messages).split(u'\n')) {
         QString text = line;
         for (QChar& letter : text)
             if (letter.category() == QChar::Other_Control)
                 letter = u' ';
-        text = text.simplified();
+        text = text.simplified().replace(address, u"]"_s);
         if (!text.isEmpty())
             return text.size() > Longest_First_Line ? text.left(Longest_First_Line) + u"..."_s : text;
     }

@@ -23,7 +23,7 @@ TEST(Careful_Probe, WhereBothToolsNumberAlikeTheCommandIsTheClassicOneByteForByt
          {u"plain.mkv"_s, u"langs.mkv"_s, u"cover.mkv"_s, u"film.mp4"_s, u"old.avi"_s, u"tv.ts"_s})
         Place(batch, Library_File(name), u"videos/"_s + name);
     for (const QString& extension : {u"webm"_s, u"mov"_s})
-        Place(batch, Short_Video(extension), u"videos/short."_s + extension);
+        Place(batch, Short_Video(extension), u"videos/from %1.%1"_s.arg(extension));
     for (const QString& extension : {u"mp3"_s, u"ac3"_s, u"flac"_s, u"opus"_s, u"mka"_s, u"ogg"_s, u"srt"_s, u"ass"_s,
                                      u"mks"_s, u"sup"_s, u"idx"_s, u"sub"_s})
         Place(batch, Library_File(u"c."_s + extension), u"videos/plain c."_s + extension);

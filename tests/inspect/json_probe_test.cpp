@@ -81,8 +81,8 @@ TEST(Json_Probe, AToolsWordCountsOnlyIfItEndedWell)
     Test_Program test;
     EXPECT_EQ(Probe_With(test, answer), QString());
     EXPECT_EQ(Probe_With(test, answer + "echo 'no {' >&2"), QString()) << "messages have a pipe of their own";
-    EXPECT_EQ(Probe_With(test, answer + "echo >&2; echo 'a.mkv: broken' >&2; exit 1"),
-              u"ffprobe ended with status 1: a.mkv: broken"_s);
+    EXPECT_EQ(Probe_With(test, answer + "echo >&2; echo '[mov @ 0x55d0] broken' >&2; exit 1"),
+              u"ffprobe ended with status 1: [mov] broken"_s);
     EXPECT_EQ(test.Prog.Media.FileInfoList.size(), 1U);
     EXPECT_EQ(Probe_With(test, answer + "kill -9 $$"), u"ffprobe was ended by signal 9"_s);
     EXPECT_EQ(Probe_With(test, "exec cat /dev/zero"), u"ffprobe printed without end"_s);
