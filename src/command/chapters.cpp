@@ -37,7 +37,9 @@ QString Find_Chapter_File(Program& program, const QString& videos_path, const QS
     QString chapter_file;
     if (options.chk_ConvertTXT.Value == 1)
         result = Convert_Chapters(program, stem_folder + base_name, true, chapter_file);
-    if (result != 0)
+    // Deliberate: what was just made may give way to another file of that ending. A careful run uses what it made.
+    const bool made = program.Run.Careful && !program.Run.Video.Chapter_Xml.isEmpty();
+    if (result != 0 && !made)
         Find_Chapters_Xml(folder, base_name, chapter_file);
     Log_Chapter_Result(result, options.Log_Verbosity, faults);
     return chapter_file;
@@ -53,9 +55,8 @@ static float Random_Number()
 }
 
 /// Writes the new XML, and moves the old one out of the way once the new one is on the disk.
-static void Replace_Xml(Program& program, const QString& path, const Chapter_Lists& chapters)
+static void Replace_Xml(Program& program, const QString& path, const QString& xml)
 {
-    const QString xml = Chapter_Xml(chapters, Edition_Number(Random_Number()), program.Media.Video_Duration);
     Whole_File file(path);
     file.Append(xml.toUtf8());
     file.Flush_To_Disk();
@@ -104,8 +105,12 @@ int Convert_Chapters(Program& program, const QString& stem, bool convert, QStrin
     // Deliberate: a ".txt" file is read as plain lines whatever the Ogg reading gave; only the bit of that stays.
     if (from_txt)
         chapters = Read_Text_Chapters(lines, input);
-    if (!program.Run.Dry_Run)
-        Replace_Xml(program, xml_path, chapters);
+    const QString xml = Chapter_Xml(chapters, Edition_Number(Random_Number()), program.Media.Video_Duration);
+    // A careful run changes nothing beside a source.
+    if (program.Run.Careful)
+        program.Run.Video.Chapter_Xml = xml.toUtf8();
+    else if (!program.Run.Dry_Run)
+        Replace_Xml(program, xml_path, xml);
     return bits | Chapter_Step_Done;
 }
 

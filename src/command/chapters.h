@@ -12,7 +12,7 @@ class clsStringBuilder;
 /// The chapter step of one video: which file replaces its chapters, made from a text file if need be. Empty: none, or
 /// chapters aren't replaced. Writes its notes to Log_Faults. `videos_path` ends in a separator; `base_name` is the
 /// video's name that companions are looked for by. In a dry run nothing is written or trashed, and a file still to be
-/// made is named.
+/// made is named. In a careful run neither: what was made stands in Run.Video.Chapter_Xml.
 QString Find_Chapter_File(Program& program, const QString& videos_path, const QString& base_name);
 
 /// What Convert_Chapters did, bit by bit.

@@ -11,6 +11,7 @@
 #include "command/video_block.h"
 #include "inspect/stream_parser.h"
 #include "state/program.h"
+#include "support/paths.h"
 
 using namespace Qt::StringLiterals;
 
@@ -70,7 +71,8 @@ static void Append_Source(Command_Line& command, Program& program, const Assembl
 {
     FileInfoList& streams = program.Media.FileInfoList;
     const JobOptions& options = program.Options;
-    Append_Source_Video(command, streams, options, work.Names.Base);
+    Append_Source_Video(command, streams, options, work.Names.Base,
+                        program.Settings.Extensions.Sensible_Names_And_Sizes);
     Append_Source_Audio(command, streams, options, program.Run.Strip_Audio_Titles, work.Audio_Default_Claimed);
     Append_Source_Subtitles(command, streams, options, program.Run.Strip_Subtitle_Titles);
     command.Add_Input(work.Names.Path);
@@ -85,7 +87,7 @@ static void Append_Files_Beside(Command_Line& command, Program& program, Assembl
     Append_External_Audio_Arguments(command, found.External_Audio, options, !work.Audio_Default_Claimed,
                                     order.Default_Audio, order.Extra_Audio, order.Next_File_Index);
     Append_External_Subtitle_Arguments(command, found.External_Subtitles, options, order.Next_File_Index,
-                                       order.Extra_Subtitles);
+                                       order.Extra_Subtitles, program.Settings.Extensions.Sensible_Names_And_Sizes);
     if (program.Run.Add_Attachments_On)
         Append_Attachment_Arguments(command, found.Attachment_List, program.Logs.Log_Faults);
 }
@@ -98,11 +100,9 @@ static void Append_Track_Order(Command_Line& command, const Track_Order& order)
         command.Add_Option(u" --track-order "_s, text);
 }
 
-int Parse_VideoData_A(Program& program, const QString& target_path, const QString& videos_path,
+void Assemble_Command(Program& program, const QString& output_path, const QString& videos_path,
                       const QString& video_path)
 {
-    if (!Parse_FFProbe_Output(program.Media, video_path))
-        return 0;
     FileInfoList& streams = program.Media.FileInfoList;
     const JobOptions& options = program.Options;
 
@@ -113,8 +113,8 @@ int Parse_VideoData_A(Program& program, const QString& target_path, const QStrin
     work.Order.Video = Source_Entries(streams, u"video"_s);
     work.Order.Source_Audio = Source_Entries(streams, u"audio"_s);
     work.Order.Source_Subtitles = Source_Entries(streams, u"subtitle"_s);
-    work.Video_Base_Name = Video_Base_Name_Of(video_path);
-    work.Output_Path = Output_Path_Of(target_path, work.Video_Base_Name);
+    work.Video_Base_Name = Output_Base_Of(program, video_path);
+    work.Output_Path = output_path;
     Find_Files_Beside(program, videos_path, work);
 
     Command_Line command;
@@ -130,5 +130,20 @@ int Parse_VideoData_A(Program& program, const QString& target_path, const QStrin
 
     program.Run.Mkvmerge_Arguments = std::move(command);
     program.Run.Output_Path = work.Output_Path;
+}
+
+QString Output_Base_Of(const Program& program, const QString& video_path)
+{
+    return program.Settings.Extensions.Sensible_Names_And_Sizes ? Get_Base_Name(video_path)
+                                                                : Video_Base_Name_Of(video_path);
+}
+
+int Parse_VideoData_A(Program& program, const QString& target_path, const QString& videos_path,
+                      const QString& video_path)
+{
+    if (!Parse_FFProbe_Output(program.Media, video_path))
+        return 0;
+    Assemble_Command(program, Output_Path_Of(target_path, Output_Base_Of(program, video_path)), videos_path,
+                     video_path);
     return 1;
 }

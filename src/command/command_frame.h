@@ -12,3 +12,12 @@ struct Program;
 /// were, if FFProbe_Output is empty. Problems with external files are logged, and the command is built without them.
 int Parse_VideoData_A(Program& program, const QString& target_path, const QString& videos_path,
                       const QString& video_path);
+
+/// The second half of it, for a video whose records are in FileInfoList: makes its command into the file at
+/// `output_path`.
+void Assemble_Command(Program& program, const QString& output_path, const QString& videos_path,
+                      const QString& video_path);
+
+/// The name that output, companions and file title go by: Video_Base_Name_Of, or with "Sensible Names And Sizes" the
+/// name without its extension, whatever its case.
+QString Output_Base_Of(const Program& program, const QString& video_path);

@@ -10,6 +10,16 @@
 
 using namespace Qt::StringLiterals;
 
+QString Longest_Base_In(const QString& name, const QStringList& video_bases)
+{
+    const QString lowered = name.toLower();
+    QString longest;
+    for (const QString& base : video_bases)
+        if (base.size() > longest.size() && lowered.contains(base))
+            longest = base;
+    return longest;
+}
+
 bool Can_Be_Added(const QString& name, clsStringBuilder& faults)
 {
     if (!Has_Stand_Ins(name))
@@ -19,12 +29,13 @@ bool Can_Be_Added(const QString& name, clsStringBuilder& faults)
 }
 
 QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks,
-                            clsStringBuilder& faults)
+                            clsStringBuilder& faults, const QStringList& video_bases)
 {
     const QString lowered_base = base_name.toLower();
     QStringList names;
     for (const QString& name : List_Files(folder))
-        if (name.toLower().contains(lowered_base) && Match_File_Masks(name, masks) && Can_Be_Added(name, faults))
+        if (name.toLower().contains(lowered_base) && Match_File_Masks(name, masks) &&
+            (video_bases.isEmpty() || Longest_Base_In(name, video_bases) == lowered_base) && Can_Be_Added(name, faults))
             names += name;
     return names;
 }

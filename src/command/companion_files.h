@@ -19,8 +19,13 @@ bool Can_Be_Added(const QString& name, clsStringBuilder& faults);
 /// Names of the files in `folder` that match `masks` and hold `base_name` anywhere, both without regard to case, in the
 /// order of the listing, without those that can't be added. Deliberate: the name isn't anchored, so "The Movie 2.mp3"
 /// belongs to "Movie.mkv" too.
+///
+/// With `video_bases`, the base names in lower case of all videos there are, only those whose longest base it is.
 QStringList Find_Companions(const QString& folder, const QString& base_name, const QString& masks,
-                            clsStringBuilder& faults);
+                            clsStringBuilder& faults, const QStringList& video_bases = {});
+
+/// The longest of `video_bases` (in lower case) that `name` holds in any case; empty if it holds none.
+QString Longest_Base_In(const QString& name, const QStringList& video_bases);
 
 /// The record to fill next: the last one of the list, or a new one behind it if that is in use. It comes in use.
 ExternalTrack& Add_Track(ExternalTrackList& list);

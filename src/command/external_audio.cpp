@@ -40,7 +40,8 @@ void Find_External_Audio(Program& program, const QString& folder, const QString&
                          bool& default_claimed)
 {
     default_claimed = false;
-    const QStringList names = Find_Companions(folder, base_name, Audio_File_Masks, program.Logs.Log_Faults);
+    const QStringList names =
+        Find_Companions(folder, base_name, Audio_File_Masks, program.Logs.Log_Faults, program.Run.Sensible_Bases);
     if (names.isEmpty())
         return;
     for (qsizetype i = 0; i < names.size(); ++i) {

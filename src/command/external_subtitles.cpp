@@ -77,8 +77,9 @@ void Find_External_Subtitles(Program& program, const QString& folder, const QStr
 {
     program.Run.Process_Failed = false;
     clsStringBuilder& faults = program.Logs.Log_Faults;
-    const QStringList names = Find_Companions(folder, base_name, Subtitle_File_Masks, faults) +
-                              Find_Companions(folder, base_name, Idx_File_Mask, faults);
+    const QStringList& bases = program.Run.Sensible_Bases;
+    const QStringList names = Find_Companions(folder, base_name, Subtitle_File_Masks, faults, bases) +
+                              Find_Companions(folder, base_name, Idx_File_Mask, faults, bases);
     if (names.isEmpty())
         return;
     // Deliberate: extensions are compared with their case here, so "x.IDX" counts as a plain file.
@@ -181,7 +182,7 @@ void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackLi
 }
 
 void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTrackList& list, const JobOptions& options,
-                                        std::int16_t next_file_index, QString& order_extra)
+                                        std::int16_t next_file_index, QString& order_extra, bool sensible)
 {
     if (options.chk_AddSubs.Value != 1 || !list.front().InUse)
         return;
@@ -191,7 +192,7 @@ void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTra
             continue;
         // Deliberate: a name that is a part of the names added so far, written side by side, is skipped. That rule was
         // made for a file system where two names never differ in case alone; here both are files of their own.
-        if (added.Contains(track.FileName) && !added.Differs_Only_In_Case(track.FileName))
+        if (!sensible && added.Contains(track.FileName) && !added.Differs_Only_In_Case(track.FileName))
             continue;
         const QString id = QString::number(track.TrackId) + u':';
         command.Add_Option(u" --language "_s, Track_Language(track));

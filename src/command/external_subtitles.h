@@ -36,5 +36,6 @@ void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackLi
                             const LanguageTable& table, clsStringBuilder& faults);
 
 /// The options and the input of each file of `list`, if subtitles are added at all, and their entries in `order_extra`.
+/// `sensible`: also of one whose name is a part of others'.
 void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTrackList& list, const JobOptions& options,
-                                        std::int16_t next_file_index, QString& order_extra);
+                                        std::int16_t next_file_index, QString& order_extra, bool sensible = false);

@@ -1,5 +1,6 @@
 #include "command/split_command.h"
 
+#include "command/command_frame.h"
 #include "command/source_names.h"
 #include "command/track_order.h"
 #include "inspect/stream_parser.h"
@@ -32,16 +33,12 @@ static void Append_Languages(Command_Line& command, FileInfoList& streams)
         }
 }
 
-int Split_Video_Mod(Program& program, const QString& target_path, const QString& /*videos_path*/,
-                    const QString& video_path)
+void Assemble_Split_Command(Program& program, const QString& output_path, const QString& video_path)
 {
-    if (!Parse_FFProbe_Output(program.Media, video_path))
-        return 0;
     FileInfoList& streams = program.Media.FileInfoList;
     clsStringBuilder& faults = program.Logs.Log_Faults;
     const Source_Names names = Name_Source(video_path, streams);
     faults.AppendLine(u"-- Processing video file - \""_s + As_One_Line(video_path) + u'"');
-    const QString output_path = Output_Path_Of(target_path, Video_Base_Name_Of(video_path));
 
     // The filters don't run here, so every track counts; subtitles have no entries.
     const QString order =
@@ -61,5 +58,13 @@ int Split_Video_Mod(Program& program, const QString& target_path, const QString&
 
     program.Run.Mkvmerge_Arguments = std::move(command);
     program.Run.Output_Path = output_path;
+}
+
+int Split_Video_Mod(Program& program, const QString& target_path, const QString& /*videos_path*/,
+                    const QString& video_path)
+{
+    if (!Parse_FFProbe_Output(program.Media, video_path))
+        return 0;
+    Assemble_Split_Command(program, Output_Path_Of(target_path, Output_Base_Of(program, video_path)), video_path);
     return 1;
 }

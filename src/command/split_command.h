@@ -14,5 +14,9 @@ struct Program;
 int Split_Video_Mod(Program& program, const QString& target_path, const QString& videos_path,
                     const QString& video_path);
 
+/// The second half of it, for a video whose records are in FileInfoList: makes its command with `output_path` as the
+/// name that mkvmerge makes those of the pieces from.
+void Assemble_Split_Command(Program& program, const QString& output_path, const QString& video_path);
+
 /// The value of --split: "duration:1800s" for "30".
 QString Split_Duration(const QString& minutes);

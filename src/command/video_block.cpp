@@ -15,10 +15,19 @@ void Append_Switches(Command_Line& command, const JobOptions& options, bool chap
         command.Add_Options(u" --no-chapters"_s);
 }
 
-static void Append_Format(Command_Line& command, const FileInfo& stream, const JobOptions& options)
+bool Has_Own_Aspect(const FileInfo& stream)
+{
+    const QString& aspect = stream.SampleAspect;
+    return !aspect.isEmpty() && aspect != "1:1"_L1 && aspect != "0:1"_L1 && aspect != "N/A"_L1;
+}
+
+static void Append_Format(Command_Line& command, const FileInfo& stream, const JobOptions& options, bool sensible)
 {
     const QString track = stream.Index + u':';
-    if (options.chk_VideoFormatOptions.Value != 1)
+    const bool chosen = options.chk_VideoFormatOptions.Value == 1;
+    if (!chosen && sensible && Has_Own_Aspect(stream))
+        return;
+    if (!chosen)
         // Deliberate: every run pins the display size to the coded size; the source's own aspect isn't carried over.
         command.Add_Option(u" --display-dimensions "_s, track + stream.Width + u'x' + stream.Height);
     else if (options.Video_Format_Kind == 1)
@@ -28,7 +37,7 @@ static void Append_Format(Command_Line& command, const FileInfo& stream, const J
 }
 
 void Append_Source_Video(Command_Line& command, FileInfoList& streams, const JobOptions& options,
-                         const QString& source_base)
+                         const QString& source_base, bool sensible)
 {
     for (FileInfo& stream : streams) {
         if (stream.StreamType != "video"_L1)
@@ -37,7 +46,7 @@ void Append_Source_Video(Command_Line& command, FileInfoList& streams, const Job
         command.Add_Option(u" --language "_s, stream.Index + u':' + stream.Language);
         // Deliberate: track 0, whatever this track's index is.
         command.Add_Options(u" --default-track 0:yes"_s);
-        Append_Format(command, stream, options);
+        Append_Format(command, stream, options, sensible);
         Append_Video_Name(command, stream, options, source_base);
         if (options.chk_VideoFrameRate.Value == 1 && options.Frame_Rate_Kind == 2 &&
             !options.Frame_Rate_Value.isEmpty())

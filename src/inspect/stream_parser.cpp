@@ -81,7 +81,9 @@ static Key_Fields Keys_Of_Stream(bool has_size, bool has_rate)
         {u"index="_s, &FileInfo::Index},
     };
     if (has_size)
-        keys.insert(keys.end(), {{u"width="_s, &FileInfo::Width}, {u"height="_s, &FileInfo::Height}});
+        keys.insert(keys.end(), {{u"width="_s, &FileInfo::Width},
+                                 {u"height="_s, &FileInfo::Height},
+                                 {u"sample_aspect_ratio="_s, &FileInfo::SampleAspect}});
     if (has_rate)
         keys.push_back({u"r_frame_rate="_s, &FileInfo::FrameRate});
     keys.insert(keys.end(), {{u"disposition:default="_s, &FileInfo::DefaultFlag},

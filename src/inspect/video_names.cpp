@@ -4,6 +4,13 @@
 #include "support/files.h"
 #include "support/paths.h"
 
+using namespace Qt::StringLiterals;
+
+bool Is_Working_Name(const QString& name)
+{
+    return name.startsWith(".vantorra-"_L1);
+}
+
 bool Is_Video_File(const QString& path, QString& out)
 {
     out = Get_Extension(path);
@@ -17,7 +24,7 @@ bool Find_Video_Files(Program& program, const QString& folder, const QString& pa
 {
     list = {QString()};
     for (const QString& name : List_Files(folder)) {
-        if (Match_File_Masks(name.toLower(), patterns)) {
+        if (Match_File_Masks(name.toLower(), patterns) && !Is_Working_Name(name)) {
             if (!list.constLast().isEmpty())
                 list += QString();
             list.last() = name;

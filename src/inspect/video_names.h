@@ -12,6 +12,10 @@ inline const QString Video_Extensions = QStringLiteral(
     "*.265;*.hevc;*.h265;*.x265;*.ivf;*.mpeg;*.mpv;*.evo;*.evob;*.vob;*.m1v;*.m2v;*.mpv;*.mpls;*.mkv;*.mk3d;*.webm;"
     "*.webmv;*.ogv;*.rm;*.rmvb;*.rv;*.vc1;*.webmv");
 
+/// True for the names of a careful batch's working folders and of what is left of them, which are no entries of any
+/// run.
+bool Is_Working_Name(const QString& name);
+
 /// True if the extension stands anywhere in Video_Extensions, in the case it has. `out` becomes the base name then;
 /// else the extension, or empty if there is none. Deliberate: a mere fragment of the list ("m") counts as a video, and
 /// an extension in capitals doesn't unless the caller has lowered the name.

@@ -62,6 +62,8 @@ static void Load_Or_Make_Settings(Program& program)
         return;
     }
     settings.First_Run = true;
+    // A missing key means the classic run, so that an installation of years goes on as it was.
+    settings.Extensions.Careful_Batch = true;
     Ini_Document first;
     Write_Settings_To(program, true, first);
     if (!program.Run.Dry_Run)

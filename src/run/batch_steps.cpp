@@ -25,7 +25,8 @@ static bool Is_Gone(const QString& path)
 
 bool Is_Looked_At(const QString& path)
 {
-    return Video_Extensions.contains(Get_Extension(path).toLower()) && !Is_Gone(path);
+    return Video_Extensions.contains(Get_Extension(path).toLower()) && !Is_Working_Name(File_Name_Of(path)) &&
+           !Is_Gone(path);
 }
 
 void Count_Video(Program& program, int files_done)

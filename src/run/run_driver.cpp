@@ -4,6 +4,8 @@
 #include "logs/process_log.h"
 #include "rules/folders.h"
 #include "rules/option_rules.h"
+#include "run/careful_batch.h"
+#include "run/journal.h"
 #include "run/output_guard.h"
 #include "run/split_run.h"
 #include "run/video_batch.h"
@@ -61,6 +63,12 @@ static bool Find_Work(Program& program)
         Refuse(program, u"        -- The Video path can't be read: "_s + why);
         return false;
     }
+    if (program.Run.Careful) {
+        const QString why_not = Find_Careful_Videos(program);
+        if (!why_not.isEmpty())
+            Refuse(program, u"        -- "_s + why_not);
+        return why_not.isEmpty();
+    }
     program.Run.Video_File_List = {QString()};
     Find_Video_Files(program, videos, Video_Extensions, program.Run.Video_File_List);
     if (program.Run.Video_File_List.constFirst().isEmpty()) {
@@ -71,13 +79,17 @@ static bool Find_Work(Program& program)
     return true;
 }
 
-/// Three options hold for the whole run as they are at the press.
+/// These hold for the whole run as they are at the press.
 static void Sample_Options(Program& program)
 {
     const auto on = [](const Check_Box& box) { return box.Enabled && box.Value == 1; };
     program.Run.Strip_Audio_Titles = on(program.Options.chk_StripOrigAudioTitle);
     program.Run.Strip_Subtitle_Titles = on(program.Options.chk_StripOrigSubsTitle);
     program.Run.Add_Attachments_On = on(program.Options.chk_AddAttachments);
+    program.Run.Sensible_Bases.clear();
+    if (program.Settings.Extensions.Sensible_Names_And_Sizes)
+        for (const QString& name : program.Run.Video_File_List)
+            program.Run.Sensible_Bases += Get_Base_Name(name).toLower();
 }
 
 /// HALT stands in Run's place from the press on: the tools that are tried ahead of the run may hang.
@@ -124,6 +136,18 @@ static void Show_Idle(Program& program)
         Enable_Video_Info_Button(program);
 }
 
+/// An installation of years isn't changed, but hears once that there is something safer.
+static void Tell_Of_Careful_Batch(const Program& program)
+{
+    const bool asked = program.Run.Careful_Asked.has_value() || !program.Settings.Careful_Key_Missing;
+    // Who has a journal has been told.
+    if (asked || program.Listener == nullptr || File_Exists(Journal_Path(program.Settings.App_Folder)))
+        return;
+    program.Listener->Warned(u"A careful batch"_s,
+                             u"This run works as ever. A careful batch checks each output before it counts and never "
+                             u"loses a source: Settings > Extensions > Careful Batch, or --careful."_s);
+}
+
 static void Run_Mode(Program& program)
 {
     // Nothing writes this file; one that an earlier version left behind goes.
@@ -131,6 +155,7 @@ static void Run_Mode(Program& program)
     if (!program.Run.Dry_Run)
         Recycle_If_Exists(interim_log, program.Logs.Log_Faults);
 
+    Tell_Of_Careful_Batch(program);
     program.Person.Pump_Events();
     program.Run.Run_In_Progress = true;
     // Deliberate: what was noted between the last log entry and here is dropped.
@@ -138,8 +163,12 @@ static void Run_Mode(Program& program)
     program.Logs.Log_Faults.Clear();
     program.Logs.Log_Console.Clear();
 
+    if (!program.Run.Careful)
+        Note_Start(program, program.Run.Video_File_List);
     // Deliberate: a run that ended through a failure report still counts as finished.
-    if (program.Options.chk_SplitVideos.Value == 1)
+    if (program.Run.Careful)
+        Run_Carefully(program);
+    else if (program.Options.chk_SplitVideos.Value == 1)
         Split_Video_Files(program);
     else
         Process_Video_Files(program);
@@ -166,7 +195,11 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
         return Press_Result::Ignored;
     program.Run.Press_In_Work = true;
     program.Run.Press_Time = release.Time;
-    const auto done = qScopeGuard([&program] { program.Run.Press_In_Work = false; });
+    program.Run.Careful = program.Run.Careful_Asked.value_or(program.Settings.Extensions.Careful_Batch);
+    const auto done = qScopeGuard([&program] {
+        program.Run.Press_In_Work = false;
+        program.Run.Careful = false;
+    });
     Forget_Last_Run(program.Form);
 
     Offer_Halt(program);

@@ -6,6 +6,7 @@
 #include "logs/results_digest.h"
 #include "run/batch_captions.h"
 #include "run/batch_steps.h"
+#include "run/journal.h"
 #include "run/split_pieces.h"
 #include "state/program.h"
 #include "support/files.h"
@@ -53,6 +54,7 @@ static After_Entry Split_Entry(Program& program, const QString& name, Written_Ou
         return After_Entry::Next;
 
     File_Outcome outcome{.Source = path, .Output = {}, .Status = File_Outcome::Kind::Failed, .Exit = -1};
+    const QString hash = Hash_Of_Video(program, path);
     QElapsedTimer clock;
     clock.start();
     if (program.Listener)
@@ -73,6 +75,7 @@ static After_Entry Split_Entry(Program& program, const QString& name, Written_Ou
     }
     outcome.Seconds = static_cast<double>(clock.elapsed()) / 1000;
     Close_Outcome(program, outcome);
+    Note_Result(program, outcome, hash);
     return after;
 }
 

@@ -7,6 +7,7 @@
 #include "logs/results_digest.h"
 #include "run/batch_captions.h"
 #include "run/batch_steps.h"
+#include "run/journal.h"
 #include "run/output_guard.h"
 #include "state/program.h"
 #include "support/files.h"
@@ -142,6 +143,7 @@ static After_Entry Process_Entry(Program& program, Batch& batch, const QString& 
         return After_Entry::Next;
 
     File_Outcome outcome{.Source = path, .Output = {}, .Status = File_Outcome::Kind::Failed, .Exit = -1};
+    const QString hash = Hash_Of_Video(program, path);
     QElapsedTimer clock;
     clock.start();
     if (program.Listener)
@@ -164,6 +166,7 @@ static After_Entry Process_Entry(Program& program, Batch& batch, const QString& 
     }
     outcome.Seconds = static_cast<double>(clock.elapsed()) / 1000;
     Close_Outcome(program, outcome);
+    Note_Result(program, outcome, hash);
     return after;
 }
 

@@ -323,5 +323,7 @@ void Read_Settings_From(Program& program, const Ini_Document& document)
     program.Form.btn_RunVantorra.Enabled = !options.Path_Videos.isEmpty() && !options.Path_Target.isEmpty();
     Set_Audio_Filter_Mode(options);
     Set_Subs_Filter_Mode(options);
+    program.Settings.Careful_Key_Missing =
+        Read_Ini_Key(program.Settings, document, u"Extensions"_s, u"Careful Batch"_s, {}).isEmpty();
     program.Settings.Settings_Loaded = true;
 }

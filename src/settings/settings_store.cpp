@@ -29,6 +29,9 @@ bool Is_Understood(const Settings_Row& row, const QString& text, Operator& perso
 {
     if (!row.Take || !row.Written)
         return true;
+    // What is written is the path in use, not the one that was read.
+    if (row.Key == "System mkvmerge.exe Path"_L1)
+        return true;
     bool refused = false;
     const std::optional<QString> kept = Read_Back(row, text, person, refused);
     if (refused)

@@ -26,10 +26,10 @@ struct FileInfo
     QString BitRate;     ///< file record: bits per second; streams too where the probe was read as JSON
     QString Encoder;     ///< file record: muxing application
 
-    // Filled where the probe was read as JSON only.
-    QString Id = {};           ///< streams: the container's own number of the track ("0x1e0")
     QString SampleAspect = {}; ///< video: "1:1", "16:15"
-    bool Literal = false;      ///< the texts are as the file has them: nothing in them is escaped
+    // Filled where the probe was read as JSON only.
+    QString Id = {};      ///< streams: the container's own number of the track ("0x1e0")
+    bool Literal = false; ///< the texts are as the file has them: nothing in them is escaped
 };
 
 /// The records of the one file in work; element 0 is the file record. Never without an entry.

@@ -19,9 +19,7 @@ struct Run_Choice
 /// What a careful batch tells the parts that it shares with the classic one.
 struct Careful_Video
 {
-    QString Chapter_Name; ///< path of the chapters as every report shows it; empty: none are made
-    QString Chapter_File; ///< where they are made: in a folder of our own. Empty in a dry run
-    QStringList Warnings; ///< of the video in work, in words, one line each
+    QByteArray Chapter_Xml; ///< the chapters that were made of a text, for a file of our own; empty: none were
 };
 
 /// The state of a run. Never reset as a whole: what a run doesn't clear lives on into the next.
@@ -51,6 +49,7 @@ struct Run_State
     bool Strip_Subtitle_Titles = false;
     bool Add_Attachments_On = false;
 
+    QStringList Sensible_Bases;  ///< base names of the folder's videos in lower case, if the longest one counts
     bool Process_Failed = false; ///< a line of mkvmerge's output spoke of a failure
 
     std::int16_t Pipe_Result = 1;     ///< 0: the last child's pipe could not be made
@@ -69,5 +68,7 @@ struct Run_State
     std::optional<bool> Careful_Asked = {}; ///< careful or classic for this run, whatever the settings say
     bool Careful = false;                   ///< the run that goes on is a careful one
     Run_Choice Choice;
+    int Videos_Chosen = 0; ///< careful: how many videos the run takes in work
+    int Videos_Done = 0;   ///< careful: how many had their turn
     Careful_Video Video;
 };

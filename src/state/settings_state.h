@@ -59,7 +59,8 @@ struct Settings_State
     QString Ini_File;   ///< App_Folder and "Vantorra.ini"
     bool Save_On_Exit = true;
     bool Settings_Loaded = false;
-    bool First_Run = false; ///< no settings file was found; until the first activation ends
+    bool Careful_Key_Missing = false; ///< the settings file is of before there were careful batches
+    bool First_Run = false;           ///< no settings file was found; until the first activation ends
     bool Run_Is_Default_Flag = false;
     QString Version_Banner; ///< "Vantorra ver 2.5.5"
     QString OS_Version_Text;

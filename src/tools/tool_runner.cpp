@@ -12,6 +12,7 @@
 #include "tools/message_lines.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -48,10 +49,10 @@ static void Note_Nothing_Started(Run_State& run)
 }
 
 /// Starts the child and notes how that went where the callers look for it.
-static bool Start_Child(Run_State& run, Child_Process& child, const QString& executable, const Command_Line& command)
+static bool Start_Child(Run_State& run, Child_Process& child, const QString& executable, const QStringList& arguments)
 {
     run.Exit_Status.reset();
-    const Child_Process::Started started = child.Start(executable, command.Arguments());
+    const Child_Process::Started started = child.Start(executable, arguments);
     run.Pipe_Result = started == Child_Process::Started::No_Pipe ? 0 : 1;
     // For a pipe too: the report that follows quotes the system's words.
     run.Process_Result = started == Child_Process::Started::Yes ? -1 : child.System_Error();
@@ -62,6 +63,8 @@ static bool Start_Child(Run_State& run, Child_Process& child, const QString& exe
 static void Kill_Mkvmerge(Program& program, Child_Process& child, const QString& executable)
 {
     child.Kill();
+    if (program.Run.Careful)
+        return;
     if (program.Run.Kill_By_Name)
         Kill_By_Executable_Name(executable);
     program.Person.Wait_With_Events(Wait_After_Kill);
@@ -110,7 +113,7 @@ static bool Read_All(Program& program, Child_Process& child, std::size_t most, O
 }
 
 /// One run of a tool, whose output goes to `take`.
-static void Run_Tool(Program& program, const QString& executable, const Command_Line& command, std::size_t most,
+static void Run_Tool(Program& program, const QString& executable, const QStringList& arguments, std::size_t most,
                      On_Halt on_halt, const Take_Chunk& take)
 {
     if (on_halt == On_Halt::Let_It_End && Tools_Are_To_End(program)) {
@@ -119,7 +122,7 @@ static void Run_Tool(Program& program, const QString& executable, const Command_
     }
     // An error that unwinds through here kills and reaps the child.
     Child_Process child;
-    if (!Start_Child(program.Run, child, executable, command))
+    if (!Start_Child(program.Run, child, executable, arguments))
         return;
     bool ended = Read_All(program, child, most, on_halt, take);
     // A child that has closed its output and runs on is waited for until a halt.
@@ -137,14 +140,14 @@ static void Run_Tool(Program& program, const QString& executable, const Command_
 
 void Run_Tool_Capture(Program& program, const QString& executable, const Command_Line& command, QString& output)
 {
-    Run_Tool(program, executable, command, Capture_Bytes, On_Halt::Let_It_End,
+    Run_Tool(program, executable, command.Arguments(), Capture_Bytes, On_Halt::Let_It_End,
              [&output](QByteArrayView bytes, Console_Text& text) { output += text.Decode(bytes); });
 }
 
 void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const Command_Line& command, QString& output)
 {
     output.clear();
-    Run_Tool(program, executable, command, Fresh_Bytes, On_Halt::Let_It_End,
+    Run_Tool(program, executable, command.Arguments(), Fresh_Bytes, On_Halt::Let_It_End,
              [&output](QByteArrayView bytes, Console_Text& text) { output += text.Decode(bytes); });
 }
 
@@ -213,7 +216,7 @@ void Run_Mkvmerge(Program& program, const QString& executable, const Command_Lin
     QByteArray own_folder = program.Settings.App_Folder.toUtf8();
     own_folder.chop(1);
     Message_Lines messages;
-    Run_Tool(program, executable, command, Mkvmerge_Bytes, On_Halt::Kill_It,
+    Run_Tool(program, executable, command.Arguments(), Mkvmerge_Bytes, On_Halt::Kill_It,
              [&program, &command, &own_folder, &messages](QByteArrayView bytes, Console_Text& text) {
                  messages.Take(bytes);
                  Take_Mkvmerge_Chunk(program, command, own_folder, bytes, text);
@@ -222,6 +225,40 @@ void Run_Mkvmerge(Program& program, const QString& executable, const Command_Lin
     program.Run.Tool_Error = messages.First_Error;
     program.Run.Tool_Warnings = messages.Warnings;
     program.Run.Tool_Last_Line = messages.Last_Line;
+}
+
+/// Hands out the whole lines of a text that comes in pieces; each ends in CR, LF or both.
+static void Take_Lines(QString& rest, const QString& text, const std::function<void(const QString& line)>& take)
+{
+    static const QRegularExpression line_end(u"\\r\\n|\\r|\\n"_s);
+    rest += text;
+    QStringList lines = rest.split(line_end);
+    rest = lines.takeLast();
+    for (const QString& line : lines)
+        take(line);
+}
+
+void Run_Mkvmerge_Lines(Program& program, const QString& executable, const QStringList& arguments,
+                        const std::function<void(const QString& line)>& take)
+{
+    QString rest;
+    Run_Tool(program, executable, arguments, Mkvmerge_Bytes, On_Halt::Kill_It,
+             [&](QByteArrayView bytes, Console_Text& text) { Take_Lines(rest, text.Decode(bytes), take); });
+    if (!rest.isEmpty())
+        take(rest);
+}
+
+void Show_Fraction(Program& program, int percent, double fraction)
+{
+    const int overall = static_cast<int>(std::nearbyint(fraction * 100));
+    program.Form.Progress = Progress_Look::Running;
+    program.Form.lbl_ProgressFinished.Visible = true;
+    program.Form.lbl_ProgressFinished.Caption = QString::number(overall) + u'%';
+    program.Person.Pump_Events();
+    program.Person.Pump_Events();
+    program.Form.Progress_Fraction = fraction;
+    if (program.Listener)
+        program.Listener->Progress(percent, overall);
 }
 
 void Show_Progress(Program& program, int percent, int total)
@@ -233,14 +270,6 @@ void Show_Progress(Program& program, int percent, int total)
         total = Checked_Percent(run, static_cast<double>(run.Video_File_List.size()) * 100);
     const int reached = Checked_Percent(run, Checked_Percent(run, run.File_Index * 100) + percent);
     const double fraction = static_cast<double>(reached) / total;
-    const int overall = Checked_Percent(run, fraction * 100);
-
-    program.Form.Progress = Progress_Look::Running;
-    program.Form.lbl_ProgressFinished.Visible = true;
-    program.Form.lbl_ProgressFinished.Caption = QString::number(overall) + u'%';
-    program.Person.Pump_Events();
-    program.Person.Pump_Events();
-    program.Form.Progress_Fraction = fraction;
-    if (program.Listener)
-        program.Listener->Progress(percent, overall);
+    Checked_Percent(run, fraction * 100);
+    Show_Fraction(program, percent, fraction);
 }

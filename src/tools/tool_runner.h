@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 struct Program;
 class Command_Line;
@@ -18,6 +19,14 @@ void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const C
 /// Runs mkvmerge: drives the percentage from its progress lines, keeps its messages in Log_Console, and kills it when
 /// a halt is requested, whether or not it prints. Tool_Error, Tool_Warnings and Tool_Last_Line are what it said.
 void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command);
+
+/// Runs mkvmerge and hands out each line that it prints, whole, as it comes, the empty ones too. A halt ends the run's
+/// own child, no other.
+void Run_Mkvmerge_Lines(Program& program, const QString& executable, const QStringList& arguments,
+                        const std::function<void(const QString& line)>& take);
+
+/// Shows the progress: `percent` of the current file, `fraction` of the whole batch.
+void Show_Fraction(Program& program, int percent, double fraction);
 
 /// Shows the progress of the whole batch for `percent` of the current file. 16-bit arithmetic: error 6 above 327
 /// videos.

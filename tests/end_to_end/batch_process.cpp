@@ -70,7 +70,7 @@ void Batch_Process::Set_Environment(const QString& name, const QString& value)
 void Batch_Process::Start(const QStringList& more)
 {
     Start_With(QStringList{u"--app-folder"_s, Path(u"app"_s), u"--videos"_s, Path(u"videos"_s), u"--target"_s,
-                           Path(u"target"_s)} +
+                           Path(u"target"_s), u"--set"_s, u"Extensions/Careful Batch=Off"_s} +
                more);
 }
 

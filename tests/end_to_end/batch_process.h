@@ -33,7 +33,7 @@ struct Batch_Process : Test_Program
     /// Sets a variable of the environment that the program gets; an empty value takes it away.
     void Set_Environment(const QString& name, const QString& value);
 
-    /// Starts the program over the three folders, with `more` behind; Finish waits for its end.
+    /// Starts the program over the three folders as a classic run, with `more` behind; Finish waits for its end.
     void Start(const QStringList& more = {});
     /// Starts it with these arguments and no others.
     void Start_With(const QStringList& arguments);

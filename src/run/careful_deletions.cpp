@@ -1,0 +1,110 @@
+#include "run/careful_deletions.h"
+
+#include "run/careful_walk.h"
+#include "state/program.h"
+#include "support/files.h"
+#include "support/paths.h"
+
+#include <QDir>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+/// All files beside the source that the command was made from: added tracks with their option files and the second half
+/// of a VobSub pair, and attachments.
+static QStringList Files_Read(const Program& program)
+{
+    QStringList files;
+    const auto add = [&files](const QString& path) {
+        if (File_Exists(path))
+            files += path;
+    };
+    const QStringList& arguments = program.Run.Mkvmerge_Arguments.Arguments();
+    for (const ExternalTrackList* list : {&program.Companions.External_Audio, &program.Companions.External_Subtitles})
+        for (const ExternalTrack& track : *list) {
+            const QString path = track.Folder + track.FileName;
+            if (!track.InUse || !arguments.contains(path))
+                continue;
+            add(path);
+            if (track.OptionFileUsed)
+                add(path + u".opt"_s);
+            if (track.IsIdxPair)
+                add(track.Folder + Get_Base_Name(track.FileName) + u".sub"_s);
+        }
+    for (const Attachment& attachment : program.Companions.Attachment_List)
+        if (arguments.contains(attachment.FullPath))
+            add(attachment.FullPath);
+    return files;
+}
+
+/// True for what the option "Delete Source Video Ancillary Files" speaks of: "BASE_Track..." beside the video, and
+/// attachments.
+static bool Is_To_Go(const Program& program, const QString& path, const QString& base)
+{
+    const bool attached =
+        std::any_of(program.Companions.Attachment_List.begin(), program.Companions.Attachment_List.end(),
+                    [&path](const Attachment& attachment) { return attachment.FullPath == path; });
+    return attached || path.startsWith(program.Options.Path_Videos + base + u"_Track"_s);
+}
+
+void Remember_Companions(Careful_Walk& walk)
+{
+    const Program& program = walk.Prog;
+    if (!program.Options.Delete_Video_After || !program.Options.Delete_Sundry_Files ||
+        program.Options.chk_SplitVideos.Value == 1)
+        return;
+    const QString base = Get_Base_Name(program.Run.Current_Video_Path);
+    for (const QString& path : Files_Read(program)) {
+        const auto known = [&path](const Waiting_Companion& waiting) { return waiting.Path == path; };
+        const auto identity = Identity_Of(path);
+        if (identity && Is_To_Go(program, path, base) && std::none_of(walk.Waiting.begin(), walk.Waiting.end(), known))
+            walk.Waiting.push_back({path, *identity});
+    }
+}
+
+void Trash_Source(Careful_Walk& walk, const Held_File& source, File_Outcome& outcome)
+{
+    if (!source.Is_Still_There()) {
+        outcome.Warnings += u"the source was changed meanwhile, so it stays"_s;
+        return;
+    }
+    clsStringBuilder unused;
+    walk.Prog.Run.Source_Deleted = Delete_To_Recycle(outcome.Source, unused);
+    if (!walk.Prog.Run.Source_Deleted)
+        outcome.Warnings += u"the trash refused the source, so it stays"_s;
+}
+
+/// True if some video of the folder would use that file and isn't done: taken, left out or failed.
+static bool Is_Still_Wanted(const Careful_Walk& walk, const QString& path)
+{
+    const JobOptions& options = walk.Prog.Options;
+    const bool for_all = walk.Prog.Run.Add_Attachments_On && !options.Use_Attachment_Subfolders &&
+                         path.startsWith(options.Path_Attachments);
+    const QString name = File_Name_Of(path).toLower();
+    const QString folder = File_Name_Of(path.left(path.lastIndexOf(Path_Separator))).toLower();
+    return std::any_of(walk.Videos.begin(), walk.Videos.end(), [&](const Folder_Entry& video) {
+        const QString base = Get_Base_Name(video.Name).toLower();
+        return !walk.Done.contains(video.Name) && video.Kind == Entry_Kind::File &&
+               (for_all || name.contains(base) || folder.contains(base));
+    });
+}
+
+void Trash_Companions(Careful_Walk& walk)
+{
+    Program& program = walk.Prog;
+    std::erase_if(walk.Waiting, [&](const Waiting_Companion& companion) {
+        if (Is_Still_Wanted(walk, companion.Path))
+            return false;
+        const auto there = Identity_Of(companion.Path);
+        if (!there || !there->Is_Unchanged(companion.Identity) ||
+            !Delete_To_Recycle(companion.Path, program.Logs.Log_Faults))
+            return true;
+        const QString folder = companion.Path.left(companion.Path.lastIndexOf(Path_Separator));
+        const bool titled = folder.endsWith("_Attachments"_L1);
+        if (titled && QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+            program.Run.Attachment_Folder_Deleted = Delete_To_Recycle(folder, program.Logs.Log_Faults);
+        else
+            program.Run.Ancillary_Deleted = true;
+        return true;
+    });
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "run/final_name.h"
+#include "run/journal.h"
+#include "run/working_folder.h"
+#include "support/disk_steps.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+struct Program;
+
+/// A companion that may go to the trash once every video that would use it is done.
+struct Waiting_Companion
+{
+    QString Path;
+    File_Identity Identity; ///< when the command that read it was assembled
+};
+
+/// What a careful batch carries from video to video.
+struct Careful_Walk
+{
+    explicit Careful_Walk(Program& program);
+
+    Program& Prog;
+    Target_Before Before;
+    Working_Folder Working;
+    std::vector<Folder_Entry> Videos; ///< every entry of the folder with a video's extension, in order
+    QStringList Bases;                ///< their base names in lower case
+    QHash<QString, QString> Claims;   ///< name in the target folder to the source it belongs to in this run
+    QSet<QString> Done;               ///< names of the videos that are done, also before this run
+    std::vector<Waiting_Companion> Waiting;
+    int Unstarted_In_A_Row = 0; ///< videos for which a tool couldn't be started
+};

@@ -1,0 +1,230 @@
+#include "run/journal.h"
+
+#include "command/command_frame.h"
+#include "command/companion_files.h"
+#include "command/external_audio.h"
+#include "command/external_subtitles.h"
+#include "settings/settings_rows.h"
+#include "state/program.h"
+#include "support/disk_steps.h"
+#include "support/paths.h"
+#include "support/this_process.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+/// A file that has grown to this size is left as it is, and another begun.
+static constexpr qint64 Largest_Journal = 10'000'000;
+
+static QString Numbered_Journal(const QString& app_folder, int number)
+{
+    const QString end = number == 1 ? u".jsonl"_s : u"-%1.jsonl"_s.arg(number);
+    return With_Separator(app_folder) + u"Vantorra_Journal-"_s + Host_Name() + end;
+}
+
+QString Journal_Path(const QString& app_folder)
+{
+    int number = 1;
+    while (QFileInfo(Numbered_Journal(app_folder, number)).size() >= Largest_Journal)
+        ++number;
+    return Numbered_Journal(app_folder, number);
+}
+
+static QString Status_Word(File_Outcome::Kind status)
+{
+    switch (status) {
+    case File_Outcome::Kind::Done:
+        return u"done"_s;
+    case File_Outcome::Kind::Failed:
+        return u"failed"_s;
+    case File_Outcome::Kind::Skipped:
+        return u"skipped"_s;
+    case File_Outcome::Kind::Not_Run:
+        break;
+    }
+    return u"not run"_s;
+}
+
+/// A line that a kill or a full disk has cut is none, and is passed over.
+static void Read_Journal_File(const QString& path, Journal_Results& results)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return;
+    while (!file.atEnd()) {
+        const QJsonObject line = QJsonDocument::fromJson(file.readLine()).object();
+        const QString status = line[u"status"_s].toString();
+        if (line[u"event"_s] != "result"_L1 || status == "not run"_L1)
+            continue;
+        Journal_Entry& entry = results[line[u"source"_s].toString()];
+        entry = {.Status = status,
+                 .Hash = line[u"hash"_s].toString(),
+                 .Outputs = {},
+                 .Output_Bytes = line[u"output_bytes"_s].toInteger(),
+                 .Warned = !line[u"warnings"_s].toArray().isEmpty()};
+        for (const QJsonValue output : line[u"outputs"_s].toArray())
+            entry.Outputs += output.toString();
+    }
+}
+
+Journal_Results Read_Journal(const QString& app_folder)
+{
+    Journal_Results results;
+    for (int number = 1; QFileInfo::exists(Numbered_Journal(app_folder, number)); ++number)
+        Read_Journal_File(Numbered_Journal(app_folder, number), results);
+    return results;
+}
+
+static QString Append_Line(const Program& program, QJsonObject line, bool sync)
+{
+    if (program.Run.Dry_Run)
+        return {};
+    line.insert(u"when"_s, program.Now().toString(Qt::ISODateWithMs));
+    const QByteArray text = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    const int error = Append_At_Once(Journal_Path(program.Settings.App_Folder), text, sync);
+    return error == 0 ? QString() : u"The journal couldn't be written: "_s + System_Words(error);
+}
+
+/// The settings that say what becomes of a video, as the settings file words them: all but the places and looks of
+/// windows, the recent lists, the log, and the lines that nobody reads.
+static QStringList Options_In_Force(const Program& program)
+{
+    const QStringList of_windows = {u"MainWindow"_s,
+                                    u"ProcessLog"_s,
+                                    u"View Video File Info"_s,
+                                    u"Most Recently Used Sources"_s,
+                                    u"Most Recently Used Destinations"_s,
+                                    u"Vantorra - by Zarnegar"_s,
+                                    u"Experimental"_s};
+    QStringList options;
+    for (const Settings_Row& row : Settings_Rows()) {
+        const bool of_the_log = row.Number == Row::Append_Logs || row.Number == Row::Verbosity;
+        if (of_windows.contains(row.Section) || row.Key.contains("Window Size"_L1) || of_the_log)
+            continue;
+        options += row.Section + u'/' + row.Key.trimmed() + u'=' + Value_In_Force(row, program);
+    }
+    return options;
+}
+
+QString Note_Start(const Program& program, const QStringList& names)
+{
+    return Append_Line(program,
+                       {{u"event"_s, u"start"_s},
+                        {u"videos"_s, program.Options.Path_Videos},
+                        {u"target"_s, program.Options.Path_Target},
+                        {u"careful"_s, program.Run.Careful},
+                        {u"split"_s, program.Options.chk_SplitVideos.Value == 1},
+                        {u"options"_s, QJsonArray::fromStringList(Options_In_Force(program))},
+                        {u"names"_s, QJsonArray::fromStringList(names)}},
+                       false);
+}
+
+static std::int64_t Bytes_Of_All(const QStringList& files)
+{
+    std::int64_t bytes = 0;
+    for (const QString& file : files)
+        if (const auto identity = Identity_Of(file))
+            bytes += identity->Size;
+    return bytes;
+}
+
+QString Note_Result(const Program& program, const File_Outcome& outcome, const QStringList& outputs,
+                    const QString& hash, bool sync)
+{
+    QJsonObject line{{u"event"_s, u"result"_s},
+                     {u"source"_s, outcome.Source},
+                     {u"outputs"_s, QJsonArray::fromStringList(outputs)},
+                     {u"output_bytes"_s, qint64{Bytes_Of_All(outputs)}},
+                     {u"status"_s, Status_Word(outcome.Status)},
+                     {u"exit"_s, outcome.Exit},
+                     {u"reason"_s, outcome.Reason},
+                     {u"warnings"_s, QJsonArray::fromStringList(outcome.Warnings)},
+                     {u"hash"_s, hash},
+                     {u"seconds"_s, outcome.Seconds}};
+    if (const auto source = Identity_Of(outcome.Source)) {
+        line.insert(u"bytes"_s, qint64{source->Size});
+        line.insert(u"changed"_s, QString::number(source->Written_At));
+    }
+    return Append_Line(program, line, sync);
+}
+
+void Note_Result(const Program& program, const File_Outcome& outcome, const QString& hash)
+{
+    const bool made = outcome.Status == File_Outcome::Kind::Done;
+    const QStringList outputs = outcome.Pieces.isEmpty() ? QStringList{outcome.Output} : outcome.Pieces;
+    Note_Result(program, outcome, made ? outputs : QStringList(), hash, false);
+}
+
+static void Add_File(QCryptographicHash& hash, const QString& path)
+{
+    hash.addData(path.toUtf8() + '\0');
+    if (const auto identity = Identity_Of(path))
+        hash.addData(QByteArray::number(qint64{identity->Size}) + ' ' +
+                     QByteArray::number(qint64{identity->Written_At}) + '\0');
+}
+
+/// Every file that the command of a video may read beside it, option files and chapters included.
+static QStringList Files_That_Go_With(const Program& program, const QString& source)
+{
+    const JobOptions& options = program.Options;
+    const QString base = Output_Base_Of(program, source);
+    QStringList folders;
+    if (options.chk_AddAudio.Value == 1)
+        folders += External_Audio_Folder(options, options.Path_Videos);
+    if (options.chk_AddSubs.Value == 1)
+        folders += External_Subtitle_Folder(options, options.Path_Videos);
+    if (options.chk_ReplaceChapters.Value == 1)
+        folders += options.chk_ChaptersPath.Value == 1 ? options.Path_Chapters : options.Path_Videos;
+    folders.removeDuplicates();
+
+    const QString masks = Audio_File_Masks + u';' + Subtitle_File_Masks + u";*.idx;*.sub;*.opt;*_chapters.*"_s;
+    QStringList files;
+    clsStringBuilder unused;
+    for (const QString& folder : folders)
+        for (const QString& name : Find_Companions(folder, base, masks, unused))
+            files += folder + name;
+    if (program.Run.Add_Attachments_On)
+        for (const QString& folder :
+             {options.Path_Attachments, options.Path_Attachments + Get_Base_Name(source) + u"_Attachments/"_s})
+            for (const QString& name : Find_Companions(folder, {}, u"*"_s, unused))
+                files += folder + name;
+    // A classic run makes these anew of the text beside them.
+    files.removeIf([](const QString& file) {
+        const QString end = u"_Chapters.xml"_s;
+        const QString stem = file.chopped(file.endsWith(end) ? 4 : 0);
+        return file.endsWith(end) &&
+               (File_Exists(stem + u".txt"_s) || File_Exists(stem + u".ogg"_s) || File_Exists(stem + u".ogm"_s));
+    });
+    files.sort();
+    return files;
+}
+
+QString Hash_Of_Video(const Program& program, const QString& source)
+{
+    if (program.Run.Dry_Run && !program.Run.Choice.Resume)
+        return {};
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(Options_In_Force(program).join(u'\n').toUtf8());
+    hash.addData(program.Options.chk_SplitVideos.Value == 1 ? "split" : "whole");
+    Add_File(hash, source);
+    for (const QString& file : Files_That_Go_With(program, source))
+        Add_File(hash, file);
+    return QString::fromLatin1(hash.result().toHex());
+}
+
+bool Is_Done_Before(const Journal_Results& results, const QString& source, const QString& hash)
+{
+    const auto found = results.constFind(source);
+    if (found == results.constEnd() || found->Status != "done"_L1 || found->Hash != hash || found->Outputs.isEmpty())
+        return false;
+    return std::all_of(found->Outputs.begin(), found->Outputs.end(),
+                       [](const QString& output) { return Identity_Of(output).has_value(); }) &&
+           Bytes_Of_All(found->Outputs) == found->Output_Bytes;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "state/run_listener.h"
+#include "support/file_identity.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+struct Program;
+
+/// The journal: one line for each start of a run and for each video's result, in files of the program's folder that are
+/// only ever added to. It is kept by both kinds of run; --resume and --failed read it. docs/formats/journal.md.
+
+/// A video's last result, as it was noted.
+struct Journal_Entry
+{
+    QString Status; ///< "done", "failed", "skipped" or "not run"
+    QString Hash;   ///< of options, source and companions: what would be made again
+    QStringList Outputs;
+    std::int64_t Output_Bytes = 0; ///< of all outputs
+    bool Warned = false;
+};
+
+/// All that the journal files of this machine say, by source path: the newest line of each counts.
+using Journal_Results = QHash<QString, Journal_Entry>;
+
+Journal_Results Read_Journal(const QString& app_folder);
+
+/// The path of the file that the next line goes to.
+QString Journal_Path(const QString& app_folder);
+
+/// Notes the start of a run over `names`. Nothing is written in a dry run. Returns why it couldn't be noted, in words.
+QString Note_Start(const Program& program, const QStringList& names);
+
+/// Notes a result; `sync`: it is on the disk when this returns. Returns why it couldn't be noted, in words.
+QString Note_Result(const Program& program, const File_Outcome& outcome, const QStringList& outputs,
+                    const QString& hash, bool sync);
+
+/// The same for a video of a classic run, whose journal nobody waits for.
+void Note_Result(const Program& program, const File_Outcome& outcome, const QString& hash);
+
+/// What a result depends on, without looking into any file: the options in force, and name, size and time of change of
+/// the source and of every file that may be added to it. Empty in a dry run that asks for nothing of the journal.
+QString Hash_Of_Video(const Program& program, const QString& source);
+
+/// True if the journal has this video as done by the same options and files, and the output is still there as it was.
+bool Is_Done_Before(const Journal_Results& results, const QString& source, const QString& hash);

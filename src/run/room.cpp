@@ -1,0 +1,71 @@
+#include "run/room.h"
+
+#include "inspect/output_check.h"
+#include "support/disk_steps.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+QString Size_Text(std::uint64_t bytes)
+{
+    const auto amount = static_cast<double>(bytes);
+    for (const auto& [unit, size] : {std::pair(u"GB"_s, 1e9), std::pair(u"MB"_s, 1e6), std::pair(u"KB"_s, 1e3)})
+        if (amount >= size)
+            return QString::number(amount / size, 'f', 1) + u' ' + unit;
+    return QString::number(bytes) + u" bytes"_s;
+}
+
+/// True for tracks that the output takes.
+static bool Is_Kept_Track(const FileInfo& stream)
+{
+    return stream.StreamType == "video"_L1 || stream.StreamType == "audio"_L1 || stream.StreamType == "subtitle"_L1;
+}
+
+/// The source's part of the output: what its kept tracks make, or all of it where one of them tells no bit rate.
+static double Source_Part(const Program& program)
+{
+    const FileInfoList& streams = program.Media.FileInfoList;
+    const double all = streams.front().Size.toDouble();
+    const double seconds = Seconds_Of(streams.front()).value_or(0);
+    double kept = 0;
+    for (const FileInfo& stream : streams) {
+        if (!Is_Kept_Track(stream))
+            continue;
+        const double rate = stream.BitRate.toDouble();
+        // Subtitles tell none and weigh nothing.
+        if (rate <= 0 && stream.StreamType != "subtitle"_L1)
+            return all;
+        kept += rate / 8 * seconds;
+    }
+    return seconds > 0 ? std::min(kept, all) : all;
+}
+
+static double Added_Part(const Command_Line& command, const QString& source)
+{
+    const QStringList& arguments = command.Arguments();
+    double bytes = 0;
+    for (qsizetype at = 1; at < arguments.size(); ++at)
+        if (arguments[at] != source && (arguments[at - 1] == "("_L1 || arguments[at - 1] == "--attach-file"_L1))
+            if (const auto identity = Identity_Of(arguments[at]))
+                bytes += static_cast<double>(identity->Size);
+    return bytes;
+}
+
+Room_Check Check_Room(const Program& program)
+{
+    // Rates are averages, and the source's own may be wrong: only far below is it certain.
+    constexpr double certainly_too_little = 0.7;
+    const std::optional<std::uint64_t> free = Free_Bytes(program.Options.Path_Target);
+    if (!free)
+        return {};
+    const double needed =
+        Source_Part(program) + Added_Part(program.Run.Mkvmerge_Arguments, program.Run.Current_Video_Path);
+    const auto room = static_cast<double>(*free);
+    if (room >= needed)
+        return {};
+    const QString words =
+        u"needs %1, %2 are free"_s.arg(Size_Text(static_cast<std::uint64_t>(needed)), Size_Text(*free));
+    return room < needed * certainly_too_little ? Room_Check{.Failure = words, .Warning = {}}
+                                                : Room_Check{.Failure = {}, .Warning = words};
+}

@@ -1,0 +1,410 @@
+#include "common/media.h"
+#include "end_to_end/batch_process.h"
+#include "inspect/ebml_head.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// One thing that goes wrong in a careful batch of a.mkv and b.mkv whose sources are to go to the trash. The tools are
+/// the real ones; a script in the place of one has the real one in $REAL, its arguments in "$@" and vantorra-batch in
+/// $PPID. Scripts run in the test's folder. Behind each, three sums must hold, and what the row says.
+struct Fault
+{
+    const char* Name;
+    const char* Before = "";  ///< a script: what stands there
+    const char* Probe = "";   ///< in the place of ffprobe
+    const char* Merge = "";   ///< in the place of mkvmerge, but for questions
+    const char* Calls = "";   ///< calls of the system that fail, or kill the program (the shim's FAULT)
+    const char* Results = ""; ///< "a.mkv done, b.mkv failed"; empty: the program is killed, and a second run mends all
+    const char* Reason = "";  ///< stands in the first result's reason or warnings
+    const char* Target = "";  ///< names in the target folder then; empty: those of what is done
+    QStringList More = {};    ///< arguments
+    const char* Videos = "";  ///< names in the videos' folder then; empty: not looked at
+};
+
+const char* const Kill_Us = "kill -9 $PPID; sleep 5";
+const char* const Both_Done = "a.mkv done, b.mkv done";
+const char* const Both_Failed = "a.mkv failed, b.mkv failed";
+const char* const First_Failed = "a.mkv failed, b.mkv done";
+/// A script's condition: the run is that of the first video.
+#define IF_A "case \"$*\" in */videos/a.mkv*) "
+
+const QStringList With_Companions = {u"--tick"_s, u"chk_AddSubs"_s,
+                                     u"--tick"_s, u"chk_AddAudio"_s,
+                                     u"--set"_s,  u"Menu/Delete Source Video Sundry Files=True"_s};
+
+const Fault Faults[] = {
+    {.Name = "nothing", .Results = Both_Done},
+    // The program is killed.
+    {.Name = "killed at the probe", .Probe = Kill_Us},
+    {.Name = "killed before mkvmerge writes", .Merge = Kill_Us},
+    {.Name = "killed while mkvmerge writes", .Merge = "\"$REAL\" \"$@\" | head -c 300; kill -9 $PPID; sleep 5"},
+    {.Name = "killed when mkvmerge has written", .Merge = "\"$REAL\" \"$@\"; kill -9 $PPID; sleep 5"},
+    {.Name = "killed before the journal has a line", .Calls = "write:1:kill"},
+    {.Name = "killed before the working folder is noted", .Calls = "fsync:2:kill"},
+    {.Name = "killed between note and folder", .Calls = "mkdir:1:kill"},
+    {.Name = "killed when the folder is there and not noted", .Calls = "fsync:3:kill"},
+    {.Name = "killed before the output is on the disk", .Calls = "fsync:4:kill"},
+    {.Name = "killed before the first name", .Calls = "renameat2:1:kill"},
+    {.Name = "killed between name and folder", .Calls = "fsync:5:kill"},
+    {.Name = "killed before the journal's result", .Calls = "write:2:kill"},
+    {.Name = "killed between journal and trash", .Calls = "fsync:6:kill"},
+    {.Name = "killed at the second video's name", .Calls = "renameat2:2:kill"},
+    {.Name = "killed while it tidies up", .Calls = "rmdir:1:kill"},
+    {.Name = "killed between old and new", .Before = "cp videos/b.mkv target/a.mkv", .Calls = "renameat2:2:kill"},
+    // The tools end, badly or with a lie.
+    {.Name = "ffprobe is killed", .Probe = IF_A "kill -9 $$;; esac; \"$REAL\" \"$@\"", .Results = First_Failed},
+    {.Name = "ffprobe answers and fails",
+     .Probe = IF_A "\"$REAL\" \"$@\"; echo 'tape torn' >&2; exit 1;; esac; \"$REAL\" \"$@\"",
+     .Results = First_Failed,
+     .Reason = "tape torn"},
+    {.Name = "ffprobe talks nonsense", .Probe = "echo '{'", .Results = Both_Failed},
+    {.Name = "mkvmerge is killed",
+     .Merge = IF_A "kill -9 $$;; esac; \"$REAL\" \"$@\"",
+     .Results = First_Failed,
+     .Reason = "signal 9"},
+    {.Name = "mkvmerge fails",
+     .Merge = IF_A "echo 'Error: no paper left'; exit 2;; esac; \"$REAL\" \"$@\"",
+     .Results = First_Failed,
+     .Reason = "no paper left"},
+    {.Name = "mkvmerge warns",
+     .Merge = "\"$REAL\" \"$@\"; echo 'Warning: thin ice'; exit 1",
+     .Results = Both_Done,
+     .Reason = "thin ice"},
+    {.Name = "mkvmerge writes nothing", .Merge = IF_A "exit 0;; esac; \"$REAL\" \"$@\"", .Results = First_Failed},
+    {.Name = "mkvmerge's output is cut",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "truncate -s 2000 target/.vantorra-*/output.mkv;; esac",
+     .Results = First_Failed,
+     .Reason = "bytes"},
+    {.Name = "mkvmerge takes no track",
+     .Merge = IF_A "\"$REAL\" \"$@\" >/dev/null; exit 0;; esac; \"$REAL\" \"$@\"",
+     .Results = First_Failed},
+    {.Name = "mkvmerge leaves the sound out",
+     .Merge = IF_A "\"$REAL\" \"$@\" --no-audio | grep -v 'track 1'; exit 0;; esac; \"$REAL\" \"$@\"",
+     .Results = Both_Done,
+     .Reason = "track 1"},
+    {.Name = "mkvmerge meets a limit of size", .Merge = "ulimit -f 1; exec \"$REAL\" \"$@\"", .Results = Both_Failed},
+    {.Name = "mkvmerge can't be started", .Merge = "#gone", .Results = Both_Failed, .Reason = "start"},
+    {.Name = "no tool can be started again and again",
+     .Before = "cp videos/b.mkv videos/c.mkv; cp videos/b.mkv videos/d.mkv",
+     .Merge = "#gone",
+     .Results = "a.mkv failed, b.mkv failed, c.mkv failed, d.mkv not run"},
+    // The disk.
+    {.Name = "no room for the note", .Calls = "fsync:0:28", .Results = Both_Failed, .Reason = "No space left"},
+    {.Name = "no room for the folder", .Calls = "mkdir:0:28", .Results = Both_Failed, .Reason = "No space left"},
+    {.Name = "the output doesn't reach the disk",
+     .Calls = "fsync:4:5",
+     .Results = First_Failed,
+     .Reason = "Input/output error"},
+    {.Name = "no room for the journal", .Calls = "write:0:28", .Results = Both_Done, .Reason = "journal"},
+    {.Name = "no room for the outputs", .Before = "echo 1000 > room", .Results = Both_Failed, .Reason = "are free"},
+    {.Name = "no call that never replaces", .Calls = "renameat2:0:22", .Results = Both_Done},
+    {.Name = "no such call and no links",
+     .Calls = "renameat2:0:22,link:0:1",
+     .Results = Both_Done,
+     .Reason = "can't refuse to overwrite"},
+    {.Name = "the name is refused", .Calls = "renameat2:1:36", .Results = First_Failed, .Reason = "File name too long"},
+    {.Name = "the trash refuses",
+     .Before = "mkdir -p trash; rm -rf trash/Trash; echo > trash/Trash",
+     .Results = Both_Done,
+     .Reason = "trash refused"},
+    // Others are at work.
+    {.Name = "the source grows",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "echo more >> videos/a.mkv;; esac",
+     .Results = Both_Done,
+     .Reason = "changed"},
+    {.Name = "the source is replaced",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "cp videos/a.mkv n; mv n videos/a.mkv;; esac",
+     .Results = Both_Done,
+     .Reason = "changed"},
+    {.Name = "the source is taken away",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "mv videos/a.mkv kept;; esac",
+     .Results = Both_Done,
+     .Reason = "taken away"},
+    {.Name = "the output appears meanwhile",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "cp videos/b.mkv target/a.mkv;; esac",
+     .Results = First_Failed,
+     .Reason = "made meanwhile",
+     .Target = "a.mkv b.mkv"},
+    {.Name = "the old output changes meanwhile",
+     .Before = "cp videos/b.mkv target/a.mkv",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "touch -d 2001-01-01 target/a.mkv;; esac",
+     .Results = First_Failed,
+     .Reason = "changed meanwhile",
+     .Target = "a.mkv b.mkv"},
+    {.Name = "a second run on the same folders",
+     .Merge = IF_A "[ -e inner ] || { touch inner; \"$BATCH\" --app-folder app --videos videos --target target --set "
+                   "'Extensions/Careful Batch=On' >/dev/null 2>&1; };; esac; \"$REAL\" \"$@\"",
+     .Results = Both_Failed,
+     .Reason = "made meanwhile",
+     .Target = "a.mkv b.mkv"},
+    // What stands there.
+    {.Name = "an old output", .Before = "cp videos/b.mkv target/a.mkv", .Results = Both_Done},
+    {.Name = "an old output stays",
+     .Before = "cp videos/b.mkv target/a.mkv",
+     .Results = "a.mkv skipped, b.mkv done",
+     .Reason = "there already",
+     .Target = "a.mkv b.mkv",
+     .More = {u"--set"_s, u"Extensions/If The Output Exists=Skip"_s}},
+    {.Name = "an old output beside the new",
+     .Before = "cp videos/b.mkv target/a.mkv",
+     .Results = Both_Done,
+     .Target = "a (1).mkv|a.mkv|b.mkv",
+     .More = {u"--set"_s, u"Extensions/If The Output Exists=Number"_s}},
+    {.Name = "an old output that the new can't follow",
+     .Before = "cp videos/b.mkv target/a.mkv",
+     .Calls = "renameat2:2:5",
+     .Results = First_Failed,
+     .Reason = "Input/output error",
+     .Target = "a.mkv b.mkv"},
+    {.Name = "a link to another file",
+     .Before = "cp videos/b.mkv precious; ln -s ../precious target/a.mkv",
+     .Results = Both_Done},
+    {.Name = "a link to the source", .Before = "ln -s ../videos/a.mkv target/a.mkv", .Results = Both_Done},
+    {.Name = "a second name of the source",
+     .Before = "ln videos/a.mkv target/a.mkv",
+     .Results = First_Failed,
+     .Reason = "is the source itself",
+     .Target = "a.mkv b.mkv"},
+    {.Name = "a folder in the output's place",
+     .Before = "mkdir target/a.mkv",
+     .Results = First_Failed,
+     .Reason = "is no file",
+     .Target = "a.mkv b.mkv"},
+    {.Name = "two videos with one output",
+     .Before = "cp videos/b.mkv videos/a.mp4",
+     .Results = "a.mkv done, a.mp4 failed, b.mkv done"},
+    {.Name = "entries that are no files",
+     .Before = "mkdir videos/c.mkv; mkfifo videos/d.mkv; ln -s nowhere videos/e.mkv; echo > videos/f.mkv",
+     .Results = "a.mkv done, b.mkv done, c.mkv skipped, d.mkv skipped, e.mkv failed, f.mkv failed"},
+    {.Name = "a torn line in the journal",
+     .Before = "printf '{\"event\":\"resu' > \"app/Vantorra_Journal-$HOST.jsonl\"",
+     .Results = Both_Done},
+    {.Name = "names that mean something to mkvmerge",
+     .Before = "mv videos/a.mkv 'videos/@a%d --x.mkv'",
+     .Results = "@a%d --x.mkv done, b.mkv done"},
+    {.Name = "a halt",
+     .Merge = "kill -INT $PPID; sleep 5",
+     .Results = "a.mkv not run, b.mkv not run",
+     .Reason = "halted"},
+    // Companions.
+    {.Name = "a companion goes with its video",
+     .Before = "mv c.srt videos/a_Track1.srt",
+     .Results = Both_Done,
+     .More = With_Companions,
+     .Videos = "."},
+    {.Name = "a companion that a failed video would use",
+     .Before = "mv c.srt 'videos/a_Track b.srt'",
+     .Merge = "case \"$*\" in */videos/b.mkv*) exit 2;; esac; \"$REAL\" \"$@\"",
+     .Results = "a.mkv done, b.mkv failed",
+     .More = With_Companions,
+     .Videos = "a_Track b.srt|b.mkv"},
+    {.Name = "a companion that was changed meanwhile",
+     .Before = "mv c.srt videos/a_Track1.srt",
+     .Merge = "\"$REAL\" \"$@\"; " IF_A "echo >> videos/a_Track1.srt;; esac",
+     .Results = Both_Done,
+     .More = With_Companions,
+     .Videos = "a_Track1.srt"},
+    {.Name = "a companion that no tool can read",
+     .Before = "echo nonsense > videos/a_Track1.mp3",
+     .Results = First_Failed,
+     .Reason = "a_Track1.mp3",
+     .More = With_Companions,
+     .Videos = "a.mkv|a_Track1.mp3"},
+    {.Name = "a companion of a similar name",
+     .Before = "mv videos/b.mkv videos/aa.mkv; mv c.srt videos/aa.srt",
+     .Results = "a.mkv done, aa.mkv done",
+     .Reason = "Sensible Names And Sizes",
+     .More = With_Companions,
+     .Videos = "a.mkv|aa.srt"},
+    {.Name = "a broken option file",
+     .Before = "mv c.srt videos/a_Track1.srt; echo Language= > videos/a_Track1.srt.opt",
+     .Results = First_Failed,
+     .Reason = "a_Track1.srt.opt",
+     .More = With_Companions + QStringList{u"--tick"_s, u"chk_UseSubOpts"_s},
+     .Videos = "a.mkv|a_Track1.srt|a_Track1.srt.opt"},
+    // Splitting: nothing is trashed but old pieces.
+    {.Name = "old pieces",
+     .Before = "cp videos/b.mkv target/a-001.mkv; cp videos/b.mkv target/a-007.mkv",
+     .Results = Both_Done,
+     .Target = "a-001.mkv b-001.mkv",
+     .More = {u"--tick"_s, u"chk_SplitVideos"_s}},
+    {.Name = "old pieces that the new can't follow",
+     .Before = "cp videos/b.mkv target/a-001.mkv; cp videos/b.mkv target/a-007.mkv",
+     .Calls = "renameat2:3:5",
+     .Results = First_Failed,
+     .Target = "a-001.mkv a-007.mkv b-001.mkv",
+     .More = {u"--tick"_s, u"chk_SplitVideos"_s}},
+};
+
+QByteArray Hash_Of(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1)
+                                          : QByteArray();
+}
+
+/// The program over its folders, with what a row puts in the places of the tools.
+struct Fault_Run : Batch_Process
+{
+    QMap<QString, QByteArray> Sources; ///< name to content, before
+    QSet<QByteArray> Old;              ///< contents that stood in the target before
+
+    explicit Fault_Run(const Fault& fault)
+    {
+        for (const QString& name : {u"a.mkv"_s, u"b.mkv"_s})
+            Place(*this, name == u"a.mkv"_s ? Short_Video() : Rich_Video(), u"videos/"_s + name);
+        Write(u"c.srt"_s, "1\n00:00:00,000 --> 00:00:00,200\nHello\n");
+        Shell(fault.Before);
+        for (const QFileInfo& file :
+             QDir(Path(u"videos"_s)).entryInfoList(QDir::Files | QDir::System | QDir::Dirs | QDir::NoDotAndDotDot))
+            Sources.insert(file.fileName(), file.isFile() ? Hash_Of(file.filePath()) : QByteArray());
+        for (const QFileInfo& file : QDir(Path(u"target"_s)).entryInfoList(QDir::Files))
+            Old.insert(Hash_Of(file.filePath()));
+        Set_Tools(fault.Probe, fault.Merge);
+        Set_Environment(u"BATCH"_s, QStringLiteral(VANTORRA_BATCH_PROGRAM));
+        if (*fault.Calls != 0 || QFile::exists(Path(u"room"_s))) {
+            Set_Environment(u"LD_PRELOAD"_s, QStringLiteral(VANTORRA_FAULT_SHIM));
+            Set_Environment(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0:detect_leaks=0"_s);
+            Set_Environment(u"FAULT"_s, QString::fromLatin1(fault.Calls));
+            Set_Environment(u"ROOM"_s, QString::fromLatin1(Read(u"room"_s).trimmed()));
+        }
+    }
+
+    void Shell(const char* script) const
+    {
+        QProcess shell;
+        shell.setWorkingDirectory(Path());
+        shell.start(u"/bin/sh"_s, {u"-c"_s, u"HOST=$(uname -n);"_s + QString::fromLatin1(script)});
+        shell.waitForFinished();
+    }
+
+    void Tool(const QString& name, const QString& place, const QByteArray& script) const
+    {
+        const QByteArray head = "#!/bin/sh\nREAL=" + Tool_In_Path(name).toUtf8() +
+                                "\ncase \"$1\" in -V|--version|-J|"
+                                "--identif*|-version) exec \"$REAL\" \"$@\";; esac\ncd " +
+                                Path().toUtf8() + "\n";
+        Write(place, head + (script.isEmpty() ? "exec \"$REAL\" \"$@\"" : script) + "\n");
+        QFile::setPermissions(Path(place), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    void Set_Tools(const QByteArray& probe, const QByteArray& merge) const
+    {
+        Tool(u"ffprobe"_s, u"app/ffprobe"_s, probe);
+        Tool(u"mkvmerge"_s, u"tools/mkvmerge"_s, merge);
+    }
+
+    Batch_Result Run_It(const QStringList& more)
+    {
+        return Run(QStringList{u"--json"_s, u"--set"_s, u"Extensions/Careful Batch=On"_s, u"--set"_s,
+                               u"Paths/System mkvmerge.exe Path="_s + Path(u"tools/mkvmerge"_s), u"--tick"_s,
+                               u"chk_DeleteVideoAP"_s} +
+                   more);
+    }
+
+    /// No final name that isn't whole, and no source gone without an output that is.
+    void Expect_Nothing_Lost() const
+    {
+        const QDir target(Path(u"target"_s));
+        for (const QFileInfo& file : target.entryInfoList(QDir::Files | QDir::Hidden))
+            if (!Old.contains(Hash_Of(file.filePath()))) {
+                const auto head = Read_Ebml_Head(file.filePath());
+                EXPECT_TRUE(head && head->Segment_End == static_cast<std::uint64_t>(file.size()))
+                    << file.fileName().toStdString();
+            }
+        for (auto source = Sources.begin(); source != Sources.end(); ++source) {
+            const QString output = QFileInfo(source.key()).completeBaseName() + u".mkv"_s;
+            const QFileInfo there(Path(u"videos/"_s + source.key()));
+            const bool trashed = !source.key().endsWith(u".mkv"_s) && Is_Somewhere(source.value());
+            EXPECT_TRUE(there.exists() || there.isSymLink() || target.exists(output) || trashed)
+                << source.key().toStdString();
+        }
+        for (const QByteArray& old : Old)
+            EXPECT_TRUE(Is_Somewhere(old)) << "an old output is lost";
+    }
+
+    bool Is_Somewhere(const QByteArray& content) const
+    {
+        for (const QString& folder : {u"target"_s, u"trash/Trash/files"_s, u""_s})
+            for (const QFileInfo& file : QDir(Path(folder)).entryInfoList(QDir::Files | QDir::Hidden))
+                if (Hash_Of(file.filePath()) == content)
+                    return true;
+        return false;
+    }
+};
+
+/// "a.mkv done, b.mkv failed": one for each entry, in order.
+QString Results_Of(const Batch_Result& result)
+{
+    QStringList words;
+    for (const QJsonObject& event : result.Events(u"result"_s))
+        words += event[u"source"_s].toString().section(u'/', -1) + u' ' + event[u"status"_s].toString();
+    return words.join(u", ");
+}
+
+void Expect_Row(const Fault& fault, const Fault_Run& run, const Batch_Result& result)
+{
+    EXPECT_EQ(Results_Of(result), QString::fromLatin1(fault.Results)) << result.Err.toStdString();
+    const QJsonObject first = result.Events(u"result"_s).value(0);
+    const QString said = first[u"reason"_s].toString() + first[u"warnings"_s].toVariant().toStringList().join(u' ');
+    EXPECT_TRUE(said.contains(QString::fromLatin1(fault.Reason))) << said.toStdString();
+    const QString left = QString::fromLatin1(fault.Videos);
+    if (!left.isEmpty()) {
+        EXPECT_EQ(run.Names_In(u"videos"_s).join(u'|'), left == "."_L1 ? QString() : left);
+    }
+    if (QLatin1StringView(fault.Target).isEmpty())
+        return;
+    const QString names = run.Names_In(u"target"_s).join(u'|');
+    EXPECT_TRUE(names == QLatin1StringView(fault.Target) ||
+                names == QString::fromLatin1(fault.Target).replace(u' ', u'|'))
+        << names.toStdString();
+}
+
+} // namespace
+
+struct CarefulFaults : testing::TestWithParam<Fault>
+{};
+
+TEST_P(CarefulFaults, NothingIsLostHalfWrittenOrPassedOver)
+{
+    const Fault& fault = GetParam();
+    Fault_Run run(fault);
+    if (QLatin1StringView(fault.Merge) == "#gone"_L1)
+        run.Write(u"tools/mkvmerge"_s, "#!/nowhere\n");
+    Batch_Result result = run.Run_It(fault.More);
+    run.Expect_Nothing_Lost();
+    if (*fault.Results == 0) {
+        EXPECT_EQ(result.Exit, -9);
+        run.Set_Tools("", "");
+        run.Set_Environment(u"FAULT"_s, {});
+        result = run.Run_It({});
+        run.Expect_Nothing_Lost();
+        for (const QString& status : result.Values(u"result"_s, u"status"_s))
+            EXPECT_EQ(status, u"done"_s);
+        QStringList names = run.Names_In(u"target"_s);
+        names.removeAll(u"a (old 1).mkv"_s); // it had made way already
+        EXPECT_EQ(names, (QStringList{u"a.mkv"_s, u"b.mkv"_s})) << result.Err.toStdString();
+    } else {
+        Expect_Row(fault, run, result);
+    }
+    EXPECT_TRUE(run.Names_In(u"target"_s).filter(u".vantorra-"_s).isEmpty());
+    EXPECT_EQ(run.Names_In(u"app/Vantorra_Working"_s), QStringList());
+}
+
+static std::string Row_Name(const testing::TestParamInfo<Fault>& row)
+{
+    std::string name;
+    for (const char letter : std::string(row.param.Name))
+        name += std::isalnum(static_cast<unsigned char>(letter)) != 0 ? letter : '_';
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, CarefulFaults, testing::ValuesIn(Faults), Row_Name);
