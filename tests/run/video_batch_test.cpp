@@ -165,7 +165,7 @@ TEST_F(VideoBatch, AFailingFileDoesNotStopTheOthers)
     EXPECT_TRUE(Run());
     EXPECT_EQ(Codes(), QList<int>{13});
     EXPECT_EQ(Heard.Outcomes.at(0).Exit, -1);
-    EXPECT_EQ(Heard.Outcomes.at(0).Reason, u"ffprobe says: mov: no moov"_s);
+    EXPECT_EQ(Heard.Outcomes.at(0).Reason, u"ffprobe says: [mov] no moov"_s);
     EXPECT_TRUE(Prog.Form.pic_TargetPath.Caption.endsWith(u"1 File Done "_s));
 
     Test.Write(u"videos/empty.mkv"_s, "x");
