@@ -175,7 +175,7 @@ TEST_F(Editor_Form, OneRowTakesAllBoxesAndSeveralTheSetOnes)
     });
 }
 
-TEST_F(Editor_Form, AnOptionFileThatCantBeReadOrWrittenEndsTheProgramWithItsName)
+TEST_F(Editor_Form, AnOptionFileThatCantBeReadOrWrittenIsToldByItsName)
 {
     const QString folder = Window.Files.Path(u"videos"_s);
     const QString option_file = Window.Files.Path(u"videos/a.mp3.opt"_s);
@@ -189,26 +189,31 @@ TEST_F(Editor_Form, AnOptionFileThatCantBeReadOrWrittenEndsTheProgramWithItsName
         std::function<void()> Before; ///< the editor opens
         std::function<void()> Spoil;  ///< while it is open
         QByteArray Kept;
+        bool Ends = false; ///< a file that can't be read leaves nothing to go on with
     };
 
     const Case cases[] = {
         {"the folder is gone", {}, [&] { QDir(folder).removeRecursively(); }, {}},
         {"a folder is in the file's place", [&] { QDir().mkdir(option_file); }, [] {}, {}},
         {"the folder can only be read", [&] { Window.Files.Write(u"videos/a.mp3.opt"_s, "Delay=7\r\n"); },
-         [&] { allow(folder, QFile::ReadOther | QFile::ExeOther); }, "Delay=7\r\n"},
+         [&] {
+             allow(folder, QFile::ReadGroup | QFile::ExeGroup);
+             QFile::setPermissions(option_file, QFile::ReadOwner | QFile::ReadGroup);
+         },
+         "Delay=7\r\n"},
         {"the file can't be read", [&] { Window.Files.Write(u"videos/a.mp3.opt"_s, "Delay=7\r\n"); },
-         [&] { QFile::setPermissions(option_file, {}); }, "Delay=7\r\n"},
+         [&] { QFile::setPermissions(option_file, {}); }, "Delay=7\r\n", true},
     };
     for (const Case& one : cases) {
         SCOPED_TRACE(one.Name);
-        allow(Window.Files.Path(), QFile::WriteOwner | QFile::ReadOther | QFile::ExeOther);
+        allow(Window.Files.Path(), QFile::WriteOwner | QFile::ReadGroup | QFile::ExeGroup);
         QDir(folder).removeRecursively();
         Window.Files.Write(u"videos/a.mp3"_s);
         if (one.Before)
             one.Before();
         Window.Person.Boxes.clear();
         Start();
-        allow(Window.Files.Path(u"app"_s), QFile::WriteOwner | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther);
+        allow(Window.Files.Path(u"app"_s), QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup);
         QStringList names;
         Edit([&] {
             one.Spoil();
@@ -221,10 +226,10 @@ TEST_F(Editor_Form, AnOptionFileThatCantBeReadOrWrittenEndsTheProgramWithItsName
             }
         });
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        EXPECT_TRUE(Window.Desk->Guard.Ended());
+        EXPECT_EQ(Window.Desk->Guard.Ended(), one.Ends);
         ASSERT_EQ(Window.Person.Boxes.size(), 1u);
         const QString told = Window.Person.Boxes[0].Text;
-        EXPECT_TRUE(told.startsWith(u"Run-time error"_s) && told.contains(option_file)) << told.toStdString();
+        EXPECT_TRUE(told.contains(option_file)) << told.toStdString();
         EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), names) << "nothing half-written";
         QFile::setPermissions(option_file, QFile::ReadOwner);
         EXPECT_EQ(Window.Files.Read(u"videos/a.mp3.opt"_s), one.Kept);
@@ -234,9 +239,11 @@ TEST_F(Editor_Form, AnOptionFileThatCantBeReadOrWrittenEndsTheProgramWithItsName
 TEST_F(Editor_Form, AnOptionFileThatTheTrashDoesntTakeStaysAndThatIsTold)
 {
     Start();
-    const QString name = u"videos/"_s + QString(237, u'n') + u".mp3"_s; // too long to be described in the trash
+    const QString name = u"videos/a.mp3"_s;
     Window.Files.Write(name);
     Window.Files.Write(name + u".opt"_s, "Title=Own\r\n");
+    const QByteArray data_home = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", Window.Files.Write(u"no_folder"_s).toUtf8());
     Edit([&] {
         Click_Row(0);
         Type("txt_Title", {});
@@ -246,6 +253,7 @@ TEST_F(Editor_Form, AnOptionFileThatTheTrashDoesntTakeStaysAndThatIsTold)
         EXPECT_EQ(Boxes(), u"[Own]/(not set)/(not set)/(not set)/(not set)") << "what the file still says";
         EXPECT_TRUE(Form->isVisible());
     });
+    qputenv("XDG_DATA_HOME", data_home);
     EXPECT_EQ(Window.Files.Read(name + u".opt"_s), "Title=Own\r\n");
     EXPECT_FALSE(Window.Desk->Guard.Ended());
 }
