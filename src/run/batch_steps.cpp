@@ -53,6 +53,9 @@ void Close_Outcome(Program& program, File_Outcome& outcome)
     if (outcome.Status == File_Outcome::Kind::Failed && outcome.Reason.isEmpty())
         outcome.Reason = program.Run.File_Failure;
     program.Run.File_Failure.clear();
+    if (outcome.Status == File_Outcome::Kind::Failed)
+        program.Run.Failed_Videos += As_One_Line(File_Name_Of(outcome.Source) + u": "_s +
+                                                 (outcome.Reason.isEmpty() ? u"it failed"_s : outcome.Reason));
     if (program.Listener)
         program.Listener->File_Finished(outcome);
 }
@@ -61,6 +64,7 @@ void Forget_Outputs(Run_State& run)
 {
     run.Half_Written_Output.clear();
     run.Shared_Outputs.clear();
+    run.Failed_Videos.clear();
 }
 
 /// Two sources of a run write one file: told in the log and to the listener, and kept for the end of the run.

@@ -29,7 +29,7 @@ void Count_Video(Program& program, int files_done);
 /// Why a video that a halt reached has no output.
 inline const QString Halted_Reason = QStringLiteral("the run was halted");
 
-/// Clears what the run before left of its outputs.
+/// Clears what the run before left of its outputs, and its warnings of them.
 void Forget_Outputs(Run_State& run);
 
 /// Looks at what the command assembled for the outcome's source would overwrite: `outputs`. False, with the reason in
@@ -37,7 +37,8 @@ void Forget_Outputs(Run_State& run);
 /// operator is warned.
 bool May_Write(Program& program, const QStringList& outputs, const Written_Outputs& written, File_Outcome& outcome);
 
-/// The end of a file: gives a failed one the reason that is known, and tells the listener.
+/// The end of a file: gives a failed one the reason that is known, notes it for the end of the run, and tells the
+/// listener.
 void Close_Outcome(Program& program, File_Outcome& outcome);
 
 /// Runs the command that was assembled for the outcome's source (in a dry run only tells the listener of it), and sets

@@ -16,6 +16,7 @@
 #include "workbenches/form_lock.h"
 
 #include <QScopeGuard>
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -215,10 +216,13 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
 
     const bool halted = program.Run.Halt_Requested;
     program.Run.Run_In_Progress = false;
-    if (halted)
+    if (halted) {
+        // Who halts wants to go on or away, and a signal mustn't wait for a click.
+        program.Run.Failed_Videos.clear();
         Show_Interrupted(program);
-    else
+    } else {
         Show_Finished(program);
+    }
 
     Write_Process_Log(program);
     Unlock_Main_Form(program.Form);
@@ -226,11 +230,24 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     return halted ? Press_Result::Interrupted : Press_Result::Finished;
 }
 
+static void Show_Failed_Videos(Program& program)
+{
+    constexpr qsizetype most_lines = 12;
+    const QStringList failed = std::exchange(program.Run.Failed_Videos, {});
+    if (failed.isEmpty())
+        return;
+    QStringList lines = failed.first(std::min(failed.size(), most_lines));
+    if (failed.size() > most_lines)
+        lines += u"... and %1 more"_s.arg(failed.size() - most_lines);
+    program.Person.Show_Message({.Title = u"Videos that failed"_s, .Text = lines.join(u"\r\n"_s)});
+}
+
 void Show_Run_Warnings(Program& program)
 {
     const QStringList warnings = std::exchange(program.Run.Shared_Outputs, {});
     if (!warnings.isEmpty())
         program.Person.Show_Message({.Title = Shared_Output_Title, .Text = warnings.join(u"\r\n"_s)});
+    Show_Failed_Videos(program);
 }
 
 void btn_Halt_MouseUp(Program& program, const Mouse_Release& release)

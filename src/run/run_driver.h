@@ -20,7 +20,8 @@ enum class Press_Result
 /// all that is done; Run_Time_Error passes through.
 Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release);
 
-/// A box with what the last run has warned of, if it has, for a driver that doesn't tell while it goes on.
+/// A box with what the last run has warned of, and one with the videos that failed and why, for a driver that doesn't
+/// tell while it goes on. None where there is nothing to tell; a run that was halted names no failed videos.
 void Show_Run_Warnings(Program& program);
 
 /// Asks the run to stop, for btn_Halt and whatever stands for it (a signal). Only a flag is set and the button's look

@@ -307,6 +307,25 @@ TEST(Run_Driver, ThreeOptionsAreSampledAtThePress)
     }
 }
 
+TEST(Run_Driver, VideosThatFailedAreNamedWithTheirReasonsWhenTheRunIsOver)
+{
+    for (const bool fails : {true, false}) {
+        Driver_Test test;
+        test.Mkvmerge(fails ? "echo 'Error: no such thing'; exit 2" : "echo 'Multiplexing took 1 second.'");
+        for (int number = 0; number < 13; ++number)
+            test.Write(u"videos/a\n%1.avi"_s.arg(number), "x");
+        EXPECT_EQ(test.Press(), Press_Result::Finished);
+        Show_Run_Warnings(test.Prog);
+        ASSERT_EQ(test.Person.Messages.size(), fails ? 1U : 0U);
+        if (!fails)
+            continue;
+        const QStringList lines = test.Person.Messages.front().Text.split(u"\r\n"_s);
+        EXPECT_EQ(lines.size(), 13);
+        EXPECT_EQ(lines.front(), u"a\\n0.avi: mkvmerge says: no such thing");
+        EXPECT_EQ(lines.back(), u"... and 2 more");
+    }
+}
+
 TEST(Run_Driver, TheSplitBoxChoosesTheSplitRun)
 {
     for (const int value : {0, 1, 2}) {
