@@ -48,14 +48,19 @@ static QString Mkvmerge_Failure(const Run_State& run, int exit)
     return how + (run.Tool_Last_Line.isEmpty() ? u" and said nothing"_s : u"; its last words: "_s + run.Tool_Last_Line);
 }
 
+void Note_Failure(Run_State& run, const File_Outcome& outcome)
+{
+    if (outcome.Status == File_Outcome::Kind::Failed)
+        run.Failed_Videos += As_One_Line(File_Name_Of(outcome.Source) + u": "_s +
+                                         (outcome.Reason.isEmpty() ? u"it failed"_s : outcome.Reason));
+}
+
 void Close_Outcome(Program& program, File_Outcome& outcome)
 {
     if (outcome.Status == File_Outcome::Kind::Failed && outcome.Reason.isEmpty())
         outcome.Reason = program.Run.File_Failure;
     program.Run.File_Failure.clear();
-    if (outcome.Status == File_Outcome::Kind::Failed)
-        program.Run.Failed_Videos += As_One_Line(File_Name_Of(outcome.Source) + u": "_s +
-                                                 (outcome.Reason.isEmpty() ? u"it failed"_s : outcome.Reason));
+    Note_Failure(program.Run, outcome);
     if (program.Listener)
         program.Listener->File_Finished(outcome);
 }

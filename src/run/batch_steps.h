@@ -37,6 +37,9 @@ void Forget_Outputs(Run_State& run);
 /// operator is warned.
 bool May_Write(Program& program, const QStringList& outputs, const Written_Outputs& written, File_Outcome& outcome);
 
+/// Notes a video that failed for the end of the run; any other outcome is passed over.
+void Note_Failure(Run_State& run, const File_Outcome& outcome);
+
 /// The end of a file: gives a failed one the reason that is known, notes it for the end of the run, and tells the
 /// listener.
 void Close_Outcome(Program& program, File_Outcome& outcome);

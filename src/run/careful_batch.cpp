@@ -3,6 +3,7 @@
 #include "inspect/video_names.h"
 #include "logs/results_digest.h"
 #include "run/batch_captions.h"
+#include "run/batch_steps.h"
 #include "run/careful_deletions.h"
 #include "run/careful_video.h"
 #include "run/careful_walk.h"
@@ -150,6 +151,7 @@ static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
     const File_Outcome outcome = Run_Careful_Video(walk, video);
     if (outcome.Status == File_Outcome::Kind::Done)
         Trash_Companions(walk);
+    Note_Failure(run, outcome);
     if (program.Listener)
         program.Listener->File_Finished(outcome);
     Digest_Results(program);
@@ -161,6 +163,7 @@ static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
 bool Run_Carefully(Program& program)
 {
     Run_State& run = program.Run;
+    Forget_Outputs(run);
     program.Person.Pump_Events();
     Careful_Walk walk(program);
     const std::vector<Folder_Entry> chosen = Begin(walk);

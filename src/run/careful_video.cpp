@@ -229,8 +229,8 @@ QString With_Final_Names(const Video_Work& work, QString line)
     const Program& program = work.Walk.Prog;
     const QString& folder = work.Walk.Working.Path();
     if (line.contains(folder)) {
-        line.replace(folder + Working_Stem, work.Outcome.Output.chopped(4));
-        line.replace(folder + Working_Chapters, program.Companions.Chapter_File);
+        line.replace(folder + Working_Stem, As_One_Line(work.Outcome.Output.chopped(4)));
+        line.replace(folder + Working_Chapters, As_One_Line(program.Companions.Chapter_File));
     }
     return line;
 }
@@ -244,11 +244,23 @@ void Take_Line(Video_Work& work, const QString& line)
         const double share = program.Run.Videos_Done + percent / 100.0;
         Show_Fraction(program, percent, std::min(share / std::max(program.Run.Videos_Chosen, 1), 1.0));
     } else if (work.Words.size() < Most_Words) {
-        const QString shown = With_Final_Names(work, line);
-        work.Words += shown + u'\n';
-        if (!shown.isEmpty())
-            program.Logs.Log_Console.AppendLine(shown);
+        work.Words += With_Final_Names(work, line) + u'\n';
     }
+}
+
+/// What mkvmerge printed, a line each; a name stays on its line, whatever it holds.
+void Log_Words(const Video_Work& work)
+{
+    Program& program = work.Walk.Prog;
+    QString words = work.Words;
+    for (const QString& name : Names_Of_Several_Lines(program.Run.Mkvmerge_Arguments.Arguments())) {
+        // As Run_Mkvmerge_Lines has cut it.
+        QString printed = name;
+        printed.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+        words.replace(printed, As_One_Line(name));
+    }
+    for (const QString& line : words.split(u'\n', Qt::SkipEmptyParts))
+        program.Logs.Log_Console.AppendLine(line);
 }
 
 /// How mkvmerge ended, where that wasn't well: its own first words, if it had some.
@@ -270,6 +282,7 @@ bool Mux(Video_Work& work)
     program.Logs.Log_Console.Clear();
     Run_Mkvmerge_Lines(program, program.Tools.System_MKVMerge_Path, Working_Arguments(work),
                        [&work](const QString& line) { Take_Line(work, line); });
+    Log_Words(work);
     work.Outcome.Exit = run.Exit_Status.value_or(-1);
     if (run.Halt_Requested)
         return Halted(work);

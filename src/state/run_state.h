@@ -44,7 +44,7 @@ struct Run_State
     QString Output_Path;             ///< the file that command writes
     QString Half_Written_Output;     ///< what mkvmerge was writing when a halt killed it; empty: nothing
     QStringList Shared_Outputs;      ///< warnings of this run: two sources write one file
-    QStringList Failed_Videos;       ///< of this classic run: name and reason of each video that failed, a line each
+    QStringList Failed_Videos;       ///< of this run: name and reason of each video that failed, a line each
 
     bool Strip_Audio_Titles = false; ///< sampled at the press of the button, as the two below
     bool Strip_Subtitle_Titles = false;

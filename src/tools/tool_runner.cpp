@@ -176,18 +176,24 @@ static bool Holds_Progress(QByteArrayView bytes)
     return false;
 }
 
-/// mkvmerge prints names as they are. One of the command that holds a line break would make lines of the log.
-static QString With_Whole_Names(const QString& chunk, const Command_Line& command)
+QStringList Names_Of_Several_Lines(const QStringList& arguments)
 {
-    if (!command.Text().contains(u'\n') && !command.Text().contains(u'\r'))
-        return chunk;
+    QStringList names;
+    for (const QString& name : arguments)
+        if (As_One_Line(name) != name)
+            names += name;
+    return names;
+}
+
+/// mkvmerge prints names as they are. One of the command that holds a line break would make lines of the log.
+static QString With_Whole_Names(const QString& chunk, const QStringList& names)
+{
     QString text = chunk;
-    for (const QString& name : command.Arguments()) {
+    for (const QString& name : names) {
         // As Console_Text has made it of what came through the pipe.
         QString printed = name;
         printed.replace(Line_Break, u"\n"_s).replace(u"\n"_s, Line_Break);
-        if (const QString whole = As_One_Line(name); whole != name)
-            text.replace(printed, whole);
+        text.replace(printed, As_One_Line(name));
     }
     return text;
 }
@@ -196,7 +202,7 @@ static QString With_Whole_Names(const QString& chunk, const Command_Line& comman
 ///
 /// Deliberate: the whole chunk goes, whatever else it holds, if it speaks of progress or names the program's folder;
 /// for a program in "/" that is every chunk. A video called "Work in progress" loses its messages and shows 0 %.
-static void Take_Mkvmerge_Chunk(Program& program, const Command_Line& command, const QByteArray& own_folder,
+static void Take_Mkvmerge_Chunk(Program& program, const QStringList& names, const QByteArray& own_folder,
                                 QByteArrayView bytes, Console_Text& text)
 {
     if (Holds_Progress(bytes)) {
@@ -207,7 +213,7 @@ static void Take_Mkvmerge_Chunk(Program& program, const Command_Line& command, c
     } else if (bytes.contains(own_folder)) {
         text.Skip(bytes);
     } else if (const QString& chunk = text.Decode(bytes); chunk.size() > Longest_Dropped_Chunk) {
-        program.Logs.Log_Console.AppendLine(With_Whole_Names(chunk, command));
+        program.Logs.Log_Console.AppendLine(With_Whole_Names(chunk, names));
     }
 }
 
@@ -215,11 +221,12 @@ void Run_Mkvmerge(Program& program, const QString& executable, const Command_Lin
 {
     QByteArray own_folder = program.Settings.App_Folder.toUtf8();
     own_folder.chop(1);
+    const QStringList names = Names_Of_Several_Lines(command.Arguments());
     Message_Lines messages;
     Run_Tool(program, executable, command.Arguments(), Mkvmerge_Bytes, On_Halt::Kill_It,
-             [&program, &command, &own_folder, &messages](QByteArrayView bytes, Console_Text& text) {
+             [&program, &names, &own_folder, &messages](QByteArrayView bytes, Console_Text& text) {
                  messages.Take(bytes);
-                 Take_Mkvmerge_Chunk(program, command, own_folder, bytes, text);
+                 Take_Mkvmerge_Chunk(program, names, own_folder, bytes, text);
              });
     messages.End();
     program.Run.Tool_Error = messages.First_Error;

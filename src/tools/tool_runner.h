@@ -20,6 +20,10 @@ void Run_Tool_Capture_Fresh(Program& program, const QString& executable, const C
 /// a halt is requested, whether or not it prints. Tool_Error, Tool_Warnings and Tool_Last_Line are what it said.
 void Run_Mkvmerge(Program& program, const QString& executable, const Command_Line& command);
 
+/// Those of a command's arguments that don't stay on one line where they are printed as they are. Where mkvmerge's
+/// words go into the log, such names are written out, or they would make lines of it.
+QStringList Names_Of_Several_Lines(const QStringList& arguments);
+
 /// Runs mkvmerge and hands out each line that it prints, whole, as it comes, the empty ones too. A halt ends the run's
 /// own child, no other.
 void Run_Mkvmerge_Lines(Program& program, const QString& executable, const QStringList& arguments,
