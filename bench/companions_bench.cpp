@@ -38,11 +38,12 @@ static void Find(benchmark::State& state)
     const QString masks[] = {Audio_File_Masks, Subtitle_File_Masks, Idx_File_Mask};
     const QString base = Episode(7, u""_s).chopped(1);
     const std::string raw_base = base.toStdString();
+    clsStringBuilder faults;
     Compare(
         state,
         [&] {
             for (const QString& mask : masks)
-                benchmark::DoNotOptimize(Find_Companions(folder.path() + u'/', base, mask));
+                benchmark::DoNotOptimize(Find_Companions(folder.path() + u'/', base, mask, faults));
         },
         [&] {
             for ([[maybe_unused]] const QString& mask : masks)
