@@ -70,6 +70,14 @@ static const Track_Claim Subtitle_Table[] = {
     {.Name = "AnSrtIsAdded",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s); },
      .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT und default"_s}},
+    {.Name = "TwoSrtsThatDifferOnlyInCaseAreBothAdded",
+     .Prepare =
+         [](Library_Run& run) {
+             Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s);
+             run.Add(u"c.srt"_s, u"MOVIE.srt"_s);
+         },
+     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT und default"_s,
+                u"subtitles SubRip/SRT und default"_s}},
     {.Name = "AnMksLosesItsOwnLanguageAndKeepsItsFlag",
      .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.mks"_s, u"Movie.mks"_s); },
      .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT und"_s}},
@@ -92,19 +100,24 @@ static const Track_Claim Subtitle_Table[] = {
 
 INSTANTIATE_TEST_SUITE_P(External_Subtitles, Track_Claims, testing::ValuesIn(Subtitle_Table), Name_Of_Claim);
 
-TEST(Companions, WithHostileNamesAreOneArgumentEach)
+TEST(Companions, WithHostileNamesAreOneArgumentEachAndForgeNoLineOfTheLog)
 {
     const QString names[] = {u"-o \"a\" 'b' %s $x;.*"_s, u"line\nbreak\ttab"_s, u"@options"_s, u"--no-video"_s,
                              u"ünïcode 日本"_s,          QString(200, u'l')};
-    for (const QString& name : names) {
-        Library_Run run;
-        run.Add(u"plain.mkv"_s, name + u".mkv"_s);
-        Add_Audio(run, u"c.flac"_s, name + u".flac"_s, "Language=fre");
-        Add_Subtitles(run, u"c.srt"_s, name + u".srt"_s);
-        EXPECT_TRUE(run.Run());
-        EXPECT_EQ(run.Tracks(name + u".mkv"_s), QStringList({Plain_Video, Plain_Audio, u"audio FLAC fre default"_s,
-                                                             u"subtitles SubRip/SRT und default"_s}));
-    }
+    // The two kinds of run log what mkvmerge says by ways of their own.
+    for (const bool careful : {false, true})
+        for (const QString& name : names) {
+            Library_Run run;
+            run.Prog.Run.Careful_Asked = careful;
+            run.Prog.Options.Log_Verbosity = 6;
+            run.Add(u"plain.mkv"_s, name + u".mkv"_s);
+            Add_Audio(run, u"c.flac"_s, name + u".flac"_s, "Language=fre");
+            Add_Subtitles(run, u"c.srt"_s, name + u".srt"_s);
+            EXPECT_TRUE(run.Run());
+            EXPECT_EQ(run.Log().count(u"break\t"_s), run.Log().count(u"line\\nbreak\t"_s));
+            EXPECT_EQ(run.Tracks(name + u".mkv"_s), QStringList({Plain_Video, Plain_Audio, u"audio FLAC fre default"_s,
+                                                                 u"subtitles SubRip/SRT und default"_s}));
+        }
 }
 
 TEST(Companions, ThatVanishBeforeTheRunEndInMkvmergesOwnWordsAndTheNextVideoGoesOn)
