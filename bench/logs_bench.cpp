@@ -45,7 +45,7 @@ static void Carry_Old_Log_Along(benchmark::State& state)
         state,
         [&] {
             QFile::remove(folder.filePath(u"work"_s));
-            Log_Work_File work(folder.filePath(u"work"_s));
+            Log_Work_File work(folder.filePath(u"work"_s), Log_Work_File::Leftover::Dropped);
             work.Append("entry\r\n\r\n");
             work.Append_File(old);
             work.Flush_To_Disk();
