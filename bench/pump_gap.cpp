@@ -42,6 +42,7 @@ int main(int argc, char** argv)
     program.Options.Path_Videos = base + u"videos/"_s;
     program.Options.Path_Target = base + u"target/"_s;
     program.Tools.System_MKVMerge_Path = base + u"silent"_s;
+    program.Settings.Extensions.Careful_Batch = false; // the stand-in only stays silent
     program.Run.Kill_By_Name = false;
 
     QElapsedTimer since_turn;
