@@ -7,6 +7,7 @@
 #include "support/paths.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
+#include "support/trash.h"
 #include "support/whole_file.h"
 
 #include <chrono>

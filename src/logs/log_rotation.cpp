@@ -5,6 +5,7 @@
 #include "support/paths.h"
 #include "support/plain_file.h"
 #include "support/run_time_error.h"
+#include "support/trash.h"
 
 #include <QDateTime>
 #include <QFile>

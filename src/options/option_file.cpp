@@ -5,6 +5,7 @@
 #include "support/run_time_error.h"
 #include "support/string_builder.h"
 #include "support/text.h"
+#include "support/trash.h"
 #include "support/whole_file.h"
 
 #include <algorithm>

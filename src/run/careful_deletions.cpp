@@ -2,8 +2,8 @@
 
 #include "run/careful_walk.h"
 #include "state/program.h"
-#include "support/files.h"
 #include "support/paths.h"
+#include "support/trash.h"
 
 #include <QDir>
 #include <algorithm>

@@ -12,6 +12,7 @@
 #include "state/program.h"
 #include "support/files.h"
 #include "support/paths.h"
+#include "support/trash.h"
 #include "tools/tool_discovery.h"
 #include "workbenches/form_lock.h"
 

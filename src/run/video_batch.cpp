@@ -14,6 +14,7 @@
 #include "support/paths.h"
 #include "support/shown_text.h"
 #include "support/text.h"
+#include "support/trash.h"
 #include "tools/failure_reports.h"
 #include "tools/tool_runner.h"
 

@@ -2,11 +2,11 @@
 
 #include "inspect/video_names.h"
 #include "support/disk_steps.h"
-#include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
 #include "support/string_builder.h"
 #include "support/this_process.h"
+#include "support/trash.h"
 #include "support/whole_file.h"
 
 #include <QDir>

@@ -86,8 +86,8 @@ int Make_Empty_File(const QString& path);
 int Remove_Own_File(const QString& path);
 int Remove_Own_Folder(const QString& path);
 
-/// Adds `text` to the end of a file by one write, making it if need be; `sync`: it is on the disk then. `begin_anew`:
-/// a line feed is put ahead where the file doesn't end in one.
+/// Adds `text` to the end of a file by one write, making it if need be; `sync`: it is on the disk then. A line feed is
+/// put ahead where the file doesn't end in one.
 int Append_At_Once(const QString& path, const QByteArray& text, bool sync);
 
 /// Bytes that may still be written below a folder; nothing if it can't be asked.

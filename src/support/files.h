@@ -4,9 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-class clsStringBuilder;
-
-/// Files and folders on disk: listing, reading whole, and the trash.
+/// Files and folders on disk: listing, and reading whole.
 
 /// The names of the regular files in a folder (and links to them), hidden ones and names that aren't valid UTF-8
 /// included (Text_Of_Name); no folder, pipe, socket or device. They come by name, as the system's home platform lists
@@ -36,12 +34,3 @@ QByteArray Read_File(const QString& path);
 /// A text file's lines, ended by CR LF, LF or CR alike, the ends cut off; UTF-8 or, with its mark, UTF-16. A line that
 /// isn't UTF-8 is read as Latin-1. The last line counts only if it isn't empty. Errors as for Read_File.
 QStringList Read_Lines(const QString& path);
-
-/// Moves a file or a folder to the trash. False only if something existed there and stays: then `faults` gets the line
-/// "-- Could not be moved to the trash - " and the quoted path. Nothing is ever removed for good.
-bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults);
-/// Delete_To_Recycle if the path names an existing file.
-void Recycle_If_Exists(const QString& path, clsStringBuilder& faults);
-/// Moves every file and folder of `folder` whose name begins with `prefix`, taken literally but for the case of its
-/// letters, to the trash. False if one stays.
-bool Recycle_By_Prefix(const QString& folder, const QString& prefix, clsStringBuilder& faults);

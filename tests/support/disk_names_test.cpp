@@ -5,6 +5,7 @@
 #include "support/paths.h"
 #include "support/shown_text.h"
 #include "support/string_builder.h"
+#include "support/trash.h"
 
 #include <QDir>
 #include <QFile>

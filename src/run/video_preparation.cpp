@@ -1,0 +1,131 @@
+#include "run/video_preparation.h"
+
+#include "command/attachments.h"
+#include "command/command_frame.h"
+#include "command/source_names.h"
+#include "command/split_command.h"
+#include "inspect/json_probe.h"
+#include "run/careful_walk.h"
+#include "run/habits.h"
+#include "run/room.h"
+#include "state/program.h"
+#include "support/disk_names.h"
+#include "support/files.h"
+#include "support/paths.h"
+#include "support/shown_text.h"
+
+#include <cerrno>
+
+using namespace Qt::StringLiterals;
+
+bool Open_Source(Video_Work& work, const Folder_Entry& entry)
+{
+    switch (entry.Kind) {
+    case Entry_Kind::Folder:
+        return Give_Up(work, File_Outcome::Kind::Skipped, u"it is a folder"_s);
+    case Entry_Kind::Other:
+        return Give_Up(work, File_Outcome::Kind::Skipped, u"it is no file but a pipe, a socket or a device"_s);
+    case Entry_Kind::Lost:
+        return Fail(work, u"it is a link that leads nowhere"_s);
+    case Entry_Kind::File:
+    case Entry_Kind::Unknown:
+        break;
+    }
+    if (Has_Stand_Ins(entry.Name))
+        return Fail(work, u"its name isn't valid UTF-8: rename it"_s);
+    const int error = work.Source.Open(work.Outcome.Source);
+    if (error == 0)
+        return true;
+    return Fail(work, error == ENOENT ? u"it is gone"_s : u"it can't be read: "_s + System_Words(error));
+}
+
+bool Choose_Output(Video_Work& work)
+{
+    Careful_Walk& walk = work.Walk;
+    const Program& program = walk.Prog;
+    const QString name = Output_Base_Of(program, work.Outcome.Source) + u".mkv"_s;
+    work.Names =
+        Choose_Name(walk.Before, name, work.Split, program.Settings.Extensions.If_The_Output_Exists, walk.Claims);
+    if (!work.Names.Skip_Reason.isEmpty())
+        return Give_Up(work, File_Outcome::Kind::Skipped, work.Names.Skip_Reason);
+    const QString& chosen = work.Names.Name;
+    if (const auto first = walk.Claims.constFind(chosen); first != walk.Claims.constEnd())
+        return Fail(work, u"its output would be \"%1\", as that of \"%2\""_s.arg(chosen, first.value()));
+    walk.Claims.insert(chosen, File_Name_Of(work.Outcome.Source));
+    work.Outcome.Output = walk.Before.Folder() + chosen;
+    const auto old = Identity_Of_Name(work.Outcome.Output);
+    if (old && old->Is_Same_File(work.Source.Identity()))
+        return Fail(work, u"the output \"%1\" is the source itself"_s.arg(chosen));
+    return true;
+}
+
+bool Inspect(Video_Work& work)
+{
+    Program& program = work.Walk.Prog;
+    const QString why_not = Probe_Video(program, work.Outcome.Source);
+    Note_Start_Of_Tool(work);
+    if (program.Run.Halt_Requested)
+        return Halted(work);
+    if (!why_not.isEmpty())
+        return Fail(work, why_not);
+    for (const QString& warning : program.Media.Probe_Warnings)
+        Warn(work, warning);
+    return true;
+}
+
+bool Assemble(Video_Work& work)
+{
+    Program& program = work.Walk.Prog;
+    const QString& source = work.Outcome.Source;
+    program.Media.Unread_Files.clear();
+    program.Run.Video = {};
+    if (work.Split) {
+        program.Companions = {};
+        Assemble_Split_Command(program, work.Outcome.Output, source);
+    } else {
+        if (program.Run.Add_Attachments_On)
+            Find_Attachments_Of_Video(program.Options, Get_Base_Name(source), program.Companions.Attachment_List,
+                                      program.Logs.Log_Faults, program.Person);
+        program.Logs.Log_Faults.AppendLine(u"-- Processing video file - \""_s + As_One_Line(source) + u'"');
+        Assemble_Command(program, work.Outcome.Output, program.Options.Path_Videos, source);
+    }
+    if (program.Run.Halt_Requested)
+        return Halted(work);
+    if (!program.Media.Unread_Files.isEmpty())
+        return Fail(work, program.Media.Unread_Files.constFirst());
+    work.Asked = Asked_Of(program.Run.Mkvmerge_Arguments, program.Media.FileInfoList);
+    if (work.Asked.Inputs.size() == 1 && work.Asked.Inputs.front().Tracks.isEmpty())
+        return Fail(work, u"no track is left for the output"_s);
+    if (const QString silent = Warning_Of_No_Audio(work.Asked, program.Companions); !silent.isEmpty())
+        Warn(work, silent);
+    for (const QStringList& warnings : {program.Run.Mkvmerge_Arguments.Refusals(),
+                                        Habit_Warnings(program, work.Walk.Bases), Companions_Left_Out(program)})
+        for (const QString& warning : warnings)
+            Warn(work, warning);
+    if (program.Listener)
+        program.Listener->Command_Ready(source, work.Outcome.Output, program.Run.Mkvmerge_Arguments);
+    return true;
+}
+
+bool Look_Ahead(Video_Work& work)
+{
+    Program& program = work.Walk.Prog;
+    const Room_Check room = Check_Room(program);
+    if (!room.Failure.isEmpty())
+        return Fail(work, room.Failure);
+    if (!room.Warning.isEmpty() && program.Run.Dry_Run)
+        Warn(work, room.Warning);
+    else if (!room.Warning.isEmpty() && program.Listener)
+        program.Listener->Warned(u"Little room"_s, File_Name_Of(work.Outcome.Source) + u": "_s + room.Warning);
+    if (program.Run.Dry_Run)
+        return Give_Up(work, File_Outcome::Kind::Not_Run, u"dry run"_s);
+
+    Working_Folder& working = work.Walk.Working;
+    if (const QString why = working.Make(program.Options.Path_Target, program.Settings.App_Folder); !why.isEmpty())
+        return Fail(work, why);
+    working.Empty();
+    for (const QString& name : {work.Names.Name, work.Split ? Piece_Name(work.Names.Name, 1) : work.Names.Name})
+        if (const QString why = working.Try_Name(name); !why.isEmpty())
+            return Fail(work, u"the target's file system refuses the name \"%1\": %2"_s.arg(name, why));
+    return true;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "run/video_work.h"
+
+/// The steps of a careful video ahead of mkvmerge: nothing is written but names that are tried in the working folder.
+
+/// Holds the source open from here on; what is no file gets its result.
+bool Open_Source(Video_Work& work, const Folder_Entry& entry);
+
+/// Chooses the output's name. Two videos of one run never share one.
+bool Choose_Output(Video_Work& work);
+
+/// Asks ffprobe, and mkvmerge where it numbers tracks in its own way.
+bool Inspect(Video_Work& work);
+
+/// Assembles the command for the final name, and tells what is amiss with it.
+bool Assemble(Video_Work& work);
+
+/// What would fail after hours is tried now: the room, and the names. A dry run ends here.
+bool Look_Ahead(Video_Work& work);
