@@ -108,9 +108,10 @@ int Convert_Chapters(Program& program, const QString& stem, bool convert, QStrin
         chapters = Read_Text_Chapters(lines, input);
     const QString xml = Chapter_Xml(chapters, Edition_Number(Random_Number()), program.Media.Video_Duration);
     // A careful run changes nothing beside a source.
-    if (program.Run.Careful)
+    if (program.Run.Careful) {
         program.Run.Video.Chapter_Xml = xml.toUtf8();
-    else if (!program.Run.Dry_Run)
+        program.Run.Video.Chapter_Text = input;
+    } else if (!program.Run.Dry_Run)
         Replace_Xml(program, xml_path, xml);
     return bits | Chapter_Step_Done;
 }

@@ -12,6 +12,9 @@
 #include "inspect/stream_parser.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/run_time_error.h"
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +39,19 @@ static void Reset_Companions(Companions& companions)
     companions.Chapter_File.clear();
 }
 
+/// What can't be read beside the video ends its assembly. A careful dry run takes a note instead, and goes on to find
+/// whatever else there is.
+static void Look_Beside(Program& program, const std::function<void()>& look)
+{
+    try {
+        look();
+    } catch (const Run_Time_Error& error) {
+        if (!program.Run.Careful || !program.Run.Dry_Run)
+            throw;
+        program.Run.Video.Problems += error.In_One_Line();
+    }
+}
+
 /// Looks for what goes with the video beside it, and tells Log_Faults.
 static void Find_Files_Beside(Program& program, const QString& videos_path, Assembly& work)
 {
@@ -43,17 +59,21 @@ static void Find_Files_Beside(Program& program, const QString& videos_path, Asse
     Companions& found = program.Companions;
     Reset_Companions(found);
     if (options.chk_AddAudio.Value == 1) {
-        Find_External_Audio(program, External_Audio_Folder(options, videos_path), work.Video_Base_Name,
-                            found.External_Audio, work.Audio_Default_Claimed);
+        Look_Beside(program, [&] {
+            Find_External_Audio(program, External_Audio_Folder(options, videos_path), work.Video_Base_Name,
+                                found.External_Audio, work.Audio_Default_Claimed);
+        });
         Log_External_Audio(found.External_Audio, options, program.Language_Table, program.Logs.Log_Faults);
     }
     if (options.chk_AddSubs.Value == 1) {
-        Find_External_Subtitles(program, External_Subtitle_Folder(options, videos_path), work.Video_Base_Name,
-                                found.External_Subtitles, found.External_Subtitles_Unpaired);
+        Look_Beside(program, [&] {
+            Find_External_Subtitles(program, External_Subtitle_Folder(options, videos_path), work.Video_Base_Name,
+                                    found.External_Subtitles, found.External_Subtitles_Unpaired);
+        });
         Log_External_Subtitles(found.External_Subtitles, found.External_Subtitles_Unpaired, options,
                                program.Language_Table, program.Logs.Log_Faults);
     }
-    found.Chapter_File = Find_Chapter_File(program, videos_path, work.Video_Base_Name);
+    Look_Beside(program, [&] { found.Chapter_File = Find_Chapter_File(program, videos_path, work.Video_Base_Name); });
 }
 
 /// The head: interface language, output, the source's tracks to take, and the switches.

@@ -6,6 +6,7 @@
 #include "headless/plain_report.h"
 #include "headless/print.h"
 #include "headless/progress_bar.h"
+#include "run/check_facts.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
@@ -102,18 +103,6 @@ static QString Habit_Of(const QString& warning)
     const QString key = u"\"Sensible Names And Sizes\""_s;
     static const QRegularExpression quoted(u"\"[^\"]*\""_s);
     return warning.contains(key) ? QString(warning).remove(quoted) : QString();
-}
-
-QStringList Batch_Report::Problems_Of(const File_Outcome& outcome) const
-{
-    QStringList problems;
-    const bool is_problem =
-        outcome.Status == File_Outcome::Kind::Failed || outcome.Status == File_Outcome::Kind::Skipped;
-    if (is_problem)
-        problems += outcome.Reason.isEmpty() ? u"it can't be processed"_s : outcome.Reason;
-    else if (File_Exists(outcome.Output))
-        problems += u"the output exists already and would be replaced"_s;
-    return problems + outcome.Warnings;
 }
 
 /// What is said about a video on standard error, a line each: its reason and its warnings. What was never run has one

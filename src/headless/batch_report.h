@@ -86,9 +86,6 @@ class Batch_Report : public Run_Listener
 
     qint64 Bytes_In_Work() const { return source_bytes_; }
 
-    /// What is wrong with a video that a dry run looked at; empty: nothing is known.
-    QStringList Problems_Of(const File_Outcome& outcome) const;
-
     /// Says on standard error what is to be said about a video beside it.
     virtual void Say_Reasons(const File_Outcome& outcome);
 

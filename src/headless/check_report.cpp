@@ -27,6 +27,10 @@ void Check_Report::Say_Reasons(const File_Outcome& outcome)
         lines += u"    added     "_s + facts.Added.join(u", "_s);
     if (!facts.Chapters.isEmpty())
         lines += u"    chapters  "_s + facts.Chapters;
+    if (!outcome.Replaces.isEmpty())
+        lines += u"    replaces  "_s + outcome.Replaces.join(u", "_s);
+    if (outcome.Status == File_Outcome::Kind::Skipped)
+        lines += u"    skipped   "_s + outcome.Reason;
     for (const QString& problem : Problems_Of(outcome))
         lines += u"    PROBLEM   "_s + problem;
     for (const QString& line : lines)

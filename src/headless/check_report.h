@@ -1,7 +1,7 @@
 #pragma once
 
 #include "headless/batch_report.h"
-#include "headless/check_facts.h"
+#include "run/check_facts.h"
 
 /// --check: a few lines for each video on standard output, with every problem that can be known before the run.
 class Check_Report : public Batch_Report

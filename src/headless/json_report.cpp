@@ -84,7 +84,8 @@ void Json_Report::Print_Check(const File_Outcome& outcome)
                        {"tracks", Texts(facts_.Tracks)},
                        {"added", Texts(facts_.Added)},
                        {"chapters", Text(facts_.Chapters)},
-                       {"problems", Texts(Problems_Of(outcome))}});
+                       {"problems", Texts(Problems_Of(outcome))},
+                       {"replaces", Texts(outcome.Replaces)}});
 }
 
 void Json_Report::File_Finished(const File_Outcome& outcome)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "headless/batch_report.h"
-#include "headless/check_facts.h"
+#include "run/check_facts.h"
 
 /// One JSON object a line on standard output; the first key of each is "event".
 class Json_Report : public Batch_Report

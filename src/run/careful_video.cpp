@@ -52,7 +52,7 @@ File_Outcome Run_Careful_Video(Careful_Walk& walk, const Folder_Entry& entry)
     try {
         Take_All_Steps(work, entry);
     } catch (const Run_Time_Error& error) {
-        Fail(work, error.Message());
+        Fail(work, error.In_One_Line());
     } catch (const std::bad_alloc&) {
         Fail(work, u"the memory did not suffice"_s);
     } catch (const std::exception& error) {

@@ -4,6 +4,7 @@
 #include "command/command_frame.h"
 #include "command/source_names.h"
 #include "command/split_command.h"
+#include "inspect/chapter_check.h"
 #include "inspect/json_probe.h"
 #include "run/careful_walk.h"
 #include "run/habits.h"
@@ -48,6 +49,7 @@ bool Choose_Output(Video_Work& work)
         Choose_Name(walk.Before, name, work.Split, program.Settings.Extensions.If_The_Output_Exists, walk.Claims);
     if (!work.Names.Skip_Reason.isEmpty())
         return Give_Up(work, File_Outcome::Kind::Skipped, work.Names.Skip_Reason);
+    work.Outcome.Replaces = work.Names.Old;
     const QString& chosen = work.Names.Name;
     if (const auto first = walk.Claims.constFind(chosen); first != walk.Claims.constEnd())
         return Fail(work, u"its output would be \"%1\", as that of \"%2\""_s.arg(chosen, first.value()));
@@ -73,6 +75,16 @@ bool Inspect(Video_Work& work)
     return true;
 }
 
+/// What is amiss with what lies beside the video. Only a dry run gets here with more than unread files.
+static QStringList Problems_Beside(Program& program)
+{
+    QStringList problems = program.Media.Unread_Files + program.Run.Video.Problems;
+    if (program.Run.Dry_Run)
+        if (const QString refused = Why_Chapters_Are_Refused(program); !refused.isEmpty())
+            problems += refused;
+    return problems;
+}
+
 bool Assemble(Video_Work& work)
 {
     Program& program = work.Walk.Prog;
@@ -91,8 +103,10 @@ bool Assemble(Video_Work& work)
     }
     if (program.Run.Halt_Requested)
         return Halted(work);
-    if (!program.Media.Unread_Files.isEmpty())
-        return Fail(work, program.Media.Unread_Files.constFirst());
+    if (const QStringList problems = Problems_Beside(program); !problems.isEmpty()) {
+        work.Outcome.Warnings += problems.mid(1);
+        return Fail(work, problems.constFirst());
+    }
     work.Asked = Asked_Of(program.Run.Mkvmerge_Arguments, program.Media.FileInfoList);
     if (work.Asked.Inputs.size() == 1 && work.Asked.Inputs.front().Tracks.isEmpty())
         return Fail(work, u"no track is left for the output"_s);

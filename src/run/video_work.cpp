@@ -56,7 +56,7 @@ QString With_Final_Names(const Video_Work& work, QString line)
     if (line.contains(work.Walk.Working.Path())) {
         // Without the extension: ahead of it a piece has its number.
         line.replace(Working_Output(work).chopped(4), As_One_Line(work.Outcome.Output.chopped(4)));
-        line.replace(Working_Chapters(work), As_One_Line(program.Companions.Chapter_File));
+        line.replace(Working_Chapters(work), As_One_Line(program.Run.Video.Chapter_Text));
     }
     return line;
 }

@@ -20,6 +20,8 @@ struct Run_Choice
 struct Careful_Video
 {
     QByteArray Chapter_Xml; ///< the chapters that were made of a text, for a file of our own; empty: none were
+    QString Chapter_Text;   ///< the path of that text
+    QStringList Problems;   ///< of the files beside it, in words: a dry run goes on past them, to find all of them
 };
 
 /// The state of a run. Never reset as a whole: what a run doesn't clear lives on into the next.

@@ -1,5 +1,6 @@
 #include "support/run_time_error.h"
 
+#include <QStringList>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -40,9 +41,28 @@ Run_Time_Error::Run_Time_Error(Error_Number number, QString doing, QString subje
       advice_(std::move(advice)), what_(Message().toUtf8())
 {}
 
+/// Of a text at fault no more is shown.
+static constexpr qsizetype Longest_Text_At_Fault = 200;
+
+QString Run_Time_Error::In_One_Line() const
+{
+    QStringList parts;
+    for (const QString& part : {doing_, subject_})
+        if (!part.isEmpty())
+            parts += part;
+    QString line = parts.join(u": "_s);
+    // Where the advice has the system's words they say it better.
+    if (line.isEmpty() || (text_.isEmpty() && advice_.isEmpty()))
+        line += (line.isEmpty() ? u""_s : u" - "_s) + Error_Words(number_);
+    if (!text_.isEmpty())
+        line += u" - the text at fault: \""_s + text_.left(Longest_Text_At_Fault) + u'"';
+    if (!advice_.isEmpty())
+        line += u" - "_s + advice_;
+    return line.simplified();
+}
+
 QString Run_Time_Error::Message() const
 {
-    constexpr qsizetype longest_text = 200;
     QString message = u"Run-time error '%1': "_s.arg(static_cast<int>(number_)) + Error_Words(number_);
     QString place = doing_;
     if (!subject_.isEmpty())
@@ -50,7 +70,7 @@ QString Run_Time_Error::Message() const
     if (!place.isEmpty())
         message += u'\n' + place;
     if (!text_.isEmpty())
-        message += u"\nThe text at fault: \""_s + text_.left(longest_text) + u'"';
+        message += u"\nThe text at fault: \""_s + text_.left(Longest_Text_At_Fault) + u'"';
     if (!advice_.isEmpty())
         message += u'\n' + advice_;
     return message;

@@ -40,6 +40,10 @@ class Run_Time_Error : public std::exception
     /// at fault (cut at 200 characters), and the advice, a line each; empty pieces are left out.
     QString Message() const;
 
+    /// The same for a list of results: "doing: subject - the text at fault: "..." - advice", without number or line
+    /// break.
+    QString In_One_Line() const;
+
     const char* what() const noexcept override { return what_.constData(); }
 
   private:

@@ -95,6 +95,42 @@ TEST(Vantorra_Batch, ADryRunWritesNothingAtAll)
     EXPECT_EQ(batch.Tree(), before);
 }
 
+TEST(Vantorra_Batch, ACheckTellsEveryProblemAndWritesNothing)
+{
+    Batch_Process batch;
+    for (const QString& name : {u"bad"_s, u"old"_s, u"text"_s, u"xml"_s})
+        Place(batch, Short_Video(), u"videos/"_s + name + u".mkv"_s);
+    batch.Write(u"videos/bad.srt"_s, "1\n00:00:00,000 --> 00:00:00,200\nHello\n");
+    batch.Write(u"videos/bad.srt.opt"_s, "Language=\n");
+    batch.Write(u"videos/bad_Chapters.txt"_s, "00:00:00.000 A<B\n");
+    batch.Write(u"videos/text_Chapters.txt"_s, "nought begin\n");
+    batch.Write(u"videos/xml_Chapters.xml"_s, "<Chapters><Edition");
+    batch.Write(u"target/old.mkv"_s, "old");
+    const QStringList before = batch.Tree();
+
+    const QStringList look = {u"--json"_s, u"--check"_s, u"--careful"_s};
+    Batch_Result result =
+        batch.Run(look + QStringList{u"--tick"_s, u"AddSubs"_s, u"--tick"_s, u"UseSubOpts"_s, u"--tick"_s,
+                                     u"ReplaceChapters"_s, u"--tick"_s, u"ConvertTXT"_s});
+    EXPECT_EQ(result.Exit, 2);
+    QStringList problems;
+    for (const QJsonObject& check : result.Events(u"check"_s))
+        problems += check[u"problems"_s].toVariant().toStringList();
+    ASSERT_EQ(problems.size(), 4) << problems.join(u'\n').toStdString();
+    const QString told[] = {u"bad.srt.opt"_s, u"bad_Chapters.txt"_s, u"text_Chapters.txt"_s, u"xml_Chapters.xml"_s};
+    for (qsizetype i = 0; i < problems.size(); ++i)
+        EXPECT_TRUE(problems[i].contains(told[i])) << problems[i].toStdString();
+
+    result = batch.Run(look);
+    EXPECT_EQ(result.Exit, 0) << "what goes to the trash is no problem";
+    EXPECT_EQ(result.Events(u"check"_s)[1][u"replaces"_s].toVariant().toStringList(), QStringList{u"old.mkv"_s});
+    result = batch.Run({u"--check"_s, u"--careful"_s, u"--set"_s, u"Extensions/If The Output Exists=Skip"_s});
+    EXPECT_EQ(result.Exit, 0);
+    EXPECT_TRUE(result.Out.contains(u"skipped   The output is there already"_s)) << result.Out.toStdString();
+    EXPECT_EQ(batch.Run({u"--check"_s, u"--classic"_s}).Exit, 2) << "what would be overwritten is one";
+    EXPECT_EQ(batch.Tree(), before);
+}
+
 TEST(Vantorra_Batch, WhatADryRunPrintsIsWhatAShellCanRun)
 {
     Batch_Process batch;

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class Command_Line;
+struct File_Outcome;
 struct Program;
 
 /// What would come of a video, in words.
@@ -16,3 +17,7 @@ struct Check_Facts
 
 /// Of the video whose command was just assembled.
 Check_Facts Check_Facts_Of(const Program& program, const Command_Line& command);
+
+/// What is wrong with a video that a dry run looked at, in words; empty: nothing is known. That it would be left alone
+/// is no problem, nor is an output that a careful batch would move to the trash for the new one.
+QStringList Problems_Of(const File_Outcome& outcome);

@@ -1,7 +1,8 @@
-#include "headless/check_facts.h"
+#include "run/check_facts.h"
 
 #include "inspect/output_check.h"
 #include "state/program.h"
+#include "state/run_listener.h"
 #include "support/paths.h"
 
 using namespace Qt::StringLiterals;
@@ -28,4 +29,14 @@ Check_Facts Check_Facts_Of(const Program& program, const Command_Line& command)
     else if (!asked.Inputs.empty() && asked.Inputs.front().No_Chapters)
         facts.Chapters = u"removed"_s;
     return facts;
+}
+
+QStringList Problems_Of(const File_Outcome& outcome)
+{
+    QStringList problems;
+    if (outcome.Status == File_Outcome::Kind::Failed)
+        problems += outcome.Reason.isEmpty() ? u"it can't be processed"_s : outcome.Reason;
+    else if (outcome.Status == File_Outcome::Kind::Not_Run && outcome.Replaces.isEmpty() && File_Exists(outcome.Output))
+        problems += u"the output exists already and would be overwritten"_s;
+    return problems + outcome.Warnings;
 }
