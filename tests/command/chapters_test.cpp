@@ -71,16 +71,9 @@ TEST(Chapter_Text, AnEditionNumberHasTwelveDigitsFromEndToEndOfTheRange)
 
 TEST_F(Chapters, TextIsReadInItsOwnStyle)
 {
-    struct Claim
-    {
-        QString Suffix;
-        QByteArray Text;
-        QStringList Atoms;
-    };
-
     const QByteArray ogg = "CHAPTER01=00:00:00.000\r\nCHAPTER01NAME=Intro\r\n\r\n"
                            "chapter12=00:10:00.000\nCHAPTER12NAME=\nCHAPTER13=00:20:00.000\nX=a=b\n";
-    const Claim claims[] = {
+    const std::tuple<QString, QByteArray, QStringList> claims[] = {
         {u"ogg"_s,
          ogg,
          {u"1|00:00:00.000|00:10:00.000|Intro"_s, u"12|00:10:00.000|00:20:00.000|Chapter 2"_s,
@@ -105,24 +98,17 @@ TEST_F(Chapters, TextIsReadInItsOwnStyle)
          "1 \xc3\x9c \"&<\r2 x",
          {u"1|1|2| Ü \"&<"_s, u"2|2|01:30:00.5| x"_s}},
     };
-    for (const Claim& claim : claims) {
-        const QString path = Write(u"videos/Movie_Chapters."_s + claim.Suffix, claim.Text);
+    for (const auto& [suffix, text, atoms] : claims) {
+        const QString path = Write(u"videos/Movie_Chapters."_s + suffix, text);
         EXPECT_EQ(Find(), u"Movie_Chapters.xml"_s);
-        EXPECT_EQ(Atoms(), claim.Atoms) << claim.Text.toStdString();
+        EXPECT_EQ(Atoms(), atoms) << text.toStdString();
         QFile::remove(path);
     }
 }
 
 TEST_F(Chapters, BadTextIsAnErrorThatNamesTheFileAndKeepsTheOldXml)
 {
-    struct Claim
-    {
-        QString Suffix;
-        QByteArray Text;
-        Error_Number Number;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QByteArray, Error_Number> claims[] = {
         {u"ogg"_s, "CHAPTER01=0\nCHAPTER01NAME=a\nCHAPTER02=1\n", Error_Number::Subscript_Out_Of_Range},
         {u"ogm"_s, "CHAPTER01=0\nno sign\n", Error_Number::Subscript_Out_Of_Range},
         {u"ogg"_s, "CHAPTER01=0\nN=a\nno sign\nN=b\n", Error_Number::Subscript_Out_Of_Range},
@@ -132,13 +118,13 @@ TEST_F(Chapters, BadTextIsAnErrorThatNamesTheFileAndKeepsTheOldXml)
         {u"txt"_s, "CHAPTER01=0\nN=a\nCHAPTER02=1\n", Error_Number::Subscript_Out_Of_Range},
     };
     Write(u"videos/Movie_Chapters.xml"_s, "old");
-    for (const Claim& claim : claims) {
-        const QString path = Write(u"videos/Movie_Chapters."_s + claim.Suffix, claim.Text);
+    for (const auto& [suffix, text, number] : claims) {
+        const QString path = Write(u"videos/Movie_Chapters."_s + suffix, text);
         try {
             Find();
-            ADD_FAILURE() << claim.Text.toStdString();
+            ADD_FAILURE() << text.toStdString();
         } catch (const Run_Time_Error& error) {
-            EXPECT_EQ(error.Number(), claim.Number) << claim.Text.toStdString();
+            EXPECT_EQ(error.Number(), number) << text.toStdString();
             EXPECT_TRUE(error.Message().contains(path));
         }
         EXPECT_EQ(Xml(), u"old"_s);

@@ -77,13 +77,7 @@ TEST(CommandFrame, AStreamTextMadeToSmuggleOptionsStaysInItsArguments)
 
 TEST(TrackOrder, PiecesAreJoinedAndTheirCommasCollapsed)
 {
-    struct Claim
-    {
-        QStringList Pieces;
-        QString Text;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QStringList, QString> claims[] = {
         {{u"0:0,"_s, u""_s, u"0:1,"_s, u""_s, u"0:2,"_s, u""_s}, u"0:0,0:1,0:2"_s},
         {{u"0:0,"_s, u",1:0,"_s, u"0:1,"_s, u",2:0,3:0"_s, u""_s, u",4:0"_s}, u"0:0,1:0,0:1,2:0,3:0,4:0"_s},
         {{u"0:0,"_s, u""_s, u""_s, u",1:0"_s, u""_s, u""_s}, u"0:0,1:0"_s},
@@ -91,6 +85,6 @@ TEST(TrackOrder, PiecesAreJoinedAndTheirCommasCollapsed)
         {{u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}, u""_s},
         {{u"0:0,"_s, u""_s, u""_s}, u"0:0"_s},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Join_Order(claim.Pieces), claim.Text) << claim.Pieces.join(u'|').toStdString();
+    for (const auto& [pieces, text] : claims)
+        EXPECT_EQ(Join_Order(pieces), text) << pieces.join(u'|').toStdString();
 }

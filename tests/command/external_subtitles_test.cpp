@@ -162,14 +162,7 @@ TEST_F(External_Subtitles, AnIdLineWithoutAColonInItsFirstPieceIsAnErrorThatName
 
 TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
 {
-    struct Claim
-    {
-        QStringList Names;
-        QStringList Added;
-        QString Order;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QStringList, QStringList, QString> claims[] = {
         {{u"Movie.srt"_s, u"The Movie.srt"_s}, {u"Movie.srt"_s, u"The Movie.srt"_s}, u",3:0,4:0"_s},
         {{u"The Movie.srt"_s, u"MOVIE.srt"_s, u"x.ass"_s}, {u"The Movie.srt"_s, u"x.ass"_s}, u",3:0,5:0"_s},
         {{u"Movie.en.srt"_s, u"Movie.srt"_s}, {u"Movie.en.srt"_s, u"Movie.srt"_s}, u",3:0,4:0"_s},
@@ -177,15 +170,15 @@ TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
         {{u"m.srt"_s, u"m.srt.ass"_s, u"ssm.srt"_s}, {u"m.srt"_s, u"m.srt.ass"_s, u"ssm.srt"_s}, u",3:0,4:0,5:0"_s},
         {{u"a.str"_s, u"m.srt"_s, u"trm.srt"_s}, {u"a.str"_s, u"m.srt"_s}, u",3:0,4:0"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [given, added, order] : claims) {
         List.clear();
-        for (const QString& name : claim.Names)
+        for (const QString& name : given)
             List.push_back(Named(name, static_cast<int>(List.size())));
         QString expected;
-        for (const QString& name : claim.Added)
+        for (const QString& name : added)
             expected += u" --language 0:und ( "_s + (name.contains(u' ') ? u'"' + name + u'"' : name) + u" )"_s;
         EXPECT_EQ(Command(), expected);
-        EXPECT_EQ(Order, claim.Order);
+        EXPECT_EQ(Order, order);
     }
     List = {Named(u"m.idx"_s, 0)};
     List.front().IsIdxPair = true;

@@ -30,20 +30,12 @@ static QString Text_Of(const Tracks_Argument& argument)
 
 TEST(SourceTracks, EachFilterModeKeepsItsTracksOfBothKinds)
 {
-    struct Claim
-    {
-        int Mode;
-        QString Filter;
-        bool Keep_English;
-        std::vector<Track> Tracks;
-        QString Kept; ///< "all", "none" or the list
-    };
-
+    // "all", "none" or the list
     const std::vector<Track> three = {{u"eng"_s, {}}, {u"ger"_s, {}}, {u"und"_s, {}}};
     const std::vector<Track> titled = {
         {u"ger"_s, u"English dub"_s}, {u"ger"_s, u"Commentary (eng)"_s}, {u"ger"_s, u" 5.1  ENG"_s}};
     const QString german = u"German (ger):French (fre)"_s;
-    const Claim claims[] = {
+    const std::tuple<int, QString, bool, std::vector<Track>, QString> claims[] = {
         {0, german, false, three, u"all"_s},
         {1, german, false, three, u"none"_s},
         {1, {}, false, {}, u"all"_s},
@@ -61,26 +53,24 @@ TEST(SourceTracks, EachFilterModeKeepsItsTracksOfBothKinds)
         {4, u"English (eng):German (ger):Undetermined (und)"_s, false, three, u"all"_s},
         {3, u"Undetermined (und)"_s, false, {{u"???"_s, {}}, {u"und"_s, {}}}, u"1"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [mode, filter, keep_english, tracks, wanted] : claims) {
         JobOptions options;
-        options.AudioFilterMode = options.SubsFilterMode = static_cast<std::int16_t>(claim.Mode);
-        options.AudioFilter.Languages = options.SubsFilter.Languages = claim.Filter;
-        options.Keep_English_Audio = options.Keep_English_Subs = claim.Keep_English;
-        FileInfoList audio = Streams_Of(u"audio"_s, claim.Tracks);
-        FileInfoList subtitles = Streams_Of(u"subtitle"_s, claim.Tracks);
+        options.AudioFilterMode = options.SubsFilterMode = static_cast<std::int16_t>(mode);
+        options.AudioFilter.Languages = options.SubsFilter.Languages = filter;
+        options.Keep_English_Audio = options.Keep_English_Subs = keep_english;
+        FileInfoList audio = Streams_Of(u"audio"_s, tracks);
+        FileInfoList subtitles = Streams_Of(u"subtitle"_s, tracks);
         const QString audio_text = Text_Of(Select_Source_Audio(audio, options, {}));
         const QString subtitle_text = Text_Of(Select_Source_Subtitles(subtitles, options, {}));
-        const bool all = claim.Kept == "all"_L1;
-        const bool none = claim.Kept == "none"_L1;
-        EXPECT_EQ(audio_text, all ? u""_s : none ? u" --no-audio"_s : u" --audio-tracks "_s + claim.Kept);
-        EXPECT_EQ(subtitle_text, all ? u""_s : none ? u" --no-subtitles"_s : u" --subtitle-tracks "_s + claim.Kept);
+        const bool all = wanted == "all"_L1;
+        const bool none = wanted == "none"_L1;
+        EXPECT_EQ(audio_text, all ? u""_s : none ? u" --no-audio"_s : u" --audio-tracks "_s + wanted);
+        EXPECT_EQ(subtitle_text, all ? u""_s : none ? u" --no-subtitles"_s : u" --subtitle-tracks "_s + wanted);
         QStringList kept;
         for (const FileInfo& stream : audio)
             if (stream.StreamType == "audio"_L1)
                 kept += stream.Index;
-        EXPECT_EQ(kept.size(), all    ? static_cast<qsizetype>(claim.Tracks.size())
-                               : none ? 0
-                                      : claim.Kept.count(u',') + 1);
+        EXPECT_EQ(kept.size(), all ? static_cast<qsizetype>(tracks.size()) : none ? 0 : wanted.count(u',') + 1);
         EXPECT_EQ(audio[1].StreamType, u"video"_s);
         EXPECT_TRUE(Select_Source_Subtitles(audio, options, {}).Option.isEmpty()) << "audio is no subtitle";
     }
@@ -88,15 +78,7 @@ TEST(SourceTracks, EachFilterModeKeepsItsTracksOfBothKinds)
 
 TEST(SourceTracks, AudioStatesBothFlagsUnlessAnExternalFileIsTheDefault)
 {
-    struct Claim
-    {
-        FileInfo Track;
-        bool Strip, Claimed;
-        int Delay_Box;
-        QString Delay, Text;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<FileInfo, bool, bool, int, QString, QString> claims[] = {
         {Stream(u"audio"_s, u"1"_s, u"eng"_s, {}, u"1"_s, u"1"_s), false, false, 0, u"50"_s,
          u" --language 1:eng --default-track 1:yes --forced-track 1:yes"_s},
         {Stream(u"audio"_s, u"1"_s, u"???"_s, u"A B"_s, u""_s, u"2"_s), false, false, 1, u"-50"_s,
@@ -110,28 +92,20 @@ TEST(SourceTracks, AudioStatesBothFlagsUnlessAnExternalFileIsTheDefault)
          {},
          u" --language 1:eng --track-name 1:A\\sB"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [track, strip, claimed, delay_box, delay, text] : claims) {
         JobOptions options;
-        options.chk_AudioDelayAdjust.Value = claim.Delay_Box;
-        options.Audio_Delay = claim.Delay;
-        FileInfoList streams = {Stream(u"video"_s, u"0"_s), claim.Track};
+        options.chk_AudioDelayAdjust.Value = delay_box;
+        options.Audio_Delay = delay;
+        FileInfoList streams = {Stream(u"video"_s, u"0"_s), track};
         Command_Line command;
-        Append_Source_Audio(command, streams, options, claim.Strip, claim.Claimed);
-        EXPECT_EQ(command.Text(), claim.Text);
+        Append_Source_Audio(command, streams, options, strip, claimed);
+        EXPECT_EQ(command.Text(), text);
     }
 }
 
 TEST(SourceTracks, SubtitlesSayOnlyWhatIsKnownUnlessTheBoxesSayItForAll)
 {
-    struct Claim
-    {
-        FileInfo Track;
-        bool Strip;
-        int Boxes;
-        QString Text;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<FileInfo, bool, int, QString> claims[] = {
         {Stream(u"subtitle"_s, u"2"_s, u"eng"_s, {}, u"1"_s, u"0"_s), false, 0,
          u" --language 2:eng --default-track 2:yes --forced-track 2:no"_s},
         {Stream(u"subtitle"_s, u"2"_s, u"???"_s, u"A\\sB"_s, u""_s, u"7"_s), false, 0,
@@ -141,14 +115,14 @@ TEST(SourceTracks, SubtitlesSayOnlyWhatIsKnownUnlessTheBoxesSayItForAll)
         {Stream(u"subtitle"_s, u"2"_s, u"eng"_s, {}, u"1"_s, u""_s), false, 2,
          u" --language 2:eng --default-track 2:yes"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [track, strip, boxes, text] : claims) {
         JobOptions options;
-        options.chk_SubDefaults.Value = options.chk_SubForces.Value = claim.Boxes;
+        options.chk_SubDefaults.Value = options.chk_SubForces.Value = boxes;
         options.chk_SubForces.Tag = u"yes"_s;
-        FileInfoList streams = {claim.Track};
+        FileInfoList streams = {track};
         Command_Line command;
-        Append_Source_Subtitles(command, streams, options, claim.Strip);
-        EXPECT_EQ(command.Text(), claim.Text);
+        Append_Source_Subtitles(command, streams, options, strip);
+        EXPECT_EQ(command.Text(), text);
     }
 }
 

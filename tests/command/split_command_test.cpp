@@ -21,12 +21,7 @@ TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
     options.AudioFilterMode = 1;
     options.chk_RemoveAllTags.Value = options.chk_RemoveFileTitle.Value = options.chk_AddSubs.Value = 1;
 
-    struct Claim
-    {
-        QString Path, Streams, Text;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString, QString> claims[] = {
         {u"/in/Movie.avi"_s, Split_Video + Split_Audio + Split_Subtitle,
          u" --ui-language en_US --output /out/Movie.mkv --language 0:??? --language 1:und ( /in/Movie.avi )"
          " --split duration:1800s --track-order 0:0,0:1"_s},
@@ -36,12 +31,12 @@ TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
         {u"/in/Movie.MKV"_s, Split_Subtitle,
          u" --ui-language en_US --output /out/MKV.mkv ( /in/Movie.MKV ) --split duration:1800s"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [path, streams, text] : claims) {
         test.Prog.Logs.Log_Faults.Clear();
-        test.Prog.Media.FFProbe_Output = u"format|filename=x\r\n"_s + claim.Streams;
-        EXPECT_EQ(Split_Video_Mod(test.Prog, u"/out/"_s, u"/in/"_s, claim.Path), 1);
-        EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), claim.Text);
-        EXPECT_EQ(test.Faults(), QStringList(u"-- Processing video file - \""_s + claim.Path + u'"'));
+        test.Prog.Media.FFProbe_Output = u"format|filename=x\r\n"_s + streams;
+        EXPECT_EQ(Split_Video_Mod(test.Prog, u"/out/"_s, u"/in/"_s, path), 1);
+        EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), text);
+        EXPECT_EQ(test.Faults(), QStringList(u"-- Processing video file - \""_s + path + u'"'));
     }
 }
 

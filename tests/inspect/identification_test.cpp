@@ -13,14 +13,7 @@ namespace {
 
 TEST(Identification, CodecPrivateValuesAreMaskedAndEscapesUndoneInThatOrder)
 {
-    struct Case
-    {
-        const char* What;
-        QString Line;
-        QString Shown;
-    };
-
-    const Case cases[] = {
+    const std::tuple<const char*, QString, QString> cases[] = {
         {"a further item stays", u"Track [codec_private_data:0a\\s0b language:eng]"_s,
          u"Track [ codec_private_data:XX language:eng]"_s},
         {"both marks", u"T [a:1 codec_private_length:4 codec_private_data:00 b:2]"_s,
@@ -33,21 +26,14 @@ TEST(Identification, CodecPrivateValuesAreMaskedAndEscapesUndoneInThatOrder)
         {"escapes", u"title:a\\sb\\cc\\\\s"_s, u"title:a b:c\\ "_s},
         {"escapes are case-sensitive", u"\\S\\C"_s, u"\\S\\C"_s},
     };
-    for (const Case& one : cases) {
-        EXPECT_EQ(Identification_Lines(one.Line, false), QStringList{one.Shown}) << one.What;
-        EXPECT_EQ(Identification_Lines(one.Line, true), QStringList{one.Line}) << one.What;
+    for (const auto& [what, line, shown] : cases) {
+        EXPECT_EQ(Identification_Lines(line, false), QStringList{shown}) << what;
+        EXPECT_EQ(Identification_Lines(line, true), QStringList{line}) << what;
     }
 }
 
 TEST(Identification_Json, IsWrittenOutAsVerboseText)
 {
-    struct Case
-    {
-        const char* What;
-        const char* Json;
-        QStringList Lines;
-    };
-
     const QString head = u"File '/v/a b.mkv': container: Matroska"_s;
     const char* const known = R"("container":{"recognized":true,"supported":true,"type":"Matroska"})";
     const auto with = [known](const char* more) { return std::string("{") + known + "," + more + "}"; };
@@ -63,7 +49,7 @@ TEST(Identification_Json, IsWrittenOutAsVerboseText)
     const std::string nested(100000, '[');
     const std::string deep = with(
         ("\"tracks\":[{\"id\":0,\"properties\":{\"a\":" + nested + std::string(nested.size(), ']') + "}}]").c_str());
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, QStringList> cases[] = {
         {"messages first, then the content",
          R"({"warnings":["w 1\n","w\n2"],"errors":["e\n"],"container":{"recognized":true,"supported":true,"type":"X"}})",
          {u"Warning: w 1"_s, u"Warning: w 2"_s, u"Error: e"_s, u"File '/v/a b.mkv': container: X"_s}},
@@ -97,10 +83,10 @@ TEST(Identification_Json, IsWrittenOutAsVerboseText)
          {u"Error: mkvmerge's identification of '/v/a b.mkv' is no whole JSON."_s}},
         {"JSON of another kind", "[1]\r\n", {u"[1]"_s}},
     };
-    for (const Case& one : cases) {
-        QStringList lines = Verbose_Text_Of_Json(QString::fromUtf8(one.Json), u"/v/a b.mkv"_s).split(u"\r\n"_s);
-        EXPECT_EQ(lines.takeLast(), QString()) << one.What;
-        EXPECT_EQ(lines, one.Lines) << one.What;
+    for (const auto& [what, json, wanted] : cases) {
+        QStringList lines = Verbose_Text_Of_Json(QString::fromUtf8(json), u"/v/a b.mkv"_s).split(u"\r\n"_s);
+        EXPECT_EQ(lines.takeLast(), QString()) << what;
+        EXPECT_EQ(lines, wanted) << what;
     }
 }
 

@@ -104,13 +104,8 @@ TEST(StreamParser, EachKindOfStreamFillsItsOwnFields)
 
 TEST(StreamParser, OnlyStreamsOfKnownKindsMakeRecordsAndOnlyALastOneLeavesAnEmptySlot)
 {
-    struct Claim
-    {
-        QStringList Streams, Types;
-    };
-
     const QString picture = u"|disposition:attached_pic=1"_s;
-    const Claim claims[] = {
+    const std::tuple<QStringList, QStringList> claims[] = {
         {{}, {u"File_Info"_s}},
         {{Video, Data, Audio}, {u"File_Info"_s, u"video"_s, u"audio"_s}},
         {{Video, Data, Data, Subtitle}, {u"File_Info"_s, u"video"_s, u"subtitle"_s}},
@@ -121,18 +116,13 @@ TEST(StreamParser, OnlyStreamsOfKnownKindsMakeRecordsAndOnlyALastOneLeavesAnEmpt
         {{Video, Audio + u"|Attachment ID"_s}, {u"File_Info"_s, u"video"_s}},
         {{Video + u"|tag:title=file format"_s + u"|x=1"_s}, {u"File_Info"_s, u"File_Info"_s}},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Types_Of(Parsed(Output_Of(claim.Streams))), claim.Types) << claim.Streams.join(u'/').toStdString();
+    for (const auto& [streams, types] : claims)
+        EXPECT_EQ(Types_Of(Parsed(Output_Of(streams))), types) << streams.join(u'/').toStdString();
 }
 
 TEST(StreamParser, APipeInATitleSurvivesOnlyInAStreamAndOnlyBetweenBlanks)
 {
-    struct Claim
-    {
-        QString Printed, In_Stream, In_File;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString, QString> claims[] = {
         {u"A \\| B"_s, u"A | B"_s, u"A \\"_s},
         {u"A \\| B \\| C"_s, u"A | B | C"_s, u"A \\"_s},
         {u"A\\|B"_s, u"A\\"_s, u"A\\"_s},
@@ -142,11 +132,11 @@ TEST(StreamParser, APipeInATitleSurvivesOnlyInAStreamAndOnlyBetweenBlanks)
          u"She said \"hi\" --attach-file /etc/passwd"_s},
         {u"ends in a stream"_s, u"ends in a "_s, u"ends in a "_s},
     };
-    for (const Claim& claim : claims) {
-        const QString title = u"|tag:title="_s + claim.Printed + u"|tag:x=y"_s;
+    for (const auto& [printed, in_stream, in_file] : claims) {
+        const QString title = u"|tag:title="_s + printed + u"|tag:x=y"_s;
         const FileInfoList list = Parsed(Output_Of({Audio + title}, u"filename=x"_s + title));
-        EXPECT_EQ(list[0].Title, claim.In_File) << claim.Printed.toStdString();
-        EXPECT_EQ(list[1].Title, claim.In_Stream) << claim.Printed.toStdString();
+        EXPECT_EQ(list[0].Title, in_file) << printed.toStdString();
+        EXPECT_EQ(list[1].Title, in_stream) << printed.toStdString();
     }
     const FileInfoList last = Parsed(Output_Of({Audio + u"|tag:title= A \\| B "_s}));
     EXPECT_EQ(last[1].Title, u" A | B "_s) << "the last item isn't trimmed";
@@ -154,12 +144,7 @@ TEST(StreamParser, APipeInATitleSurvivesOnlyInAStreamAndOnlyBetweenBlanks)
 
 TEST(StreamParser, TheFirstOccurrenceOfAKeyWinsWhereverItStands)
 {
-    struct Claim
-    {
-        QString Text, Key, Value;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString, QString> claims[] = {
         {u"a=1|b=2"_s, u"a="_s, u"1"_s},
         {u"A=1|a=2"_s, u"a="_s, u"1"_s},
         {u"coded_width=1|width=2"_s, u"width="_s, u"1"_s},
@@ -171,10 +156,10 @@ TEST(StreamParser, TheFirstOccurrenceOfAKeyWinsWhereverItStands)
         {u"x=1"_s, u"y="_s, u"as it was"_s},
         {u"x= @@@ |y"_s, u"x="_s, u"|"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [text, key, wanted] : claims) {
         QString value = u"as it was"_s;
-        EXPECT_EQ(Get_Key_Value(claim.Text, claim.Key, value), 0);
-        EXPECT_EQ(value, claim.Value) << claim.Text.toStdString();
+        EXPECT_EQ(Get_Key_Value(text, key, value), 0);
+        EXPECT_EQ(value, wanted) << text.toStdString();
     }
 }
 
@@ -189,12 +174,7 @@ TEST(StreamParser, ALanguageInBracketsEndsTheProgramUnlessItIsTheLastItem)
 
 TEST(StreamParser, DurationsAreWrittenInSinglePrecisionWithTwoDigitsOfHours)
 {
-    struct Claim
-    {
-        QString Printed, Text;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString> claims[] = {
         {u"5400.1235"_s, u"01:30:00.1235352"_s},
         {u"3600.5"_s, u"01:00:00.5"_s},
         {u"59"_s, u"00:00:59"_s},
@@ -203,9 +183,9 @@ TEST(StreamParser, DurationsAreWrittenInSinglePrecisionWithTwoDigitsOfHours)
         {u"0.00001"_s, u"00:00:00E-05"_s},
         {u"16777217"_s, u"60:20:16"_s},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Format_Duration(u"format|filename=x|duration="_s + claim.Printed + u"|size=1"_s), claim.Text)
-            << claim.Printed.toStdString();
+    for (const auto& [printed, text] : claims)
+        EXPECT_EQ(Format_Duration(u"format|filename=x|duration="_s + printed + u"|size=1"_s), text)
+            << printed.toStdString();
 }
 
 TEST(StreamParser, ADurationThatIsNoNumberIsAnErrorThatNamesTheFile)

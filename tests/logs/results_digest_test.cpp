@@ -37,25 +37,18 @@ TEST(ResultsDigest, DeletionNotesFollowWhatMkvmergeSaidAndNothingElse)
 
 TEST(ResultsDigest, AFailureIsNoticedAtSixAndSevenOnlyAndNeverInTheBanner)
 {
-    struct Claim
-    {
-        int Verbosity;
-        QString Console;
-        bool Failed;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<int, QString, bool> claims[] = {
         {5, u"banner\r\nIt FAILED here"_s, false},
         {6, u"banner\r\nIt FAILED here"_s, true},
         {7, u"banner\r\nIt Failed here"_s, true},
         {6, u"failed banner\r\nall is well"_s, false},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [verbosity, console, failed] : claims) {
         Test_Program test;
-        test.Prog.Options.Log_Verbosity = static_cast<std::int16_t>(claim.Verbosity);
-        test.Prog.Logs.Log_Console.AppendLine(claim.Console);
+        test.Prog.Options.Log_Verbosity = static_cast<std::int16_t>(verbosity);
+        test.Prog.Logs.Log_Console.AppendLine(console);
         Digest_Results(test.Prog);
-        EXPECT_EQ(test.Prog.Run.Process_Failed, claim.Failed) << claim.Console.toStdString();
+        EXPECT_EQ(test.Prog.Run.Process_Failed, failed) << console.toStdString();
         Digest_Results(test.Prog);
         EXPECT_FALSE(test.Prog.Run.Process_Failed);
     }

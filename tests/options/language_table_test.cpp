@@ -20,12 +20,7 @@ static const LanguageTable& Table()
 
 TEST(LanguageTable, CodeOfATextFollowsItsFirstWordOnly)
 {
-    struct Claim
-    {
-        QString Text, Code;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString> claims[] = {
         {u"de"_s, u"ger"_s},
         {u"en"_s, u"eng"_s},
         {u"ger"_s, u"ger"_s},
@@ -46,8 +41,8 @@ TEST(LanguageTable, CodeOfATextFollowsItsFirstWordOnly)
         {u"german"_s, u""_s},
         {u"123"_s, u""_s},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Language_Code_Of(Table(), claim.Text), claim.Code) << claim.Text.toStdString();
+    for (const auto& [text, code] : claims)
+        EXPECT_EQ(Language_Code_Of(Table(), text), code) << text.toStdString();
     EXPECT_THROW(Language_Code_Of(Table(), u""_s), Run_Time_Error);
     EXPECT_THROW(Language_Code_Of(Table(), u")"_s), Run_Time_Error);
 }

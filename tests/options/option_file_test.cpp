@@ -30,13 +30,7 @@ struct Option_File : testing::Test, Test_Program
 
 TEST_F(Option_File, TheRunTakesKeysInAnyCaseAndRefusesAFileWithOneBadLine)
 {
-    struct Claim
-    {
-        QByteArray Text;
-        QString Values;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QByteArray, QString> claims[] = {
         {"Title=My Film\r\nLanguage=English (eng)\r\nDefault=yes\r\nForced=no\r\nDelay=-200\r\n",
          u"My Film|eng|yes|no|-200"_s},
         {"TITLE=x\ntitle=y\n", u"y||||"_s},
@@ -59,8 +53,8 @@ TEST_F(Option_File, TheRunTakesKeysInAnyCaseAndRefusesAFileWithOneBadLine)
         {"\xef\xbb\xbfTitle=marked\r\n", u"marked||||"_s},
         {QByteArray("\xff\xfeT\0i\0t\0l\0e\0=\0w\0\r\0\n\0", 20), u"w||||"_s},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Run_Reads(claim.Text), claim.Values) << claim.Text.toStdString();
+    for (const auto& [text, values] : claims)
+        EXPECT_EQ(Run_Reads(text), values) << text.toStdString();
 }
 
 TEST_F(Option_File, AMissingFileAndARelativePathGiveNothing)

@@ -24,15 +24,8 @@ struct FolderChanges : testing::Test, Test_Program
 
 TEST_F(FolderChanges, ADropYieldsTheFolderOfItsFirstItem)
 {
-    struct Claim
-    {
-        Drop_Data Data;
-        bool Allowed, Taken;
-        QString Path;
-    };
-
     Write(u"a b%20c/x.mkv"_s);
-    const Claim claims[] = {
+    const std::tuple<Drop_Data, bool, bool, QString> claims[] = {
         {Dropped(u"new"_s), true, true, Path(u"new/"_s)},
         {Dropped(u"new/"_s), true, true, Path(u"new/"_s)},
         {Dropped(u"new/film.mkv"_s), true, true, Path(u"new/"_s)},
@@ -45,10 +38,10 @@ TEST_F(FolderChanges, ADropYieldsTheFolderOfItsFirstItem)
         {Drop_Data_Of({QUrl(u"https://example.org/new"_s), QUrl::fromLocalFile(Path(u"new"_s))}), true, true, u""_s},
         {Drop_Data_Of({}), true, false, u""_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [data, allowed, taken, folder] : claims) {
         QString path = u"before"_s;
-        EXPECT_EQ(Drop_Folder(claim.Data, claim.Allowed, path), claim.Taken);
-        EXPECT_EQ(path, claim.Path);
+        EXPECT_EQ(Drop_Folder(data, allowed, path), taken);
+        EXPECT_EQ(path, folder);
     }
 }
 

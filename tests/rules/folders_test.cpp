@@ -25,16 +25,10 @@ TEST_F(Folders, ATargetThatIsTheSourceIsEmptiedHoweverItIsWritten)
 
 TEST_F(Folders, PathErrorsShowTheirOwnWordsAndClearTheCode)
 {
-    struct Claim
-    {
-        int Code;
-        QString Title, Text;
-    };
-
     const QString processing =
         u",\r\nthis program experienced an error.\r\n \r\nThe selected path cannot be found.\r\n"_s;
     const QString simple = u"\r\nTo simplify this programs function, it is not allowed.\r\n"_s;
-    const Claim claims[] = {
+    const std::tuple<int, QString, QString> claims[] = {
         {1, u"Error #1 - A Source Path cannot be a Destination Path"_s,
          u"The Target path can not be the same as the Video Files Path."_s + simple},
         {25, u"Error #25 - ffprobe.exe and mkvmerge.exe paths not set"_s,
@@ -46,14 +40,14 @@ TEST_F(Folders, PathErrorsShowTheirOwnWordsAndClearTheCode)
          " \r\nNOTE: The filename may contain non-displayed unicode characters. Change the filename and try "
          "again.\r\n"_s},
     };
-    for (const Claim& claim : claims) {
-        int code = claim.Code;
+    for (const auto& [number, title, text] : claims) {
+        int code = number;
         Show_Path_Error(Prog, code);
         ASSERT_FALSE(Person.Messages.empty());
-        EXPECT_EQ(Person.Messages.back().Title, claim.Title);
-        EXPECT_EQ(Person.Messages.back().Text, claim.Text);
+        EXPECT_EQ(Person.Messages.back().Title, title);
+        EXPECT_EQ(Person.Messages.back().Text, text);
         EXPECT_EQ(Person.Messages.back().Icon, Message_Icon::Exclamation);
-        EXPECT_EQ(Person.Messages.back().Code, claim.Code);
+        EXPECT_EQ(Person.Messages.back().Code, number);
         EXPECT_EQ(code, 0);
     }
     Person.Messages.clear();

@@ -43,14 +43,7 @@ TEST_F(RecentFolders, GoneFoldersComeInEmptyAndTwoColonsKeepOneOut)
 
 TEST_F(RecentFolders, TheWriterDropsEmptyItemsAndThoseWithinAnEarlierText)
 {
-    struct Claim
-    {
-        QString Path;
-        QStringList List;
-        QString Value;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QStringList, QString> claims[] = {
         {u""_s, {u"/a/"_s}, u"NONE"_s},
         {u"/a/"_s, {}, u"/a/"_s},
         {u"/a/"_s, {u"/b/"_s, u""_s, u"/c/"_s}, u"/a/;/b/;/c/"_s},
@@ -63,8 +56,8 @@ TEST_F(RecentFolders, TheWriterDropsEmptyItemsAndThoseWithinAnEarlierText)
          {u"/"_s + QString(2040, u'x') + u"/"_s, u"/"_s + QString(2041, u'x') + u"/"_s, u"/b/"_s},
          u"/a/;/"_s + QString(2040, u'x') + u"/"_s},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Recent_Folders_Value(claim.Path, claim.List), claim.Value) << claim.Path.toStdString();
+    for (const auto& [path, list, value] : claims)
+        EXPECT_EQ(Recent_Folders_Value(path, list), value) << path.toStdString();
 }
 
 TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)

@@ -70,11 +70,7 @@ struct Driver_Test : Test_Program
 
 TEST(Run_Driver, OnlyAPlainLeftReleaseOnTheButtonStartsARun)
 {
-    const struct
-    {
-        Mouse_Release Release;
-        bool Focus_Parked;
-    } cases[] = {
+    const std::tuple<Mouse_Release, bool> cases[] = {
         {{.X = -1, .Y = 5, .Width = 10, .Height = 10}, true},
         {{.X = 5, .Y = -1, .Width = 10, .Height = 10}, true},
         {{.X = 11, .Y = 5, .Width = 10, .Height = 10}, true},
@@ -124,12 +120,7 @@ TEST(Run_Driver, APressWhileThePressBeforeIsAtWorkHasNoEffect)
 
 TEST(Run_Driver, MissingFoldersAndVideosAreRefusedWithOneLineInTheLog)
 {
-    const struct
-    {
-        QString Videos;
-        QString Target;
-        QString Line;
-    } cases[] = {
+    const std::tuple<QString, QString, QString> cases[] = {
         {u"none/"_s, u"none/"_s, u"        -- The Video path and the Target path do not exist!"_s},
         {QString(), u"target/"_s, u"        -- The Video path does not exist!"_s},
         {u"videos/"_s, u"none/"_s, u"        -- The Target path does not exist!"_s},
@@ -279,11 +270,7 @@ TEST(Run_Driver, TheHaltKeyWorksOnceAndOnlyWhileARunGoesOn)
 
 TEST(Run_Driver, ThreeOptionsAreSampledAtThePress)
 {
-    const struct
-    {
-        Check_Box Box;
-        bool Sampled;
-    } cases[] = {
+    const std::tuple<Check_Box, bool> cases[] = {
         {{.Value = 1, .Enabled = true, .Caption = {}, .Tag = {}}, true},
         {{.Value = 1, .Enabled = false, .Caption = {}, .Tag = {}}, false},
         {{.Value = 0, .Enabled = true, .Caption = {}, .Tag = {}}, false},

@@ -322,38 +322,33 @@ TEST_F(VideoBatch, AnOutputThatIsAnotherVideoOfTheFolderIsNotWritten)
 
 TEST_F(VideoBatch, AnOutputWithANameOutsideOfTheTargetIsNotWrittenThrough)
 {
-    struct Claim
-    {
-        const char* What;
-        std::function<bool(const QString& output, const QString& elsewhere)> Make;
-        bool Written;
-    };
-
     const auto link = [](const QString& to, const QString& name) { return QFile::link(to, name); };
-    const Claim claims[] = {
-        {"link out", [&](auto& output, auto& elsewhere) { return link(elsewhere, output); }, false},
-        {"link out by steps",
-         [&](auto& output, auto&) {
-             return link(u"step"_s, output) && link(u"../elsewhere/old.mkv"_s, Test.Path(u"target/step"_s));
-         },
-         false},
-        {"link to nothing out", [&](auto& output, auto& elsewhere) { return link(elsewhere + u"2"_s, output); }, false},
-        {"link to itself", [&](auto& output, auto&) { return link(output, output); }, false},
-        {"link within", [&](auto& output, auto&) { return link(Test.Write(u"target/b.mkv"_s), output); }, true},
-        {"hard link out", [](auto& output, auto& elsewhere) { return Link(elsewhere, output, false); }, false},
-        {"hard link within", [&](auto& output, auto&) { return Link(Test.Write(u"target/c.mkv"_s), output, false); },
-         true},
-    };
+    const std::tuple<const char*, std::function<bool(const QString& output, const QString& elsewhere)>, bool> claims[] =
+        {
+            {"link out", [&](auto& output, auto& elsewhere) { return link(elsewhere, output); }, false},
+            {"link out by steps",
+             [&](auto& output, auto&) {
+                 return link(u"step"_s, output) && link(u"../elsewhere/old.mkv"_s, Test.Path(u"target/step"_s));
+             },
+             false},
+            {"link to nothing out", [&](auto& output, auto& elsewhere) { return link(elsewhere + u"2"_s, output); },
+             false},
+            {"link to itself", [&](auto& output, auto&) { return link(output, output); }, false},
+            {"link within", [&](auto& output, auto&) { return link(Test.Write(u"target/b.mkv"_s), output); }, true},
+            {"hard link out", [](auto& output, auto& elsewhere) { return Link(elsewhere, output, false); }, false},
+            {"hard link within",
+             [&](auto& output, auto&) { return Link(Test.Write(u"target/c.mkv"_s), output, false); }, true},
+        };
     Test.Write(u"videos/a.avi"_s, "x");
     const QString elsewhere = Test.Write(u"elsewhere/old.mkv"_s, "precious");
-    for (const Claim& claim : claims) {
+    for (const auto& [what, make, written] : claims) {
         const QString output = Test.Path(u"target/a.mkv"_s);
         QFile::remove(output);
-        ASSERT_TRUE(claim.Make(output, elsewhere)) << claim.What;
+        ASSERT_TRUE(make(output, elsewhere)) << what;
         EXPECT_TRUE(Run());
-        EXPECT_EQ(Heard.Outcomes.back().Status == File_Outcome::Kind::Done, claim.Written) << claim.What;
-        EXPECT_EQ(Test.Read(u"elsewhere/old.mkv"_s), "precious") << claim.What;
-        EXPECT_FALSE(QFile::exists(elsewhere + u"2"_s)) << claim.What;
+        EXPECT_EQ(Heard.Outcomes.back().Status == File_Outcome::Kind::Done, written) << what;
+        EXPECT_EQ(Test.Read(u"elsewhere/old.mkv"_s), "precious") << what;
+        EXPECT_FALSE(QFile::exists(elsewhere + u"2"_s)) << what;
     }
 }
 

@@ -35,13 +35,7 @@ TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
                                 "[Cut\n"
                                 "Last=no line end");
 
-    struct Claim
-    {
-        QString Section, Key;
-        std::optional<QString> Value;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString, std::optional<QString>> claims[] = {
         {u"Menu"_s, u"Log Verbosity"_s, u"3"_s},
         {u"mENU"_s, u" LOG verbosity  "_s, u"3"_s},
         {u"Menu"_s, u"Quoted"_s, u" two blanks  "_s},
@@ -59,9 +53,8 @@ TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
         {u"Cut"_s, u"Last"_s, std::nullopt},
         {u"Nowhere"_s, u"Last"_s, std::nullopt},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(document.Value(claim.Section, claim.Key), claim.Value)
-            << claim.Section.toStdString() << "/" << claim.Key.toStdString();
+    for (const auto& [section, key, value] : claims)
+        EXPECT_EQ(document.Value(section, key), value) << section.toStdString() << "/" << key.toStdString();
 }
 
 TEST(IniFile, ALongValueIsCutAndNeverInTheMiddleOfACharacter)

@@ -194,18 +194,11 @@ TEST(SettingsStore, ABoxThatIsNeitherOnNorOffEndsTheWritingAtItsRow)
 
 TEST(SettingsStore, ANumberThatIsNoneIsAnErrorThatNamesFileSectionAndKey)
 {
-    struct Claim
-    {
-        QByteArray Text;
-        QString Place;
-        Error_Number Number;
-    };
-
     const Error_Number mismatch = Error_Number::Type_Mismatch;
     const QByteArray noise("\x7F"
                            "ELF\x02\x01\x00\x00[\xFF\xFE=\x00",
                            13);
-    const Claim claims[] = {
+    const std::tuple<QByteArray, QString, Error_Number> claims[] = {
         {"", u"[MainWindow] \"Top\""_s, mismatch},
         {noise, u"[MainWindow] \"Top\""_s, mismatch},
         {"[MainWindow]\nTop=1\nLef", u"[MainWindow] \"Left\""_s, mismatch},
@@ -221,18 +214,18 @@ TEST(SettingsStore, ANumberThatIsNoneIsAnErrorThatNamesFileSectionAndKey)
         {Window_Place + "[Audio Option Files]\nWindow Size and Position (T,L,W,H,MM)=-2147483648:2:3:4:5\n",
          u"[Audio Option Files] \"Window Size"_s, Error_Number::Overflow},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [text, place, number] : claims) {
         Test_Program test;
-        test.Write(u"app/Vantorra.ini"_s, claim.Text);
+        test.Write(u"app/Vantorra.ini"_s, text);
         try {
             Read_Settings(test.Prog);
-            ADD_FAILURE() << "taken: " << claim.Text.toStdString();
+            ADD_FAILURE() << "taken: " << text.toStdString();
         } catch (const Run_Time_Error& error) {
-            EXPECT_EQ(error.Number(), claim.Number) << error.what();
+            EXPECT_EQ(error.Number(), number) << error.what();
             EXPECT_TRUE(error.Subject().contains(test.Prog.Settings.Ini_File)) << error.what();
-            EXPECT_TRUE(error.Subject().contains(claim.Place)) << error.what();
+            EXPECT_TRUE(error.Subject().contains(place)) << error.what();
         }
-        EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), claim.Text) << "the file stays as it was";
+        EXPECT_EQ(test.Read(u"app/Vantorra.ini"_s), text) << "the file stays as it was";
     }
 }
 
@@ -251,13 +244,7 @@ TEST(SettingsStore, AFileThatCantBeWrittenIsToldAndTheProgramGoesOn)
 
 TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
 {
-    struct Claim
-    {
-        QString Assignment;
-        Override_Result Result;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, Override_Result> claims[] = {
         {u"audio/AUDIO delay= 70 "_s, Override_Result::Taken},
         {u"Subtitles/Set All Subtitle defaults to no/yes=no"_s, Override_Result::Taken},
         {u"Other Options/Set Custom File Title Text=\"a=b/c\""_s, Override_Result::Taken},
@@ -280,8 +267,8 @@ TEST(SettingsStore, AnOverrideIsReadAsIfTheFileSaidSo)
         {u""_s, Override_Result::No_Assignment},
     };
     Test_Program test;
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Add_Override(test.Prog, claim.Assignment), claim.Result) << claim.Assignment.toStdString();
+    for (const auto& [assignment, result] : claims)
+        EXPECT_EQ(Add_Override(test.Prog, assignment), result) << assignment.toStdString();
     Read_Text(test, "[Audio]\nAudio Delay=1\n");
     EXPECT_EQ(test.Prog.Options.Audio_Delay, u"70"_s);
     EXPECT_EQ(test.Prog.Options.chk_SubDefaults.Tag, u"no"_s);

@@ -35,23 +35,16 @@ static QByteArray Run_Shell(Child_Process& child, const QString& body)
 
 TEST(ChildProcess, BothStreamsArriveInOrderAndTheStatusIsKnown)
 {
-    struct Claim
-    {
-        QString Body;
-        QByteArray Output;
-        int Exit;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QByteArray, int> claims[] = {
         {u"echo one; echo two >&2; echo three; exit 2"_s, "one\ntwo\nthree\n", 2},
         {u"kill -9 $$"_s, "", -SIGKILL},
         {u"cat; echo end"_s, "end\n", 0}, // standard input is empty, not ours
         {u"printf 'half\\nline'"_s, "half\nline", 0},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [body, output, exit] : claims) {
         Child_Process child;
-        EXPECT_EQ(Run_Shell(child, claim.Body), claim.Output);
-        EXPECT_EQ(child.Exit_Status(), claim.Exit) << claim.Body.toStdString();
+        EXPECT_EQ(Run_Shell(child, body), output);
+        EXPECT_EQ(child.Exit_Status(), exit) << body.toStdString();
         EXPECT_EQ(child.Process_Number(), 0);
     }
     EXPECT_EQ(Children_Left(), 0);
@@ -76,13 +69,7 @@ TEST(ChildProcess, AProgramThatCannotBeExecutedIsAFailedStart)
     test.Write(u"bad_interpreter"_s, "#!/nowhere/sh\n");
     QFile::setPermissions(garbage, QFile::ReadOwner | QFile::ExeOwner);
 
-    struct Claim
-    {
-        QString Executable;
-        int Error;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, int> claims[] = {
         {u""_s, ENOENT},
         {u"sh"_s, ENOENT},
         {test.Path(u"missing"_s), ENOENT},
@@ -92,10 +79,10 @@ TEST(ChildProcess, AProgramThatCannotBeExecutedIsAFailedStart)
         {plain + u"/x"_s, ENOTDIR},
     };
     const int descriptors = Open_Descriptors();
-    for (const Claim& claim : claims) {
+    for (const auto& [executable, error] : claims) {
         Child_Process child;
-        EXPECT_EQ(child.Start(claim.Executable, {}), Started::No_Process) << claim.Executable.toStdString();
-        EXPECT_EQ(child.System_Error(), claim.Error) << claim.Executable.toStdString();
+        EXPECT_EQ(child.Start(executable, {}), Started::No_Process) << executable.toStdString();
+        EXPECT_EQ(child.System_Error(), error) << executable.toStdString();
     }
     EXPECT_EQ(Open_Descriptors(), descriptors);
     EXPECT_EQ(Children_Left(), 0);

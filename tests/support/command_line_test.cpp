@@ -39,12 +39,7 @@ TEST(CommandLine, TextAndArgumentsGrowTogether)
 
 TEST(CommandLine, AValuesArgumentLosesOneOuterPairOfQuotesAndTheEscapes)
 {
-    struct Claim
-    {
-        QString Value, Argument;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString> claims[] = {
         {u"0:eng"_s, u"0:eng"_s},
         {u"\"\""_s, u""_s},
         {u"\""_s, u"\""_s},
@@ -60,8 +55,8 @@ TEST(CommandLine, AValuesArgumentLosesOneOuterPairOfQuotesAndTheEscapes)
         {u"0:back\\slash\\"_s, u"0:back\\slash\\"_s},
         {u"\"0:a\0b\""_s, u"0:a"_s},
     };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Command_Line::Argument_Of(claim.Value), claim.Argument) << claim.Value.toStdString();
+    for (const auto& [value, argument] : claims)
+        EXPECT_EQ(Command_Line::Argument_Of(value), argument) << value.toStdString();
 }
 
 TEST(CommandLine, WhateverAValueHoldsItStaysOneArgument)
@@ -92,13 +87,7 @@ TEST(CommandLine, WhateverAValueHoldsItStaysOneArgument)
 
 TEST(CommandLine, AValueThatCannotBeGivenAsOneIsLeftOutWithItsOption)
 {
-    struct Claim
-    {
-        QString Value;
-        bool Refused;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, bool> claims[] = {
         {QString(140'000, u'x'), true},
         {QString(70'000, QChar(0xE9)), true},
         {QString(100'000, u'x'), false},
@@ -117,13 +106,13 @@ TEST(CommandLine, AValueThatCannotBeGivenAsOneIsLeftOutWithItsOption)
         {u""_s, false},
         {u"a@b"_s, false},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [value, refused] : claims) {
         Command_Line command;
-        command.Add_Option(u" --title "_s, claim.Value);
-        EXPECT_EQ(command.Text().isEmpty(), claim.Refused) << claim.Value.toStdString();
-        EXPECT_EQ(command.Arguments().size(), claim.Refused ? 0 : 2) << claim.Value.toStdString();
-        ASSERT_EQ(command.Refusals().size(), claim.Refused ? 1 : 0) << claim.Value.toStdString();
-        if (claim.Refused) {
+        command.Add_Option(u" --title "_s, value);
+        EXPECT_EQ(command.Text().isEmpty(), refused) << value.toStdString();
+        EXPECT_EQ(command.Arguments().size(), refused ? 0 : 2) << value.toStdString();
+        ASSERT_EQ(command.Refusals().size(), refused ? 1 : 0) << value.toStdString();
+        if (refused) {
             EXPECT_TRUE(command.Refusals()[0].startsWith(u"*** --title is left out: \""_s));
             EXPECT_LT(command.Refusals()[0].size(), 300);
         }

@@ -9,21 +9,16 @@ using namespace Qt::StringLiterals;
 
 TEST(Paths, BaseNameAndExtensionAreCutAtTheLastDotOfTheName)
 {
-    struct Claim
-    {
-        QString Path, Base, Extension;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QString, QString, QString> claims[] = {
         {u"/in/Movie.mkv"_s, u"Movie"_s, u"mkv"_s},
         {u"/in.d/Movie"_s, u"Movie"_s, u""_s},
         {u"film.part1.MKV"_s, u"film.part1"_s, u"MKV"_s},
         {u"/in/.mkv"_s, u""_s, u"mkv"_s},
         {u"/in/Movie."_s, u"Movie"_s, u""_s},
     };
-    for (const Claim& claim : claims) {
-        EXPECT_EQ(Get_Base_Name(claim.Path), claim.Base) << claim.Path.toStdString();
-        EXPECT_EQ(Get_Extension(claim.Path), claim.Extension) << claim.Path.toStdString();
+    for (const auto& [path, base, extension] : claims) {
+        EXPECT_EQ(Get_Base_Name(path), base) << path.toStdString();
+        EXPECT_EQ(Get_Extension(path), extension) << path.toStdString();
     }
 }
 

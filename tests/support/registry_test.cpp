@@ -27,14 +27,7 @@ TEST(Registry, AValueIsFoundByItsNameWithoutRegardToCaseAndCutAtItsFirstZero)
 
 TEST(Registry, BadRootsAndBadKeysLeaveTheSameErrorAndAGoodKeyIsNotFoundHere)
 {
-    struct Case
-    {
-        std::uint32_t Root;
-        QString Key;
-        std::uint32_t Error;
-    };
-
-    const Case cases[] = {
+    const std::tuple<std::uint32_t, QString, std::uint32_t> cases[] = {
         {0x7fffffff, u"SOFTWARE"_s, 0x80040001},
         {0x80000007, u"SOFTWARE"_s, 0x80040001},
         {Reg_Local_Machine, u"  "_s, 0x80040001},
@@ -44,10 +37,10 @@ TEST(Registry, BadRootsAndBadKeysLeaveTheSameErrorAndAGoodKeyIsNotFoundHere)
         {Reg_Last_Root, u"k"_s, 0},
     };
     Registry_State state{.Reg_Error = 1, .Reg_Error_Text = u"old"_s, .Reg_Error_Extra = 2};
-    for (const Case& one : cases) {
-        EXPECT_FALSE(Reg_Key_Exists(state, one.Root, one.Key));
-        EXPECT_EQ(state.Reg_Error, one.Error) << one.Root;
-        EXPECT_EQ(state.Reg_Error_Text, one.Error == 0 ? QString() : u"Invalid Base Key Value."_s);
+    for (const auto& [root, key, error] : cases) {
+        EXPECT_FALSE(Reg_Key_Exists(state, root, key));
+        EXPECT_EQ(state.Reg_Error, error) << root;
+        EXPECT_EQ(state.Reg_Error_Text, error == 0 ? QString() : u"Invalid Base Key Value."_s);
         EXPECT_EQ(state.Reg_Error_Extra, 0);
     }
     QString value;

@@ -9,15 +9,8 @@ using namespace Qt::StringLiterals;
 
 TEST(FailureReports, EachShowsItsBoxAndLogsItsLines)
 {
-    struct Claim
-    {
-        int Code;
-        QString Title, Text_Begins;
-        QStringList Lines;
-    };
-
     const QString cancelled = u" Further processing of this file is cancelled."_s;
-    const Claim claims[] = {
+    const std::tuple<int, QString, QString, QStringList> claims[] = {
         {11,
          u"Failed to create pipe."_s,
          u"Failed to create a pipe for T{1}."_s,
@@ -36,25 +29,25 @@ TEST(FailureReports, EachShowsItsBoxAndLogsItsLines)
          u"File name extension is missing!\r\n"_s,
          {u"F"_s, u"-- Video file name extension is missing. I don't know what to do!"_s}},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [code, title, text_begins, wanted] : claims) {
         Test_Program test;
         test.Prog.Options.Log_Verbosity = 1;
         test.Prog.Tools.System_MKVMerge_Path = u"/sys"_s;
         test.Prog.Tools.Local_MKVMerge_Path = u"/local"_s;
         test.Prog.Settings.Mkvmerge_Path_Ini = u"/ini"_s;
         // A text that looks like a mark of the table stays as it is.
-        EXPECT_EQ(Report_Run_Failure(test.Prog, claim.Code, u"T{1}"_s, u"F"_s), 0);
-        ASSERT_EQ(test.Person.Messages.size(), 1U) << claim.Code;
+        EXPECT_EQ(Report_Run_Failure(test.Prog, code, u"T{1}"_s, u"F"_s), 0);
+        ASSERT_EQ(test.Person.Messages.size(), 1U) << code;
         const Message_Box& box = test.Person.Messages.front();
-        EXPECT_EQ(box.Code, claim.Code);
-        EXPECT_EQ(box.Title, claim.Title);
-        EXPECT_TRUE(box.Text.startsWith(claim.Text_Begins)) << box.Text.toStdString();
+        EXPECT_EQ(box.Code, code);
+        EXPECT_EQ(box.Title, title);
+        EXPECT_TRUE(box.Text.startsWith(text_begins)) << box.Text.toStdString();
         EXPECT_EQ(box.Icon, Message_Icon::Exclamation);
         QStringList lines = test.Results().mid(2); // behind the mark and the head
         EXPECT_EQ(lines.takeLast(), u"@"_s);
         for (QString& line : lines)
             line = line.mid(12);
-        EXPECT_EQ(lines, claim.Lines) << claim.Code;
+        EXPECT_EQ(lines, wanted) << code;
     }
 }
 

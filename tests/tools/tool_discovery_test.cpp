@@ -104,23 +104,16 @@ TEST_F(Tools_Test, FFProbeOfPathIsLinkedIntoTheProgramsFolder)
 
 TEST_F(Tools_Test, OnlyTheAcceptedVersionIsALocalCopy)
 {
-    struct Case
-    {
-        const char* What;
-        QByteArray Words;
-        bool Found;
-    };
-
-    const Case cases[] = {
+    const std::tuple<const char*, QByteArray, bool> cases[] = {
         {"the accepted version", Accepted, true},
         {"the same in other letters", Accepted.toUpper(), true},
         {"another version", "mkvmerge v74.0.0 ('You Oughta Know') 64-bit", false},
         {"silence", "", false},
     };
-    for (const Case& one : cases) {
-        const QString path = Says(u"app/mkvmerge"_s, one.Words);
-        EXPECT_EQ(Find_Local_MKVMerge(Prog), one.Found) << one.What;
-        EXPECT_EQ(Prog.Tools.Local_MKVMerge_Path, one.Found ? path : QString()) << one.What;
+    for (const auto& [what, words, found] : cases) {
+        const QString path = Says(u"app/mkvmerge"_s, words);
+        EXPECT_EQ(Find_Local_MKVMerge(Prog), found) << what;
+        EXPECT_EQ(Prog.Tools.Local_MKVMerge_Path, found ? path : QString()) << what;
     }
     QFile::remove(Path(u"app/mkvmerge"_s));
     QDir().mkpath(Path(u"app/mkvmerge"_s));
@@ -201,23 +194,16 @@ TEST_F(Tools_Test, PathsAreCheckedForExistenceAndName)
 {
     const QString file = Write(u"dir/MkvMerge"_s);
 
-    struct Case
-    {
-        QString Path;
-        QString Wanted;
-        int Code;
-    };
-
-    const Case cases[] = {{{}, u"mkvmerge"_s, 4},
-                          {file + u"x"_s, u"mkvmerge"_s, 2},
-                          {Path(u"dir"_s), u"mkvmerge"_s, 2},
-                          {file, u"ffprobe"_s, 1},
-                          {file, {}, 3},
-                          {file, u"mkvmerge"_s, 0}};
-    for (const Case& one : cases) {
+    const std::tuple<QString, QString, int> cases[] = {{{}, u"mkvmerge"_s, 4},
+                                                       {file + u"x"_s, u"mkvmerge"_s, 2},
+                                                       {Path(u"dir"_s), u"mkvmerge"_s, 2},
+                                                       {file, u"ffprobe"_s, 1},
+                                                       {file, {}, 3},
+                                                       {file, u"mkvmerge"_s, 0}};
+    for (const auto& [path, wanted, wanted_code] : cases) {
         int code = -1;
-        EXPECT_EQ(Check_Path(one.Path, one.Wanted, code), one.Code == 3 || one.Code == 0);
-        EXPECT_EQ(code, one.Code);
+        EXPECT_EQ(Check_Path(path, wanted, code), wanted_code == 3 || wanted_code == 0);
+        EXPECT_EQ(code, wanted_code);
     }
 }
 

@@ -38,13 +38,7 @@ TEST(ToolRunner, AFailedStartLeavesTheSystemsNumber)
 
 TEST(ToolRunner, ChunksAreKeptOrDroppedWhole)
 {
-    struct Claim
-    {
-        QByteArray Body;
-        QString Console;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QByteArray, QString> claims[] = {
         {"printf '1234567890123456'", u""_s},
         {"printf '12345678901234567'", u"12345678901234567\r\n"_s},
         {"printf '123456789012345\\n'", u"123456789012345\r\n\r\n"_s}, // counted after the line end has grown
@@ -56,9 +50,9 @@ TEST(ToolRunner, ChunksAreKeptOrDroppedWhole)
          u"Half a character \r\n\u00e9 and its other half\r\n"_s},
         {"", u""_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [body, console] : claims) {
         Test_Program test;
-        EXPECT_EQ(Console_Of(test, claim.Body), claim.Console) << claim.Body.toStdString();
+        EXPECT_EQ(Console_Of(test, body), console) << body.toStdString();
     }
 }
 
@@ -74,14 +68,7 @@ TEST(ToolRunner, AChunkIsWhatOneReadDelivered)
 
 TEST(ToolRunner, ThePercentageIsThatOfTheWholeBatch)
 {
-    struct Claim
-    {
-        QByteArray Print;
-        int Videos, Index;
-        QString Caption;
-    };
-
-    const Claim claims[] = {
+    const std::tuple<QByteArray, int, int, QString> claims[] = {
         {"Progress: 50%%\\r", 1, 0, u"50%"_s},
         {"Progress: 100%%\\r", 10, 9, u"100%"_s},
         {"Progress: 24%%\\rProgress: 80%%\\r", 2, 1, u"62%"_s}, // the first of a chunk counts
@@ -90,13 +77,13 @@ TEST(ToolRunner, ThePercentageIsThatOfTheWholeBatch)
         {"Progress: -3%%\\r", 4, 2, u""_s},
         {"Progress: 10%%\\r", 327, 326, u"100%"_s},
     };
-    for (const Claim& claim : claims) {
+    for (const auto& [print, videos, index, caption] : claims) {
         Test_Program test;
-        test.Prog.Run.Video_File_List = QStringList(QList<QString>(claim.Videos, u"v"_s));
-        test.Prog.Run.File_Index = static_cast<std::int16_t>(claim.Index);
-        Console_Of(test, "printf '" + claim.Print + "'");
-        EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Caption, claim.Caption) << claim.Print.toStdString();
-        EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Visible, !claim.Caption.isEmpty());
+        test.Prog.Run.Video_File_List = QStringList(QList<QString>(videos, u"v"_s));
+        test.Prog.Run.File_Index = static_cast<std::int16_t>(index);
+        Console_Of(test, "printf '" + print + "'");
+        EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Caption, caption) << print.toStdString();
+        EXPECT_EQ(test.Prog.Form.lbl_ProgressFinished.Visible, !caption.isEmpty());
     }
 }
 

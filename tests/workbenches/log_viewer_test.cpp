@@ -42,14 +42,8 @@ TEST_F(Viewer_Test, TheFullLoadCountsInSixteenBits)
 
 TEST_F(Viewer_Test, LinesEndInAnyOfThreeWaysAndEmptyOnesCount)
 {
-    struct Case
-    {
-        QByteArray Content;
-        QStringList Lines;
-    };
-
     const QByteArray half = QByteArray((1 << 18) - 1, 'x');
-    const Case cases[] = {
+    const std::tuple<QByteArray, QStringList> cases[] = {
         {"", {}},
         {"\r\n\r\na", {{}, {}, u"a"_s}},
         {"a\nb\rc\r\nd\r", {u"a"_s, u"b"_s, u"c"_s, u"d"_s}},
@@ -58,9 +52,9 @@ TEST_F(Viewer_Test, LinesEndInAnyOfThreeWaysAndEmptyOnesCount)
         {half + "\r\nb\r\n", {QString::fromLatin1(half), u"b"_s}},
         {half + "\xC3\xA4\r\nb", {QString::fromLatin1(half) + u"\u00E4"_s, u"b"_s}},
     };
-    for (const Case& one : cases) {
-        const QString path = Write(u"log"_s, one.Content);
-        EXPECT_EQ(Read_Log_Lines(path, 32767), one.Lines) << one.Content.left(20).toStdString();
+    for (const auto& [content, lines] : cases) {
+        const QString path = Write(u"log"_s, content);
+        EXPECT_EQ(Read_Log_Lines(path, 32767), lines) << content.left(20).toStdString();
     }
 }
 

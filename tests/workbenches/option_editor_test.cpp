@@ -168,21 +168,15 @@ TEST(OptionEditor, LeavingABoxGreysItWhereItHoldsNothingUsable)
 {
     Editor_Test test;
 
-    struct Claim
-    {
-        Option_Slot Slot;
-        QString Typed;
-        bool Set_After;
-    };
-
-    const Claim claims[] = {{Title_Slot, u"x"_s, true},    {Title_Slot, {}, false},       {Language_Slot, {}, true},
-                            {Default_Slot, u"No"_s, true}, {Default_Slot, u"-"_s, false}, {Forced_Slot, {}, false},
-                            {Delay_Slot, {}, false}};
-    for (const Claim& claim : claims) {
-        test.Type(claim.Slot, claim.Typed);
-        EXPECT_TRUE(test.Editor().Boxes[claim.Slot].Set);
-        Option_Box_Leave(test.Editor(), claim.Slot);
-        EXPECT_EQ(test.Editor().Boxes[claim.Slot].Set, claim.Set_After) << claim.Slot << claim.Typed.toStdString();
+    const std::tuple<Option_Slot, QString, bool> claims[] = {
+        {Title_Slot, u"x"_s, true},    {Title_Slot, {}, false},       {Language_Slot, {}, true},
+        {Default_Slot, u"No"_s, true}, {Default_Slot, u"-"_s, false}, {Forced_Slot, {}, false},
+        {Delay_Slot, {}, false}};
+    for (const auto& [slot, typed, set_after] : claims) {
+        test.Type(slot, typed);
+        EXPECT_TRUE(test.Editor().Boxes[slot].Set);
+        Option_Box_Leave(test.Editor(), slot);
+        EXPECT_EQ(test.Editor().Boxes[slot].Set, set_after) << slot << typed.toStdString();
     }
 }
 

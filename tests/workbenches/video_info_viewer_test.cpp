@@ -90,17 +90,11 @@ TEST_F(Info_Test, PrivateValuesAreShownAndHiddenAgain)
 
 TEST_F(Info_Test, TheTextIsSavedBesideTheFileUnderItsNameUpToTheLastPoint)
 {
-    struct Case
-    {
-        QString Path;
-        QString Saved;
-    };
-
-    const Case cases[] = {{u"/v/film.part1.mkv"_s, u"/v/film.part1 Video Info.txt"_s},
-                          {u"/v.x/film"_s, u"/v.x/film Video Info.txt"_s},
-                          {u"/v/.mkv"_s, u"/v/ Video Info.txt"_s}};
-    for (const Case& one : cases)
-        EXPECT_EQ(Video_Info_File(one.Path), one.Saved);
+    const std::tuple<QString, QString> cases[] = {{u"/v/film.part1.mkv"_s, u"/v/film.part1 Video Info.txt"_s},
+                                                  {u"/v.x/film"_s, u"/v.x/film Video Info.txt"_s},
+                                                  {u"/v/.mkv"_s, u"/v/ Video Info.txt"_s}};
+    for (const auto& [path, saved] : cases)
+        EXPECT_EQ(Video_Info_File(path), saved);
 
     ViewVFI_lst_VideoFiles_Click(Prog, Form, 0);
     Write(u"videos/film.part1 Video Info.txt"_s, QByteArray(9999, 'x'));
