@@ -48,19 +48,11 @@ TEST(CommandFrame, NothingIsTouchedWhereFfprobeSaidNothing)
     EXPECT_EQ(test.Prog.Run.Output_Path, u"/out/Movie.mkv"_s);
 }
 
-TEST(CommandFrame, ATitleThatMkvmergeWouldTakeForAnOptionFileIsLeftOutWithAFaultLine)
+TEST(CommandFrame, AStreamTextMadeToSmuggleOptionsStaysInItsArguments)
 {
     Test_Program test;
     test.Prog.Options.chk_CustomFileTitle.Value = 1;
     test.Prog.Options.Custom_File_Title = u"@Film"_s;
-    EXPECT_FALSE(Command_Of(test, Format_Line + Video_Line, u"/in/Movie.avi"_s).contains(u"--title"_s));
-    ASSERT_EQ(test.Faults().size(), 1);
-    EXPECT_TRUE(test.Faults()[0].contains(u"\"@Film\""_s));
-}
-
-TEST(CommandFrame, AStreamTextMadeToSmuggleOptionsStaysInItsArguments)
-{
-    Test_Program test;
     // A title that ends in "stream" makes an element of what follows it, index and all.
     Command_Of(test,
                Format_Line + Video_Line +
@@ -69,22 +61,22 @@ TEST(CommandFrame, AStreamTextMadeToSmuggleOptionsStaysInItsArguments)
                u"/in/Movie.avi"_s);
     for (const QString& argument : test.Prog.Run.Mkvmerge_Arguments.Arguments()) {
         EXPECT_FALSE(argument.startsWith(u'@')) << argument.toStdString();
-        EXPECT_NE(argument, u"--attach-file"_s);
-        EXPECT_NE(argument, u"/etc/passwd"_s);
+        EXPECT_FALSE(QStringList({u"--attach-file"_s, u"/etc/passwd"_s, u"--title"_s}).contains(argument));
     }
-    EXPECT_FALSE(test.Faults().isEmpty());
+    EXPECT_EQ(test.Faults().filter(u"\"@Film\""_s).size(), 1);
+    EXPECT_GT(test.Faults().size(), 1);
 }
 
 TEST(TrackOrder, PiecesAreJoinedAndTheirCommasCollapsed)
 {
-    const std::tuple<QStringList, QString> claims[] = {
-        {{u"0:0,"_s, u""_s, u"0:1,"_s, u""_s, u"0:2,"_s, u""_s}, u"0:0,0:1,0:2"_s},
-        {{u"0:0,"_s, u",1:0,"_s, u"0:1,"_s, u",2:0,3:0"_s, u""_s, u",4:0"_s}, u"0:0,1:0,0:1,2:0,3:0,4:0"_s},
-        {{u"0:0,"_s, u""_s, u""_s, u",1:0"_s, u""_s, u""_s}, u"0:0,1:0"_s},
-        {{u""_s, u""_s, u""_s, u",1:0"_s, u""_s, u",2:0"_s}, u",1:0,2:0"_s},
-        {{u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}, u""_s},
-        {{u"0:0,"_s, u""_s, u""_s}, u"0:0"_s},
+    const std::pair<QString, QString> claims[] = {
+        {u"0:0,||0:1,||0:2,|"_s, u"0:0,0:1,0:2"_s},
+        {u"0:0,|,1:0|0:1,|,2:0,3:0||,4:0"_s, u"0:0,1:0,0:1,2:0,3:0,4:0"_s},
+        {u"0:0,|||,1:0||"_s, u"0:0,1:0"_s},
+        {u"|||,1:0||,2:0"_s, u",1:0,2:0"_s},
+        {u"|||||"_s, u""_s},
+        {u"0:0,||"_s, u"0:0"_s},
     };
     for (const auto& [pieces, text] : claims)
-        EXPECT_EQ(Join_Order(pieces), text) << pieces.join(u'|').toStdString();
+        EXPECT_EQ(Join_Order(pieces.split(u'|')), text) << pieces.toStdString();
 }

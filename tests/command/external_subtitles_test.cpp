@@ -2,7 +2,6 @@
 
 #include "command/companion_fixture.h"
 #include "command/joined_names.h"
-#include "support/run_time_error.h"
 
 #include <filesystem>
 #include <random>
@@ -52,17 +51,12 @@ TEST_F(External_Subtitles, PlainFilesComeFirstAndAnIdxOnlyWithItsSub)
                u"lone movie.idx"_s});
     Write(u"videos/movie.idx"_s, Index_Text);
     Find(u"Movie"_s);
-    const QStringList names = Names_Of(List);
-    EXPECT_EQ(Sorted(names),
-              Sorted({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s, u"movie X.IDX"_s, u"movie.idx"_s}));
-    ASSERT_EQ(names.size(), 5);
-    EXPECT_EQ(names.at(3), u"movie X.IDX"_s);
-    EXPECT_EQ(names.at(4), u"movie.idx"_s);
+    EXPECT_EQ(Sorted(Names_Of(List).first(3)), Sorted({u"Movie.srt"_s, u"my MOVIE.ASS"_s, u"movie.sup"_s}));
+    EXPECT_EQ(Names_Of(List).mid(3), (QStringList{u"movie X.IDX"_s, u"movie.idx"_s}));
     EXPECT_EQ(List[3].FileIndex, 3);
     EXPECT_FALSE(List[3].IsIdxPair);
     EXPECT_EQ(List[4].FileIndex, 0);
     EXPECT_TRUE(List[4].IsIdxPair && List[4].HasSubFile);
-    EXPECT_EQ(List[4].Language, u"en"_s);
     EXPECT_EQ(Names_Of(Unpaired), QStringList{u"lone movie.idx"_s});
     EXPECT_TRUE(Prog.Run.Process_Failed);
     EXPECT_TRUE(Command().endsWith(u" --language 0:en ( movie.idx )"_s));
@@ -75,73 +69,58 @@ TEST_F(External_Subtitles, PlainFilesComeFirstAndAnIdxOnlyWithItsSub)
 
 TEST_F(External_Subtitles, SettingsComeFromTheOptionFileElseTheStickyValuesAndNeverFromTheProbe)
 {
-    struct Claim
-    {
-        const char* Option_File; ///< null: none
-        int Use = 1;
-        int Apply_Defaults = 0;
-        QString Command;
-        bool Option_File_Used = false;
-    };
-
-    const Claim claims[] = {
-        {nullptr, 1, 0, u" --language 0:und ( m.srt )"_s},
-        {"broken", 1, 0, u" --language 0:und ( m.srt )"_s},
-        {"Title=x", 0, 1, u" --language 0:und ( m.srt )"_s},
+    // The option file (none where null), whether it is asked for, and the sticky values; the command, and whether it
+    // was.
+    const std::tuple<const char*, int, int, QString, bool> claims[] = {
+        {nullptr, 1, 0, u" --language 0:und"_s, false},
+        {"broken", 1, 0, u" --language 0:und"_s, false},
+        {"Title=x", 0, 1, u" --language 0:und"_s, false},
         {"Title=A B\nLanguage=French (fre)\nDefault=no\nForced=yes\nDelay=700", 1, 1,
-         u" --language 0:fre --track-name \"0:A B\" --default-track 0:no --forced-track 0:yes ( m.srt )"_s, true},
-        {"Default=yes\nForced=no", 1, 0, u" --language 0:und --default-track 0:yes ( m.srt )"_s, true},
-        {"Default=Yes", 1, 0, u" --language 0:und ( m.srt )"_s, true},
-        {nullptr, 1, 1, u" --language 0:fre --track-name 0:Sticky --forced-track 0:yes ( m.srt )"_s},
+         u" --language 0:fre --track-name \"0:A B\" --default-track 0:no --forced-track 0:yes"_s, true},
+        {"Default=yes\nForced=no", 1, 0, u" --language 0:und --default-track 0:yes"_s, true},
+        {"Default=Yes", 1, 0, u" --language 0:und"_s, true},
+        {nullptr, 1, 1, u" --language 0:fre --track-name 0:Sticky --forced-track 0:yes"_s, false},
     };
     // The default has a text and no flag, so nothing is taken from it.
     Prog.Settings.Subtitle_Sticky = {1, 1, 0, 1, 1, u"Sticky"_s, u"fre"_s, u"yes"_s, u"yes"_s, u"10"_s};
     Write_All({u"m.srt"_s});
-    for (const Claim& claim : claims) {
+    for (const auto& [option_file, use, apply_defaults, command, used] : claims) {
         QFile::remove(Path(u"videos/m.srt.opt"_s));
-        if (claim.Option_File != nullptr)
-            Write(u"videos/m.srt.opt"_s, claim.Option_File);
-        Prog.Options.chk_UseSubOpts.Value = claim.Use;
-        Prog.Options.chk_ApplyDefaultSubOpts.Value = claim.Apply_Defaults;
+        if (option_file != nullptr)
+            Write(u"videos/m.srt.opt"_s, option_file);
+        Prog.Options.chk_UseSubOpts.Value = use;
+        Prog.Options.chk_ApplyDefaultSubOpts.Value = apply_defaults;
         Find(u"m"_s);
-        EXPECT_EQ(Command(), claim.Command);
-        EXPECT_EQ(List.front().OptionFileUsed, claim.Option_File_Used) << claim.Command.toStdString();
+        EXPECT_EQ(Command(), command + u" ( m.srt )"_s);
+        EXPECT_EQ(List.front().OptionFileUsed, used) << command.toStdString();
     }
 }
 
 TEST_F(External_Subtitles, TheLastIdLineGivesTheLanguageUnlessTheOptionFileDoes)
 {
-    struct Claim
-    {
-        QByteArray Text;
-        const char* Option_File; ///< null: none
-        QString Language;
-    };
-
-    const Claim claims[] = {
+    // Of an id line, places 10 and 1 have no bit in common; 1 and 11 have one. A line that can't be read is no error
+    // where its language isn't wanted.
+    const std::tuple<QByteArray, const char*, QString> claims[] = {
         {Index_Text, nullptr, u"en"_s},
         {Index_Text, "Title=x\nLanguage=fr", u"fre"_s},
         {Index_Text, "Title=x", u"en"_s},
         {"ID: DE, INDEX: 0\r\n", nullptr, u"de"_s},
         {"id:  de , index: 0", nullptr, u"de"_s},
-        // Places 10 and 1 have no bit in common; 1 and 11 have one.
         {"id: deu, index: 0", nullptr, u""_s},
         {"index: 0, id: de", nullptr, u"0"_s},
         {"id: de, index: 0 # forced subs: off", nullptr, u""_s},
         {"\x01\xff\xfe garbage\n\n::::\nid:\nindex:\n", nullptr, u""_s},
-        {"", nullptr, u""_s},
-        // A line that can't be read is no error where its language isn't wanted.
         {"xyz, id: index:", "Language=fr", u"fre"_s},
     };
     Prog.Options.chk_UseSubOpts.Value = 1;
     Write_All({u"m.sub"_s});
-    for (const Claim& claim : claims) {
-        Write(u"videos/m.idx"_s, claim.Text);
+    for (const auto& [text, option_file, language] : claims) {
+        Write(u"videos/m.idx"_s, text);
         QFile::remove(Path(u"videos/m.idx.opt"_s));
-        if (claim.Option_File != nullptr)
-            Write(u"videos/m.idx.opt"_s, claim.Option_File);
+        if (option_file != nullptr)
+            Write(u"videos/m.idx.opt"_s, option_file);
         Find(u"m"_s);
-        EXPECT_EQ(List.front().Language, claim.Language) << claim.Text.toStdString();
+        EXPECT_EQ(List.front().Language, language) << text.toStdString();
         EXPECT_TRUE(List.front().Title.isEmpty());
     }
 }
@@ -150,40 +129,34 @@ TEST_F(External_Subtitles, AnIdLineWithoutAColonInItsFirstPieceIsAnErrorThatName
 {
     Write_All({u"m.sub"_s});
     const QString path = Write(u"videos/m.idx"_s, "xyz, id: index:\n");
-    try {
-        Find(u"m"_s);
-        FAIL();
-    } catch (const Run_Time_Error& error) {
-        EXPECT_EQ(error.Number(), Error_Number::Subscript_Out_Of_Range);
-        EXPECT_EQ(error.Subject(), path);
-    }
+    const Caught_Error error = Error_Of([&] { Find(u"m"_s); });
+    EXPECT_EQ(error.Number, 9);
+    EXPECT_EQ(error.Subject, path);
     EXPECT_FALSE(Read_Idx_File(Videos(), u"gone.idx"_s, true, Prog.Language_Table, List));
 }
 
 TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
 {
-    const std::tuple<QStringList, QStringList, QString> claims[] = {
-        {{u"Movie.srt"_s, u"The Movie.srt"_s}, {u"Movie.srt"_s, u"The Movie.srt"_s}, u",3:0,4:0"_s},
-        {{u"The Movie.srt"_s, u"MOVIE.srt"_s, u"x.ass"_s}, {u"The Movie.srt"_s, u"x.ass"_s}, u",3:0,5:0"_s},
-        {{u"Movie.en.srt"_s, u"Movie.srt"_s}, {u"Movie.en.srt"_s, u"Movie.srt"_s}, u",3:0,4:0"_s},
-        // "trm.srt" lies across the border of two names.
-        {{u"m.srt"_s, u"m.srt.ass"_s, u"ssm.srt"_s}, {u"m.srt"_s, u"m.srt.ass"_s, u"ssm.srt"_s}, u",3:0,4:0,5:0"_s},
-        {{u"a.str"_s, u"m.srt"_s, u"trm.srt"_s}, {u"a.str"_s, u"m.srt"_s}, u",3:0,4:0"_s},
+    // The names, those that are left out in brackets; "trm.srt" lies across the border of two names.
+    const std::pair<QString, QString> claims[] = {
+        {u"Movie.srt/The Movie.srt"_s, u",3:0,4:0"_s}, {u"The Movie.srt/[MOVIE.srt]/x.ass"_s, u",3:0,5:0"_s},
+        {u"Movie.en.srt/Movie.srt"_s, u",3:0,4:0"_s},  {u"m.srt/m.srt.ass/ssm.srt"_s, u",3:0,4:0,5:0"_s},
+        {u"a.str/m.srt/[trm.srt]"_s, u",3:0,4:0"_s},
     };
-    for (const auto& [given, added, order] : claims) {
+    for (const auto& [names, order] : claims) {
         List.clear();
-        for (const QString& name : given)
-            List.push_back(Named(name, static_cast<int>(List.size())));
         QString expected;
-        for (const QString& name : added)
-            expected += u" --language 0:und ( "_s + (name.contains(u' ') ? u'"' + name + u'"' : name) + u" )"_s;
+        for (const QString& name : names.split(u'/')) {
+            List.push_back(Named(QString(name).remove(u'[').remove(u']'), static_cast<int>(List.size())));
+            if (!name.startsWith(u'['))
+                expected += u" --language 0:und ( "_s + (name.contains(u' ') ? u'"' + name + u'"' : name) + u" )"_s;
+        }
         EXPECT_EQ(Command(), expected);
         EXPECT_EQ(Order, order);
     }
     List = {Named(u"m.idx"_s, 0)};
     List.front().IsIdxPair = true;
-    EXPECT_EQ(Command(), u""_s);
-    EXPECT_EQ(Order, u""_s);
+    EXPECT_EQ(Command() + Order, u""_s);
 }
 
 TEST(Joined_Names, AnswerAsASearchOfTheJoinedTextWould)

@@ -1,6 +1,7 @@
 #include "common/test_program.h"
 
 #include "support/paths.h"
+#include "support/run_time_error.h"
 #include "support/text.h"
 
 #include <QDir>
@@ -120,6 +121,24 @@ QStringList Test_Program::Faults() const
 QStringList Test_Program::Results() const
 {
     return Lines_Of(Prog.Logs.Log_Results);
+}
+
+QList<int> Test_Program::Codes() const
+{
+    QList<int> codes;
+    for (const Message_Box& box : Person.Messages)
+        codes += box.Code;
+    return codes;
+}
+
+Caught_Error Error_Of(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const Run_Time_Error& error) {
+        return {.Number = static_cast<int>(error.Number()), .Subject = error.Subject(), .Message = error.Message()};
+    }
+    return {};
 }
 
 void PrintTo(const QString& text, std::ostream* out)

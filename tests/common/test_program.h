@@ -61,7 +61,19 @@ struct Test_Program
     /// Lines of Log_Faults, without the empty one at the end.
     QStringList Faults() const;
     QStringList Results() const;
+    /// The numbers of the message boxes that were shown.
+    QList<int> Codes() const;
 };
+
+/// What a run-time error says; number 0 if there was none.
+struct Caught_Error
+{
+    int Number = 0;
+    QString Subject, Message;
+};
+
+/// The run-time error that `act` ends with.
+Caught_Error Error_Of(const std::function<void()>& act);
 
 /// The trash that this process's tests move things to: a folder of its own, so that nobody's trash fills up.
 QStringList Names_In_Trash();

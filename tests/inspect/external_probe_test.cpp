@@ -1,6 +1,7 @@
 #include "inspect/external_probe.h"
 
 #include "common/stand_in_tool.h"
+#include "inspect/video_probe.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +10,12 @@ using namespace Qt::StringLiterals;
 static const QByteArray Probe = "printf 'stream|index=0|codec_type=audio|disposition:default=1|disposition:forced=0|"
                                 "tag:handler_name=Sound|tag:x=y\\n'";
 
-TEST(ExternalProbe, AFailureIsReportedWithItsFileAndLeavesTheLastAnswer)
+TEST(Probes, AFailureIsReportedByItsKindWithItsFileAndLeavesTheLastAnswer)
 {
     Test_Program test;
     test.Prog.Options.Log_Verbosity = 1;
     test.Prog.Tools.FFProbe_Path = test.Path(u"missing"_s);
+    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 0);
     EXPECT_EQ(Run_FFProbe_ExtAudio(test.Prog, u"/v/a.mp3"_s), 0);
     EXPECT_EQ(test.Prog.Media.ExtAudioInfo.Language, u"und"_s) << "also ahead of the first probe";
     test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"ffprobe"_s, Probe);
@@ -22,9 +24,10 @@ TEST(ExternalProbe, AFailureIsReportedWithItsFileAndLeavesTheLastAnswer)
     EXPECT_EQ(Run_FFProbe_ExtAudio(test.Prog, u"/v/b.mp3"_s), 0);
     EXPECT_EQ(Run_FFProbe_ExtSubtitle(test.Prog, u"/v/b.srt"_s), 0);
     EXPECT_EQ(test.Prog.Media.ExtAudioInfo.HandlerName, u"Sound"_s);
-    ASSERT_EQ(test.Person.Messages.size(), 3U);
-    EXPECT_EQ(test.Person.Messages[0].Code, 12);
-    EXPECT_EQ(test.Person.Messages[1].Code, 13);
-    EXPECT_TRUE(test.Person.Messages[2].Text.endsWith(u"File: /v/b.srt"_s));
+    test.Prog.Tools.FFProbe_Path = Write_Stand_In(test, u"killed"_s, "kill -9 $$");
+    EXPECT_EQ(Run_FFProbe_Video(test.Prog, u"/v/a b.mkv"_s), 0);
+    EXPECT_EQ(test.Codes(), (QList<int>{12, 12, 13, 13, 13}));
+    EXPECT_TRUE(test.Person.Messages[3].Text.endsWith(u"File: /v/b.srt"_s));
     EXPECT_TRUE(test.Results().join(u'\n').contains(u"/v/b.srt"_s));
+    EXPECT_EQ(test.Results().count(u"            \"/v/a b.mkv\""_s), 2);
 }

@@ -1,9 +1,7 @@
 #include "inspect/stream_parser.h"
 
 #include "common/test_program.h"
-#include "support/run_time_error.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -33,19 +31,6 @@ static QStringList Types_Of(const FileInfoList& list)
     return types;
 }
 
-/// The number of the run-time error that `act` raises, its message in `message`; 0 if it raises none.
-static int Error_Of(const std::function<void()>& act, QString* message = nullptr)
-{
-    try {
-        act();
-    } catch (const Run_Time_Error& error) {
-        if (message != nullptr)
-            *message = error.Message();
-        return static_cast<int>(error.Number());
-    }
-    return 0;
-}
-
 static const QString Video = u"index=0|codec_type=video|disposition:attached_pic=0"_s;
 static const QString Audio = u"index=1|codec_type=audio"_s;
 static const QString Data = u"index=2|codec_type=data|disposition:attached_pic=0"_s;
@@ -62,44 +47,17 @@ TEST(StreamParser, EachKindOfStreamFillsItsOwnFields)
          u"index=3|codec_name=png|codec_type=video|width=30|height=40|r_frame_rate=9/1|disposition:attached_pic=1"_s},
         u"filename=/in/Movie.mkv|format_name=matroska,webm|duration=1.5|size=10|bit_rate=20|tag:title= T "
         "|TAG:ENCODER=Lavf"_s));
-    ASSERT_EQ(list.size(), 5U);
+    QStringList records;
+    for (const FileInfo& r : list)
+        records += QStringList{r.StreamType,  r.Index,      r.CodecName,   r.Width,    r.Height, r.FrameRate,
+                               r.DefaultFlag, r.ForcedFlag, r.AttachedPic, r.Language, r.Title}
+                       .join(u' ');
+    EXPECT_EQ(records, (QStringList{u"File_Info         und T"_s, u"video 0 h264 1920 1080 25/1 1 0 0 eng Main"_s,
+                                    u"audio 1 aac    0 1 0 und "_s, u"subtitle 2 ass 10 20 0/0    ger "_s,
+                                    u"attachment 3 png 30 40    1 und "_s}));
     const FileInfo& file = list[0];
-    EXPECT_EQ(file.StreamType, u"File_Info"_s);
-    EXPECT_EQ(file.FileName, u"/in/Movie.mkv"_s);
-    EXPECT_EQ(file.FormatName, u"matroska,webm"_s);
-    EXPECT_EQ(file.Duration, u"1.5"_s);
-    EXPECT_EQ(file.Size, u"10"_s);
-    EXPECT_EQ(file.BitRate, u"20"_s);
-    EXPECT_EQ(file.Title, u"T"_s);
-    EXPECT_EQ(file.Encoder, u"Lavf"_s);
-    EXPECT_EQ(file.Language, u"und"_s);
-
-    struct Claim
-    {
-        QString Type, Index, Codec, Width, Height, Rate, Default, Forced, Picture, Language, Title;
-    };
-
-    const Claim claims[] = {
-        {u"video"_s, u"0"_s, u"h264"_s, u"1920"_s, u"1080"_s, u"25/1"_s, u"1"_s, u"0"_s, u"0"_s, u"eng"_s, u"Main"_s},
-        {u"audio"_s, u"1"_s, u"aac"_s, {}, {}, {}, u"0"_s, u"1"_s, u"0"_s, u"und"_s, {}},
-        {u"subtitle"_s, u"2"_s, u"ass"_s, u"10"_s, u"20"_s, u"0/0"_s, {}, {}, {}, u"ger"_s, {}},
-        {u"attachment"_s, u"3"_s, u"png"_s, u"30"_s, u"40"_s, {}, {}, {}, u"1"_s, u"und"_s, {}},
-    };
-    for (std::size_t i = 0; i < std::size(claims); ++i) {
-        const Claim& claim = claims[i];
-        const FileInfo& record = list[i + 1];
-        EXPECT_EQ(record.StreamType, claim.Type);
-        EXPECT_EQ(record.Index, claim.Index);
-        EXPECT_EQ(record.CodecName, claim.Codec);
-        EXPECT_EQ(record.Width, claim.Width) << claim.Type.toStdString();
-        EXPECT_EQ(record.Height, claim.Height) << claim.Type.toStdString();
-        EXPECT_EQ(record.FrameRate, claim.Rate) << claim.Type.toStdString();
-        EXPECT_EQ(record.DefaultFlag, claim.Default) << claim.Type.toStdString();
-        EXPECT_EQ(record.ForcedFlag, claim.Forced) << claim.Type.toStdString();
-        EXPECT_EQ(record.AttachedPic, claim.Picture) << claim.Type.toStdString();
-        EXPECT_EQ(record.Language, claim.Language) << claim.Type.toStdString();
-        EXPECT_EQ(record.Title, claim.Title) << claim.Type.toStdString();
-    }
+    EXPECT_EQ((QStringList{file.FileName, file.FormatName, file.Duration, file.Size, file.BitRate, file.Encoder}),
+              (QStringList{u"/in/Movie.mkv"_s, u"matroska,webm"_s, u"1.5"_s, u"10"_s, u"20"_s, u"Lavf"_s}));
 }
 
 TEST(StreamParser, OnlyStreamsOfKnownKindsMakeRecordsAndOnlyALastOneLeavesAnEmptySlot)
@@ -165,10 +123,9 @@ TEST(StreamParser, TheFirstOccurrenceOfAKeyWinsWhereverItStands)
 
 TEST(StreamParser, ALanguageInBracketsEndsTheProgramUnlessItIsTheLastItem)
 {
-    QString message;
-    EXPECT_EQ(Error_Of([] { Parsed(Output_Of({Audio + u"|tag:language=[en]|tag:x=y"_s})); }, &message), 13);
-    EXPECT_TRUE(message.contains(u"/in/Movie.mkv"_s)) << message.toStdString();
-    EXPECT_TRUE(message.contains(u"[en]"_s)) << message.toStdString();
+    const Caught_Error error = Error_Of([] { Parsed(Output_Of({Audio + u"|tag:language=[en]|tag:x=y"_s})); });
+    EXPECT_EQ(error.Number, 13);
+    EXPECT_TRUE(error.Message.contains(u"/in/Movie.mkv"_s) && error.Message.contains(u"[en]"_s));
     EXPECT_EQ(Parsed(Output_Of({Audio + u"|tag:language=[en]"_s}))[1].Language, u"[en]"_s);
 }
 
@@ -190,22 +147,11 @@ TEST(StreamParser, DurationsAreWrittenInSinglePrecisionWithTwoDigitsOfHours)
 
 TEST(StreamParser, ADurationThatIsNoNumberIsAnErrorThatNamesTheFile)
 {
-    struct Claim
-    {
-        QString Text;
-        int Error;
-    };
-
-    const Claim claims[] = {
-        {u"format|filename=/in/raw.h264|duration=N/A|size=1"_s, 13},
-        {u"format|filename=/in/raw.h264|size=1"_s, 13},
-        {u"format|filename=/in/raw.h264|duration=12s|size=1"_s, 13},
-        {u"format|filename=/in/raw.h264|duration=1e20|size=1"_s, 6},
-    };
-    for (const Claim& claim : claims) {
-        QString message;
-        EXPECT_EQ(Error_Of([&] { Format_Duration(claim.Text); }, &message), claim.Error) << claim.Text.toStdString();
-        EXPECT_TRUE(message.contains(u"/in/raw.h264"_s)) << message.toStdString();
+    for (const QString& duration : {u"duration=N/A|"_s, u""_s, u"duration=12s|"_s, u"duration=1e20|"_s}) {
+        const Caught_Error error =
+            Error_Of([&] { Format_Duration(u"format|filename=/in/raw.h264|"_s + duration + u"size=1"_s); });
+        EXPECT_EQ(error.Number, duration.contains(u"e20"_s) ? 6 : 13) << duration.toStdString();
+        EXPECT_TRUE(error.Message.contains(u"/in/raw.h264"_s)) << error.Message.toStdString();
     }
 }
 
@@ -222,31 +168,22 @@ TEST(StreamParser, AnExternalFileAnswersWithItsFirstStream)
         u"stream|index=0|disposition:default=1|disposition:forced=2|tag:language=fre|tag:handler_name=Sound|tag:x=y\r\n"
         "stream|index=1|disposition:default=0|disposition:forced=0|tag:language=ger\r\n"_s,
         u"/in/a.mp3"_s);
-    EXPECT_EQ(info.Default, u"Yes"_s);
-    EXPECT_EQ(info.Forced, u""_s);
-    EXPECT_EQ(info.Language, u"fre"_s);
-    EXPECT_EQ(info.HandlerName, u"Sound"_s);
+    EXPECT_EQ((QStringList{info.Default, info.Forced, info.Language, info.HandlerName}),
+              (QStringList{u"Yes"_s, u""_s, u"fre"_s, u"Sound"_s}));
     EXPECT_TRUE(info.SourceText.contains(u"tag:x=ystream|index=1"_s));
 }
 
 TEST(StreamParser, FlagsOfAnExternalFileMustBeZeroToTwo)
 {
-    struct Claim
-    {
-        QString Text;
-        int Error;
+    const QList<QStringList> texts_by_error = {
+        {u"0"_s, u"disposition:default=0|disposition:forced=2|"_s},
+        {u"13"_s, u"disposition:default=0|"_s, u"disposition:forced=0|"_s,
+         u"disposition:default=no|disposition:forced=0|"_s},
+        {u"9"_s, u"disposition:default=0|disposition:forced=3|"_s, u"disposition:default=-1|disposition:forced=0|"_s},
+        {u"6"_s, u"disposition:default=0|disposition:forced=99999|"_s},
     };
-
-    const Claim claims[] = {
-        {u"disposition:default=0|disposition:forced=2|"_s, 0},
-        {u"disposition:default=0|"_s, 13},
-        {u"disposition:forced=0|"_s, 13},
-        {u"disposition:default=no|disposition:forced=0|"_s, 13},
-        {u"disposition:default=0|disposition:forced=3|"_s, 9},
-        {u"disposition:default=-1|disposition:forced=0|"_s, 9},
-        {u"disposition:default=0|disposition:forced=99999|"_s, 6},
-    };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Error_Of([&] { Parse_External_Streams(claim.Text, u"/in/a.mp3"_s); }), claim.Error)
-            << claim.Text.toStdString();
+    for (const QStringList& texts : texts_by_error)
+        for (const QString& text : texts.mid(1))
+            EXPECT_EQ(Error_Of([&] { Parse_External_Streams(text, u"/in/a.mp3"_s); }).Number, texts[0].toInt())
+                << text.toStdString();
 }

@@ -1,6 +1,5 @@
 #include "common/test_program.h"
 #include "logs/process_log.h"
-#include "support/run_time_error.h"
 
 #include <QDir>
 #include <csignal>
@@ -115,17 +114,9 @@ TEST_F(Crash_Test, AnEntryThatIsInTheLogAlreadyIsNotTakenInFromTheWorkFileOnceMo
 TEST_F(Crash_Test, AFullDiskIsTheRunTimeErrorAndTheOldLogStaysWhole)
 {
     constexpr int disk_full = 61;
-
-    struct Case
-    {
-        const char* What;
-        bool Append;
-        rlim_t Room;
-        QByteArray Work; ///< what the work file holds afterwards
-    };
-
     const QByteArray old = QByteArray(3 << 20, 'x') + "\r\n";
-    const Case cases[] = {
+    // Whether the old log is appended to, the room in bytes, what the work file holds afterwards.
+    const std::tuple<const char*, bool, rlim_t, QByteArray> cases[] = {
         {"no room at all", true, 0, {}},
         {"in the entry", true, 20, Entry.left(20)},
         {"in the entry, rotating", false, 20, Entry.left(20)},
@@ -133,24 +124,19 @@ TEST_F(Crash_Test, AFullDiskIsTheRunTimeErrorAndTheOldLogStaysWhole)
         {"in the old text", true, 2 << 20, Entry},
         {"at its very end", true, static_cast<rlim_t>(Entry.size() + 2 + old.size() - 1), Entry},
     };
-    for (const Case& one : cases) {
+    for (const auto& [what, append, room, work] : cases) {
         Lay_Down(old);
-        Prog.Options.mnu_AppendLogs = one.Append;
+        Prog.Options.mnu_AppendLogs = append;
+        const rlimit limit{room, room};
         const int ended = In_Child([&] {
             ::signal(SIGXFSZ, SIG_IGN);
-            const rlimit limit{one.Room, one.Room};
             ::setrlimit(RLIMIT_FSIZE, &limit);
-            try {
-                Write_Process_Log(Prog);
-            } catch (const Run_Time_Error& error) {
-                return static_cast<int>(error.Number());
-            }
-            return 0;
+            return Error_Of([&] { Write_Process_Log(Prog); }).Number;
         });
-        EXPECT_EQ(ended, disk_full) << one.What;
-        EXPECT_EQ(Log(), old) << one.What;
-        EXPECT_EQ(Work_File(), one.Work) << one.What;
-        EXPECT_EQ(Read(u"app/Vantorra_ProcessA.log"_s), "a\r\n") << one.What;
+        EXPECT_EQ(ended, disk_full) << what;
+        EXPECT_EQ(Log(), old) << what;
+        EXPECT_EQ(Work_File(), work) << what;
+        EXPECT_EQ(Read(u"app/Vantorra_ProcessA.log"_s), "a\r\n") << what;
     }
 }
 

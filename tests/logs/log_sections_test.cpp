@@ -1,50 +1,24 @@
 #include "logs/log_sections.h"
 
 #include "common/test_program.h"
+#include "rules/click_rules.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Setting = std::function<void(Program&)>;
-
 /// Everything that has a line is on, as far as lines don't exclude each other.
 void Turn_All_On(Program& program)
 {
     JobOptions& o = program.Options;
     o.Log_Verbosity = 5;
-    for (Check_Box* box : {&o.chk_StripOrigAudioTitle,
-                           &o.chk_CustomAudioFilter,
-                           &o.chk_EngAudioOnly,
-                           &o.chk_AudioDelayAdjust,
-                           &o.chk_AddAudio,
-                           &o.chk_UseAudioOpts,
-                           &o.chk_ApplyDefaultAudioOpts,
-                           &o.chk_AudioPath,
-                           &o.chk_StripOrigSubsTitle,
-                           &o.chk_CustomSubsFilter,
-                           &o.chk_EngSubsOnly,
-                           &o.chk_SubDefaults,
-                           &o.chk_SubForces,
-                           &o.chk_AddSubs,
-                           &o.chk_UseSubOpts,
-                           &o.chk_ApplyDefaultSubOpts,
-                           &o.chk_SubsPath,
-                           &o.chk_StripChaps,
-                           &o.chk_ReplaceChapters,
-                           &o.chk_ConvertTXT,
-                           &o.chk_ChaptersPath,
-                           &o.chk_VideoFrameRate,
-                           &o.chk_VideoFormatOptions,
-                           &o.chk_SetFileTitle,
-                           &o.chk_SetVideoTitle,
-                           &o.chk_RemoveAllTags,
-                           &o.chk_RemoveAllAttachments,
-                           &o.chk_SplitVideos})
-        box->Value = 1;
+    for (const Click_Rule& rule : Click_Rules())
+        (o.*rule.Box).Value = 1;
+    for (Check_Box* box : {&o.chk_StripOrigAudio, &o.chk_StripOrigSubs, &o.chk_RemoveFileTitle, &o.chk_CustomFileTitle,
+                           &o.chk_RemoveVideoTitle, &o.chk_CustomVideoTitle})
+        box->Value = 0;
     o.Delete_Video_After = true;
     o.Add_Attachments_On = true;
     o.AudioFilter.Languages = u"English (eng):French (fre)"_s;
@@ -65,18 +39,10 @@ void Turn_All_On(Program& program)
     program.Form.ulbl_ChaptersPath.Caption = u"/label/c/"_s;
 }
 
-/// One change to the state in which everything is on: the lines that go and the lines that come.
-struct Change
-{
-    const char* What;
-    Setting Set;
-    QStringList Gone;
-    QStringList Come;
-};
-
 TEST(Log_Sections, ABoxSilencesTheLinesItRulesOut)
 {
-    const Change changes[] = {
+    // A change to the state in which everything is on; the lines that go and the lines that come.
+    const std::tuple<const char*, void (*)(Program&), QStringList, QStringList> changes[] = {
         {"stripped audio",
          [](Program& p) { p.Options.chk_StripOrigAudio.Value = 1; },
          {u"            ~~ Strip Existing Audio Title"_s, u"            ~~ Filter out NON-English Audio"_s},
@@ -117,22 +83,18 @@ TEST(Log_Sections, ABoxSilencesTheLinesItRulesOut)
          {u"            -- Remove All Original Tags"_s},
          {}},
     };
-    for (const Change& change : changes) {
+    for (const auto& [what, change, gone, come] : changes) {
         Test_Program test;
         Turn_All_On(test.Prog);
         const QStringList before = Active_Checkbox_Lines(test.Prog);
-        change.Set(test.Prog);
+        change(test.Prog);
         const QStringList after = Active_Checkbox_Lines(test.Prog);
-        QStringList gone;
-        QStringList come;
-        for (const QString& line : before)
-            if (!after.contains(line))
-                gone += line;
-        for (const QString& line : after)
-            if (!before.contains(line))
-                come += line;
-        EXPECT_EQ(gone, change.Gone) << change.What;
-        EXPECT_EQ(come, change.Come) << change.What;
+        const auto only_in = [](QStringList lines, const QStringList& others) {
+            lines.removeIf([&others](const QString& line) { return others.contains(line); });
+            return lines;
+        };
+        EXPECT_EQ(only_in(before, after), gone) << what;
+        EXPECT_EQ(only_in(after, before), come) << what;
     }
 }
 
