@@ -7,6 +7,7 @@
 #include "life/menu_commands.h"
 #include "life/start_up.h"
 #include "rules/option_rules.h"
+#include "run/careful_hint.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "tools/tool_discovery.h"
@@ -79,7 +80,10 @@ void Startform::Show_First()
 void Startform::Become_Ready()
 {
     const bool first = program_.Form.Never_Placed;
-    guard_.Call([this] { First_Activation(program_); });
+    guard_.Call([this] {
+        First_Activation(program_);
+        Show_Careful_Batch(program_);
+    });
     if (first)
         Make_Room(); // what the rules put in view has its size only now
 }

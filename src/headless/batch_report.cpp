@@ -152,10 +152,13 @@ QString Summary_Of(const Outcome_Counts& counts, qint64 milliseconds)
         Time_Text(milliseconds / 1000));
 }
 
-void Batch_Report::Done_Before(int files)
+void Batch_Report::Done_Before(int files, const QStringList& with_warnings)
 {
-    Complain(u"%1 done before"_s.arg(files));
-    Tell(0, u"Done before"_s, QString::number(files));
+    QString text = u"%1 done before"_s.arg(files);
+    if (!with_warnings.isEmpty())
+        text += u", %1 of them with warnings: "_s.arg(with_warnings.size()) + with_warnings.join(u", "_s);
+    Complain(text);
+    Tell(0, u"Done before"_s, text);
 }
 
 void Batch_Report::Refused(const QString& reason)

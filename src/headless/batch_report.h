@@ -71,7 +71,7 @@ class Batch_Report : public Run_Listener
     void Warned(const QString& title, const QString& text) override;
     void File_Finished(const File_Outcome& outcome) override;
     void Refused(const QString& reason) override;
-    void Done_Before(int files) override;
+    void Done_Before(int files, const QStringList& with_warnings) override;
 
   protected:
     const Program& Watched() const { return *program_; }

@@ -68,7 +68,8 @@ static bool Fits_One(const QString& name, const QStringList& patterns)
                        [&name](const QString& pattern) { return Match_File_Masks(name, pattern); });
 }
 
-/// The videos that the person asked for, of those there are. Those that were done before count as done.
+/// The videos that the person asked for, of those there are. Those that were done before count as done: also with
+/// warnings, as the output is whole, but then the source and its companions stay.
 static std::vector<Folder_Entry> Chosen_Videos(Careful_Walk& walk)
 {
     const Program& program = walk.Prog;
@@ -76,6 +77,7 @@ static std::vector<Folder_Entry> Chosen_Videos(Careful_Walk& walk)
     const bool asks = choice.Resume || choice.Only_Failed;
     const Journal_Results results = asks ? Read_Journal(program.Settings.App_Folder) : Journal_Results();
     int done_before = 0;
+    QStringList with_warnings;
     std::vector<Folder_Entry> chosen;
     for (const Folder_Entry& video : walk.Videos) {
         if ((!choice.Only.isEmpty() && !Fits_One(video.Name, choice.Only)) || Fits_One(video.Name, choice.Leave_Out))
@@ -85,14 +87,16 @@ static std::vector<Folder_Entry> Chosen_Videos(Careful_Walk& walk)
             continue;
         if (choice.Resume && Is_Done_Before(results, source, Hash_Of_Video(program, source))) {
             ++done_before;
-            if (!results.value(source).Warned)
+            if (results.value(source).Warned)
+                with_warnings += video.Name;
+            else
                 walk.Done.insert(video.Name);
             continue;
         }
         chosen.push_back(video);
     }
     if (done_before > 0 && program.Listener)
-        program.Listener->Done_Before(done_before);
+        program.Listener->Done_Before(done_before, with_warnings);
     return chosen;
 }
 

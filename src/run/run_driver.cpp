@@ -5,6 +5,7 @@
 #include "rules/folders.h"
 #include "rules/option_rules.h"
 #include "run/careful_batch.h"
+#include "run/careful_hint.h"
 #include "run/journal.h"
 #include "run/output_guard.h"
 #include "run/split_run.h"
@@ -136,18 +137,6 @@ static void Show_Idle(Program& program)
     // The tool that identifies may have changed with the run: mkvmerge was looked for, or taken from elsewhere.
     if (program.Settings.Extensions.Identify_With_Any_Mkvmerge)
         Enable_Video_Info_Button(program);
-}
-
-/// An installation of years isn't changed, but hears once that there is something safer.
-static void Tell_Of_Careful_Batch(const Program& program)
-{
-    const bool asked = program.Run.Careful_Asked.has_value() || !program.Settings.Careful_Key_Missing;
-    // Who has a journal has been told.
-    if (asked || program.Listener == nullptr || File_Exists(Journal_Path(program.Settings.App_Folder)))
-        return;
-    program.Listener->Warned(u"A careful batch"_s,
-                             u"This run works as ever. A careful batch checks each output before it counts and never "
-                             u"loses a source: Settings > Extensions > Careful Batch, or --careful."_s);
 }
 
 static void Run_Mode(Program& program)

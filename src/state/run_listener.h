@@ -54,8 +54,9 @@ class Run_Listener
     /// Something that the operator should know and that stops nothing.
     virtual void Warned(const QString& /*title*/, const QString& /*text*/) {}
 
-    /// So many videos of the folder are left out, because they were done before and nothing has changed since.
-    virtual void Done_Before(int /*files*/) {}
+    /// So many videos of the folder are left out, because they were done before and nothing has changed since; the
+    /// names of those that were done with warnings.
+    virtual void Done_Before(int /*files*/, const QStringList& /*with_warnings*/) {}
 
     virtual void File_Finished(const File_Outcome&) {}
 };

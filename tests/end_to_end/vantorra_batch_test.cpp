@@ -131,6 +131,34 @@ TEST(Vantorra_Batch, ACheckTellsEveryProblemAndWritesNothing)
     EXPECT_EQ(batch.Tree(), before);
 }
 
+TEST(Vantorra_Batch, WhatIsDoneIsLeftOutUntilSomethingChanges)
+{
+    Batch_Process batch;
+    for (const QString& name : {u"good.mkv"_s, u"LOUD.MKV"_s})
+        Place(batch, Short_Video(), u"videos/"_s + name);
+    batch.Write(u"videos/none.avi"_s, "no video");
+    const auto taken = [&](const QStringList& more) {
+        const Batch_Result result = batch.Run(QStringList{u"--json"_s, u"--careful"_s} + more);
+        QStringList names;
+        for (const QString& source : result.Values(u"result"_s, u"source"_s))
+            names += source.section(u'/', -1);
+        const QStringList told = result.Values(u"message"_s, u"text"_s).filter(u"done before"_s);
+        return (names + told).join(u" - "_s);
+    };
+    const QString one = u" - 1 done before, 1 of them with warnings: LOUD.MKV"_s;
+    const QString both = u" - 2 done before, 1 of them with warnings: LOUD.MKV"_s;
+    EXPECT_EQ(taken({}), u"good.mkv - LOUD.MKV - none.avi"_s);
+    EXPECT_EQ(taken({u"--resume"_s}), u"none.avi"_s + both);
+    EXPECT_EQ(taken({u"--failed"_s}), u"none.avi"_s);
+    EXPECT_EQ(taken({u"--resume"_s, u"--leave-out"_s, u"n*"_s}), both.mid(3));
+    EXPECT_EQ(taken({u"--resume"_s, u"--tick"_s, u"StripChaps"_s}), u"good.mkv - LOUD.MKV - none.avi"_s);
+    EXPECT_EQ(taken({}), u"good.mkv - LOUD.MKV - none.avi"_s);
+    QFile::remove(batch.Path(u"target/good.mkv"_s));
+    EXPECT_EQ(taken({u"--resume"_s, u"--only"_s, u"*.mkv"_s}), u"good.mkv"_s + one);
+    batch.Write(u"videos/good.mkv"_s, batch.Read(u"videos/good.mkv"_s));
+    EXPECT_EQ(taken({u"--resume"_s, u"--only"_s, u"*.mkv"_s}), u"good.mkv"_s + one);
+}
+
 TEST(Vantorra_Batch, WhatADryRunPrintsIsWhatAShellCanRun)
 {
     Batch_Process batch;

@@ -29,6 +29,16 @@ TEST(Window_Life, StartChangeQuitStartAgain)
     EXPECT_EQ(window.Get<QMenu>("mnu_VerbosityStatus").title(), u"Log Verbosity 3 - Include All Active Checkboxes");
     EXPECT_EQ(window.Form().geometry().topLeft(), QPoint(30, 40));
     EXPECT_TRUE(window.Get("btn_RunVantorra").isEnabled());
+
+    EXPECT_FALSE(window.Get("ulbl_Title1").isVisible());
+    window.Quit();
+    const QString settings = u"app/Vantorra.ini"_s;
+    window.Files.Write(settings, window.Files.Read(settings).replace("Careful Batch", "Unknown"));
+    for (const bool told : {true, false}) {
+        ASSERT_TRUE(window.Start());
+        EXPECT_EQ(window.Get<QLabel>("ulbl_Title1").text().contains(u"Careful Batch"), told);
+        window.Quit();
+    }
 }
 
 TEST(Window_Life, WhileTheToolsAreTriedTheWindowIsSeenAndTakesNoInput)
