@@ -35,10 +35,6 @@ TEST_F(Folders, PathErrorsShowTheirOwnWordsAndClearTheCode)
          u"The Destination Path cannot be from a lower path level\r\nto an existing source path.\r\n \r\n"
          "The chosen Destination Path will be ignored.\r\n"_s},
         {405, u"Error #405 - Target Path processing error!"_s, u"When processing the Target Path"_s + processing},
-        {440, u"Error #440 - Invalid File Name."_s,
-         u"You did not supply a valid file name.\r\nA valid file name must be dropped here for proper operation.\r\n"
-         " \r\nNOTE: The filename may contain non-displayed unicode characters. Change the filename and try "
-         "again.\r\n"_s},
     };
     for (const auto& [number, title, text] : claims) {
         int code = number;

@@ -24,14 +24,6 @@ struct Locations_Test : testing::Test, Test_Program
         return Write_Stand_In(*this, relative, "echo " + version + "\n");
     }
 
-    QList<int> Codes() const
-    {
-        QList<int> codes;
-        for (const Message_Box& box : Person.Messages)
-            codes += box.Code;
-        return codes;
-    }
-
     frm_Locations Form;
 
   private:

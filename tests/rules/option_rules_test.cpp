@@ -22,6 +22,18 @@ struct OptionRules : testing::Test, Test_Program
         QString Changed; ///< what the rule changes; all else stays
     };
 
+    /// Holds the claims with each of `kinds` in the place of "%1".
+    void Hold_For(const QStringList& kinds, const std::vector<Claim>& claims,
+                  const std::function<void(Program&)>& prepare = {})
+    {
+        for (const QString& kind : kinds)
+            for (Claim claim : claims) {
+                for (QString* text : {&claim.Box, &claim.Before, &claim.Changed})
+                    text->replace(u"%1"_s, kind);
+                Hold({claim}, prepare);
+            }
+    }
+
     void Hold(const std::vector<Claim>& claims, const std::function<void(Program&)>& prepare = {})
     {
         for (const Claim& claim : claims) {
@@ -75,69 +87,59 @@ TEST_F(OptionRules, StrippingShutsOutWhatItMakesPointless)
 
 TEST_F(OptionRules, TheCustomFilterAndEnglishOnlyShutEachOtherOut)
 {
-    Hold(
-        {
-            {u"CustomAudioFilter"_s, u"CustomAudioFilter=1"_s, u"EngAudioOnly- AudioMode=3"_s},
-            {u"CustomAudioFilter"_s, u"EngAudioOnly-"_s, u"EngAudioOnly+"_s},
-            {u"EngAudioOnly"_s, u"EngAudioOnly=1"_s, u"CustomAudioFilter- AudioMode=2"_s},
-            {u"EngAudioOnly"_s, u"CustomAudioFilter-"_s, u"CustomAudioFilter+"_s},
-            {u"CustomSubsFilter"_s, u"CustomSubsFilter=1"_s, u"EngSubsOnly- SubsMode=3"_s},
-            {u"CustomSubsFilter"_s, u"EngSubsOnly-"_s, u"EngSubsOnly+"_s},
-            {u"EngSubsOnly"_s, u"EngSubsOnly=1"_s, u"CustomSubsFilter- SubsMode=2"_s},
-            {u"EngSubsOnly"_s, u"CustomSubsFilter-"_s, u"CustomSubsFilter+"_s},
-        },
-        With_Languages);
+    Hold_For({u"Audio"_s, u"Subs"_s},
+             {
+                 {u"Custom%1Filter"_s, u"Custom%1Filter=1"_s, u"Eng%1Only- %1Mode=3"_s},
+                 {u"Custom%1Filter"_s, u"Eng%1Only-"_s, u"Eng%1Only+"_s},
+                 {u"Eng%1Only"_s, u"Eng%1Only=1"_s, u"Custom%1Filter- %1Mode=2"_s},
+                 {u"Eng%1Only"_s, u"Custom%1Filter-"_s, u"Custom%1Filter+"_s},
+             },
+             With_Languages);
 }
 
 TEST_F(OptionRules, AFilterWithoutALanguageCanBeNeitherTickedNorReached)
 {
-    Hold({
-        {u"CustomAudioFilter"_s, u"CustomAudioFilter=1"_s, u"CustomAudioFilter=0 CustomAudioFilter- EngAudioOnly-"_s},
-        {u"EngAudioOnly"_s, u"EngAudioOnly=1"_s, u"CustomAudioFilter- AudioMode=2"_s},
-        {u"EngAudioOnly"_s, u"CustomAudioFilter=1"_s, u"CustomAudioFilter=0 CustomAudioFilter-"_s},
-        {u"CustomSubsFilter"_s, u"CustomSubsFilter=1"_s, u"CustomSubsFilter=0 CustomSubsFilter- EngSubsOnly-"_s},
-        {u"EngSubsOnly"_s, u"CustomSubsFilter=1"_s, u"CustomSubsFilter=0 CustomSubsFilter-"_s},
-    });
+    Hold_For({u"Audio"_s, u"Subs"_s},
+             {
+                 {u"Custom%1Filter"_s, u"Custom%1Filter=1"_s, u"Custom%1Filter=0 Custom%1Filter- Eng%1Only-"_s},
+                 {u"Eng%1Only"_s, u"Eng%1Only=1"_s, u"Custom%1Filter- %1Mode=2"_s},
+                 {u"Eng%1Only"_s, u"Custom%1Filter=1"_s, u"Custom%1Filter=0 Custom%1Filter-"_s},
+             });
 }
 
 TEST_F(OptionRules, OptionFilesNeedAddedFilesAndTheirDefaultsNeedOptionFiles)
 {
-    Hold({
-        {u"AddAudio"_s, u"AddAudio=1 UseAudioOpts- ApplyDefaultAudioOpts-"_s, u"UseAudioOpts+"_s},
-        {u"AddAudio"_s, u"AddAudio=1 UseAudioOpts=1 UseAudioOpts- ApplyDefaultAudioOpts-"_s,
-         u"UseAudioOpts+ ApplyDefaultAudioOpts+ AudioDiagram+"_s},
-        {u"AddAudio"_s, u"UseAudioOpts=1 AudioDiagram+"_s, u"UseAudioOpts- ApplyDefaultAudioOpts- AudioDiagram-"_s},
-        {u"UseAudioOpts"_s, u"UseAudioOpts=1 ApplyDefaultAudioOpts-"_s, u"ApplyDefaultAudioOpts+ AudioDiagram+"_s},
-        {u"UseAudioOpts"_s, u"ApplyDefaultAudioOpts=1 AudioDiagram+"_s, u"ApplyDefaultAudioOpts- AudioDiagram-"_s},
-        {u"AddSubs"_s, u"AddSubs=1 UseSubOpts- ApplyDefaultSubOpts-"_s, u"UseSubOpts+"_s},
-        {u"AddSubs"_s, u"AddSubs=1 UseSubOpts=1 UseSubOpts- ApplyDefaultSubOpts-"_s,
-         u"UseSubOpts+ ApplyDefaultSubOpts+ SubsDiagram+"_s},
-        {u"AddSubs"_s, u"UseSubOpts=1 SubsDiagram+"_s, u"UseSubOpts- ApplyDefaultSubOpts- SubsDiagram-"_s},
-        {u"UseSubOpts"_s, u"UseSubOpts=1 ApplyDefaultSubOpts-"_s, u"ApplyDefaultSubOpts+ SubsDiagram+"_s},
-        {u"UseSubOpts"_s, u"SubsDiagram+"_s, u"ApplyDefaultSubOpts- SubsDiagram-"_s},
-    });
+    const auto claims = [](const QString& add, const QString& kind, const QString& diagram) {
+        const QString use = u"Use"_s + kind + u"Opts"_s;
+        const QString defaults = u"ApplyDefault"_s + kind + u"Opts"_s;
+        return std::vector<Claim>{
+            {add, add + u"=1 %1- %2-"_s.arg(use, defaults), use + u'+'},
+            {add, add + u"=1 %1=1 %1- %2-"_s.arg(use, defaults), u"%1+ %2+ %3+"_s.arg(use, defaults, diagram)},
+            {add, u"%1=1 %2+"_s.arg(use, diagram), u"%1- %2- %3-"_s.arg(use, defaults, diagram)},
+            {use, u"%1=1 %2-"_s.arg(use, defaults), u"%1+ %2+"_s.arg(defaults, diagram)},
+            {use, u"%1=1 %2+"_s.arg(defaults, diagram), u"%1- %2-"_s.arg(defaults, diagram)},
+        };
+    };
+    Hold(claims(u"AddAudio"_s, u"Audio"_s, u"AudioDiagram"_s));
+    Hold(claims(u"AddSubs"_s, u"Sub"_s, u"SubsDiagram"_s));
 }
 
 TEST_F(OptionRules, RemoveAndCustomTitlesShutOutTheSetTitle)
 {
-    for (const QString& kind : {u"File"_s, u"Video"_s}) {
-        const auto claim = [&kind](const QString& box, QString before, QString changed) {
-            return Claim{QString(box).arg(kind), before.replace(u"%1"_s, kind), changed.replace(u"%1"_s, kind)};
-        };
-        Hold({
-            claim(u"Set%1Title"_s, u"Set%1Title=1 %1Choice-"_s, u"%1Choice+"_s),
-            claim(u"Set%1Title"_s, u""_s, u"%1Choice-"_s),
-            claim(u"Remove%1Title"_s, u"Remove%1Title=1"_s, u"Custom%1Title- Set%1Title- %1Choice-"_s),
-            claim(u"Remove%1Title"_s, u"Custom%1Title=1 Custom%1Title- Set%1Title- Set%1Title=1 %1Choice-"_s,
-                  u"Custom%1Title+"_s),
-            claim(u"Remove%1Title"_s, u"Custom%1Title- Set%1Title- %1Choice-"_s, u"Custom%1Title+ Set%1Title+"_s),
-            claim(u"Remove%1Title"_s, u"Custom%1Title- Set%1Title- Set%1Title=1 %1Choice-"_s,
-                  u"Custom%1Title+ Set%1Title+ %1Choice+"_s),
-            claim(u"Custom%1Title"_s, u"Custom%1Title=1"_s, u"Set%1Title- %1Choice-"_s),
-            claim(u"Custom%1Title"_s, u"Set%1Title- %1Choice-"_s, u"Set%1Title+"_s),
-            claim(u"Custom%1Title"_s, u"Set%1Title=1 Set%1Title- %1Choice-"_s, u"Set%1Title+ %1Choice+"_s),
-        });
-    }
+    Hold_For({u"File"_s, u"Video"_s},
+             {
+                 {u"Set%1Title"_s, u"Set%1Title=1 %1Choice-"_s, u"%1Choice+"_s},
+                 {u"Set%1Title"_s, u""_s, u"%1Choice-"_s},
+                 {u"Remove%1Title"_s, u"Remove%1Title=1"_s, u"Custom%1Title- Set%1Title- %1Choice-"_s},
+                 {u"Remove%1Title"_s, u"Custom%1Title=1 Custom%1Title- Set%1Title- Set%1Title=1 %1Choice-"_s,
+                  u"Custom%1Title+"_s},
+                 {u"Remove%1Title"_s, u"Custom%1Title- Set%1Title- %1Choice-"_s, u"Custom%1Title+ Set%1Title+"_s},
+                 {u"Remove%1Title"_s, u"Custom%1Title- Set%1Title- Set%1Title=1 %1Choice-"_s,
+                  u"Custom%1Title+ Set%1Title+ %1Choice+"_s},
+                 {u"Custom%1Title"_s, u"Custom%1Title=1"_s, u"Set%1Title- %1Choice-"_s},
+                 {u"Custom%1Title"_s, u"Set%1Title- %1Choice-"_s, u"Set%1Title+"_s},
+                 {u"Custom%1Title"_s, u"Set%1Title=1 Set%1Title- %1Choice-"_s, u"Set%1Title+ %1Choice+"_s},
+             });
     opt_SetFileTitle_Click(Prog, 2);
     opt_SetVideoTitle_Click(Prog, 1);
     EXPECT_EQ(Prog.Options.opt_SetFileTitle.Selected, 2);
@@ -146,19 +148,16 @@ TEST_F(OptionRules, RemoveAndCustomTitlesShutOutTheSetTitle)
 
 TEST_F(OptionRules, OtherBoxesDriveTheirMirrorsAndPanels)
 {
+    const std::pair<QString, QString> mirrors[] = {
+        {u"DeleteVideoAP"_s, u"DeleteAfter"_s}, {u"AddAttachments"_s, u"AttachmentsOn"_s},
+        {u"UseSubfolders"_s, u"Subfolders"_s},  {u"AudioPath"_s, u"AudioPanel"_s},
+        {u"SubsPath"_s, u"SubsPanel"_s},        {u"ChaptersPath"_s, u"ChaptersPanel"_s}};
+    for (const auto& [box, mirror] : mirrors)
+        Hold({{box, box + u"=1 "_s + mirror + u'-', mirror + u'+'}, {box, mirror + u'+', mirror + u'-'}});
     Hold({
-        {u"DeleteVideoAP"_s, u"DeleteVideoAP=1"_s, u"DeleteAfter+"_s},
-        {u"DeleteVideoAP"_s, u"DeleteAfter+"_s, u"DeleteAfter-"_s},
-        {u"AddAttachments"_s, u"AddAttachments=1"_s, u"AttachmentsOn+"_s},
-        {u"AddAttachments"_s, u"AttachmentsOn+"_s, u"AttachmentsOn-"_s},
-        {u"UseSubfolders"_s, u"UseSubfolders=1"_s, u"Subfolders+"_s},
-        {u"UseSubfolders"_s, u"Subfolders+"_s, u"Subfolders-"_s},
         {u"SplitVideos"_s, u"SplitVideos=1 SplitPanel- SplitBox- SplitActive-"_s,
          u"SplitPanel+ SplitBox+ SplitActive+"_s},
         {u"SplitVideos"_s, u""_s, u"SplitPanel- SplitBox- SplitActive-"_s},
-        {u"AudioPath"_s, u"AudioPath=1"_s, u"AudioPanel+"_s},
-        {u"SubsPath"_s, u"SubsPath=1"_s, u"SubsPanel+"_s},
-        {u"ChaptersPath"_s, u"ChaptersPanel+"_s, u"ChaptersPanel-"_s},
     });
 }
 

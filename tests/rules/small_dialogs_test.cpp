@@ -23,38 +23,28 @@ struct SmallDialogs : testing::Test, Test_Program
 
 TEST_F(SmallDialogs, TheCustomTitleIsTakenOnDoneOnly)
 {
-    struct Kind
-    {
-        void (*Command)(Program&);
-        QString JobOptions::*Title;
-        Check_Box JobOptions::*Custom;
-        Check_Box JobOptions::*Set;
-        Option_Pair JobOptions::*Choice;
-        QString Caption;
-    };
-
-    for (const Kind& kind :
-         {Kind{mnu_CustomFileTitle_Click, &JobOptions::Custom_File_Title, &JobOptions::chk_CustomFileTitle,
-               &JobOptions::chk_SetFileTitle, &JobOptions::opt_SetFileTitle, u"Set Custom File Title"_s},
-          Kind{mnu_CustomVideoTitle_Click, &JobOptions::Custom_Video_Title, &JobOptions::chk_CustomVideoTitle,
-               &JobOptions::chk_SetVideoTitle, &JobOptions::opt_SetVideoTitle, u"Set Custom Video Title"_s}}) {
-        QString& title = Prog.Options.*kind.Title;
-        Check_Box& box = Prog.Options.*kind.Custom;
+    for (const bool is_file : {true, false}) {
+        JobOptions& o = Prog.Options;
+        const QString caption = is_file ? u"Set Custom File Title"_s : u"Set Custom Video Title"_s;
+        const QString& title = is_file ? o.Custom_File_Title : o.Custom_Video_Title;
+        Check_Box& box = is_file ? o.chk_CustomFileTitle : o.chk_CustomVideoTitle;
+        Check_Box& set_title = is_file ? o.chk_SetFileTitle : o.chk_SetVideoTitle;
+        const Option_Pair& choice = is_file ? o.opt_SetFileTitle : o.opt_SetVideoTitle;
         Custom_Title_Form& form = Prog.Custom_Title;
         const auto act = [&](const std::function<void()>& action) {
-            Person.On_Form[u"frm_CustomTitle"_s] = [&form, &kind, action] {
-                EXPECT_EQ(form.Title_Form_Caption, kind.Caption);
+            Person.On_Form[u"frm_CustomTitle"_s] = [&, action] {
+                EXPECT_EQ(form.Title_Form_Caption, caption);
                 EXPECT_EQ(form.Focus, u"txt_CustomTitle"_s);
                 action();
             };
-            kind.Command(Prog);
+            is_file ? mnu_CustomFileTitle_Click(Prog) : mnu_CustomVideoTitle_Click(Prog);
         };
         act([&] {
             form.txt_CustomTitle.Text = u"A\r\n\"title\""_s;
             btn_CustomTitle_Done_Click(form);
         });
         EXPECT_EQ(title, u"A \"title\""_s);
-        EXPECT_EQ(box.Caption, kind.Caption + u" (NOT empty)"_s);
+        EXPECT_EQ(box.Caption, caption + u" (NOT empty)"_s);
 
         box.Value = 1;
         act([&] {
@@ -64,19 +54,17 @@ TEST_F(SmallDialogs, TheCustomTitleIsTakenOnDoneOnly)
         });
         act([&] { form.txt_CustomTitle.Text = u"closed by other means"_s; });
         EXPECT_EQ(title, u"A \"title\""_s);
-        EXPECT_FALSE((Prog.Options.*kind.Set).Enabled);
-        EXPECT_FALSE((Prog.Options.*kind.Choice).Enabled);
+        EXPECT_FALSE(set_title.Enabled || choice.Enabled);
 
-        (Prog.Options.*kind.Set).Value = 1;
+        set_title.Value = 1;
         act([&] {
             btn_CustomTitle_Clear_Click(form);
             btn_CustomTitle_Done_Click(form);
         });
         EXPECT_EQ(title, u""_s);
-        EXPECT_EQ(box.Caption, kind.Caption + u" (empty)"_s);
+        EXPECT_EQ(box.Caption, caption + u" (empty)"_s);
         EXPECT_EQ(box.Value, 0);
-        EXPECT_TRUE((Prog.Options.*kind.Set).Enabled);
-        EXPECT_TRUE((Prog.Options.*kind.Choice).Enabled);
+        EXPECT_TRUE(set_title.Enabled && choice.Enabled);
     }
 }
 
@@ -84,35 +72,35 @@ TEST_F(SmallDialogs, TheVideoFormatIsUsableWithARatioOrWithTwoWholeNumbers)
 {
     struct Claim
     {
-        int Item;
-        QString Ratio, Width, Height;
+        QString Ratio, Width, Height; ///< a ratio is chosen where there is one
         int Kind;
         QString Value;
-        bool Usable;
     };
 
     const Claim claims[] = {
-        {1, u"16/9"_s, u""_s, u""_s, 1, u"16/9"_s, true}, {1, u"2.35"_s, u"1"_s, u"2"_s, 1, u"2.35"_s, true},
-        {1, u"NONE"_s, u""_s, u""_s, 0, u""_s, false},    {2, u"16/9"_s, u"720"_s, u"576"_s, 2, u"720x576"_s, true},
-        {2, u""_s, u"720"_s, u""_s, 2, u""_s, false},     {2, u""_s, u"720.5"_s, u"576"_s, 2, u""_s, false},
+        {u"16/9"_s, u""_s, u""_s, 1, u"16/9"_s}, {u"2.35"_s, u"1"_s, u"2"_s, 1, u"2.35"_s},
+        {u"NONE"_s, u""_s, u""_s, 0, u""_s},     {u""_s, u"720"_s, u"576"_s, 2, u"720x576"_s},
+        {u""_s, u"720"_s, u""_s, 2, u""_s},      {u""_s, u"720.5"_s, u"576"_s, 2, u""_s},
     };
     for (const Claim& claim : claims) {
+        const bool usable = !claim.Value.isEmpty();
+        const bool by_ratio = !claim.Ratio.isEmpty();
         Prog.Options.Video_Format_Value = u"4/3"_s;
         Prog.Options.Video_Format_Kind = 1;
         Prog.Options.chk_VideoFormatOptions.Value = 1;
-        Prog.Options.chk_VideoFormatOptions.Enabled = !claim.Usable;
+        Prog.Options.chk_VideoFormatOptions.Enabled = !usable;
         In_Video_Format([&](Video_Format_Form& form) {
-            opt_AspectRatio_Click(Prog, claim.Item);
-            EXPECT_EQ(form.cbo_AspectRatio.Enabled, claim.Item == 1);
-            EXPECT_EQ(form.pic_WidthHeight.Enabled, claim.Item == 2);
-            form.cbo_AspectRatio.Text = claim.Ratio;
+            opt_AspectRatio_Click(Prog, by_ratio ? 1 : 2);
+            EXPECT_EQ(form.cbo_AspectRatio.Enabled, by_ratio);
+            EXPECT_EQ(form.pic_WidthHeight.Enabled, !by_ratio);
+            form.cbo_AspectRatio.Text = by_ratio ? claim.Ratio : u"16/9"_s;
             form.txt_Width.Text = claim.Width;
             form.txt_Height.Text = claim.Height;
             btn_VideoFormat_Done_Click(Prog);
         });
         EXPECT_EQ(Prog.Options.Video_Format_Kind, claim.Kind);
         EXPECT_EQ(Prog.Options.Video_Format_Value, claim.Value);
-        EXPECT_EQ(Prog.Options.chk_VideoFormatOptions.Enabled, claim.Usable);
+        EXPECT_EQ(Prog.Options.chk_VideoFormatOptions.Enabled, usable);
         EXPECT_EQ(Prog.Options.chk_VideoFormatOptions.Value, 1);
     }
 }

@@ -24,12 +24,17 @@ struct Deletions : testing::Test
         Merge_Ends_With(0);
         Prog.Options.Log_Verbosity = 1;
         Prog.Options.Delete_Video_After = true;
+        Prog.Options.Path_Attachments = Test.Path(u"attachments/"_s);
+        Lay_Down();
+    }
+
+    void Lay_Down() const
+    {
         for (const QString& name : {u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"A*_track dir/x"_s,
                                     u"ab_Track1.mp3"_s, u"a*.srt"_s, u"a*_Attachments/font.ttf"_s})
             Test.Write(u"videos/"_s + name, "x");
         Test.Write(u"attachments/one.ttf"_s, "x");
         Test.Write(u"attachments/notes.txt"_s, "x");
-        Prog.Options.Path_Attachments = Test.Path(u"attachments/"_s);
     }
 
     void Merge_Ends_With(int status)
@@ -47,11 +52,6 @@ struct Deletions : testing::Test
             left += QDir(Test.Path(folder)).entryList(QDir::Files, QDir::Name);
         return left;
     }
-
-    int Notes(const QString& what) const
-    {
-        return static_cast<int>(Test.Results().filter(what + u" DELETED after Processing - \""_s).size());
-    }
 };
 
 const QStringList All = {u"a*.mkv"_s,        u"a*.srt"_s,   u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s,
@@ -67,18 +67,33 @@ QStringList All_But(const QStringList& gone)
 
 } // namespace
 
-TEST_F(Deletions, WithoutTheMainSwitchNothingGoes)
+TEST_F(Deletions, EachSwitchTakesItsFilesAndNothingElse)
 {
-    Prog.Options.Delete_Video_After = false;
-    Prog.Options.Delete_Sundry_Files = true;
-    EXPECT_EQ(Run(), All);
-}
-
-TEST_F(Deletions, TheSourceGoesWhateverMkvmergesResultWas)
-{
-    Merge_Ends_With(2);
-    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s}));
-    EXPECT_EQ(Notes(u"-- Source video file"_s), 1);
+    const QStringList companions = {u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s};
+    // The main switch, that of the companions, attachments, from subfolders; what goes, and the last note about it.
+    const std::tuple<bool, bool, bool, bool, QStringList, QString> claims[] = {
+        {false, true, true, true, {}, u""_s},
+        {true, false, true, true, companions.first(1), u"Source video file"_s},
+        {true, true, false, true, companions, u"Ancillary files"_s},
+        {true, true, true, false, companions + QStringList{u"one.ttf"_s}, u"ATTACHMENT files"_s},
+        {true, true, true, true, companions + QStringList{u"font.ttf"_s}, u"ATTACHMENT folder"_s},
+    };
+    for (const auto& [video, sundry, attachments, subfolders, gone, note] : claims) {
+        Lay_Down();
+        Merge_Ends_With(2); // whatever mkvmerge's result was
+        Prog.Options.Delete_Video_After = video;
+        Prog.Options.Delete_Sundry_Files = sundry;
+        Prog.Run.Add_Attachments_On = attachments;
+        Prog.Options.Use_Attachment_Subfolders = subfolders;
+        Prog.Logs.Log_Results.Clear();
+        EXPECT_EQ(Run(), All_But(gone));
+        EXPECT_NE(QDir(Test.Path(u"videos/A*_track dir"_s)).exists(), video && sundry)
+            << "a folder by a companion's name";
+        EXPECT_NE(QDir(Test.Path(u"videos/a*_Attachments"_s)).exists(), gone.contains(u"font.ttf"_s));
+        const QStringList notes = Test.Results().filter(u" DELETED after Processing - \""_s);
+        EXPECT_TRUE(notes.isEmpty() ? gone.isEmpty() : notes.constLast().contains(note)) << note.toStdString();
+        EXPECT_EQ(notes.size(), gone.isEmpty() ? 0 : gone.size() == 1 ? 1 : gone.size() - 1);
+    }
     EXPECT_TRUE(Names_In_Trash().contains(u"a*.mkv"_s));
 }
 
@@ -91,33 +106,6 @@ TEST_F(Deletions, WithTheExtensionASourceGoesOnlyAfterASuccess)
     EXPECT_EQ(Test.Results().filter(u"-- Source video file KEPT"_s).size(), 1);
     Merge_Ends_With(1);
     EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s}));
-}
-
-TEST_F(Deletions, CompanionsGoByTheirLiteralPrefix)
-{
-    Prog.Options.Delete_Sundry_Files = true;
-    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s}));
-    EXPECT_FALSE(QDir(Test.Path(u"videos/A*_track dir"_s)).exists());
-    EXPECT_EQ(Notes(u"Ancillary files"_s), 1);
-    EXPECT_EQ(Notes(u"ATTACHMENT files"_s) + Notes(u"ATTACHMENT folder"_s), 0);
-}
-
-TEST_F(Deletions, AttachmentFilesGoWithTheCompanions)
-{
-    Prog.Options.Delete_Sundry_Files = true;
-    Prog.Run.Add_Attachments_On = true;
-    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"one.ttf"_s}));
-    EXPECT_EQ(Notes(u"ATTACHMENT files"_s), 1);
-}
-
-TEST_F(Deletions, WithSubfoldersTheFolderBesideTheVideoGoes)
-{
-    Prog.Options.Delete_Sundry_Files = true;
-    Prog.Run.Add_Attachments_On = true;
-    Prog.Options.Use_Attachment_Subfolders = true;
-    EXPECT_EQ(Run(), All_But({u"a*.mkv"_s, u"a*_Track1.mp3"_s, u"a*_Track1.opt"_s, u"font.ttf"_s}));
-    EXPECT_FALSE(QDir(Test.Path(u"videos/a*_Attachments"_s)).exists());
-    EXPECT_EQ(Notes(u"ATTACHMENT folder"_s), 1);
 }
 
 TEST_F(Deletions, WhatCannotBeMovedToTheTrashStaysAndIsNotCalledDeleted)

@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -50,16 +49,6 @@ TEST(ChildProcess, BothStreamsArriveInOrderAndTheStatusIsKnown)
     EXPECT_EQ(Children_Left(), 0);
 }
 
-TEST(ChildProcess, EveryArgumentArrivesAsItIs)
-{
-    const QStringList arguments = {u""_s,     u"two words"_s, u"\"quoted\""_s, u"$(x) %s *"_s,
-                                   u"a\nb"_s, u"-é漢"_s,      u"'"_s,          QString(10000, u'x')};
-    Child_Process child;
-    ASSERT_EQ(child.Start(u"/bin/sh"_s, QStringList{u"-c"_s, u"printf '%s|' \"$@\""_s, u"sh"_s} + arguments),
-              Started::Yes);
-    EXPECT_EQ(QString::fromUtf8(Output_Of(child)), arguments.join(u'|') + u'|');
-}
-
 TEST(ChildProcess, AProgramThatCannotBeExecutedIsAFailedStart)
 {
     const Test_Program test;
@@ -86,22 +75,6 @@ TEST(ChildProcess, AProgramThatCannotBeExecutedIsAFailedStart)
     }
     EXPECT_EQ(Open_Descriptors(), descriptors);
     EXPECT_EQ(Children_Left(), 0);
-}
-
-TEST(ChildProcess, WithoutADescriptorThePipeFails)
-{
-    rlimit limit = {};
-    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
-    const int next = ::dup(0);
-    ::close(next);
-    const rlimit none = {static_cast<rlim_t>(next), limit.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
-    Child_Process child;
-    const Started started = child.Start(u"/bin/true"_s, {});
-    const int error = child.System_Error();
-    ::setrlimit(RLIMIT_NOFILE, &limit);
-    EXPECT_EQ(started, Started::No_Pipe);
-    EXPECT_EQ(error, EMFILE);
 }
 
 TEST(ChildProcess, ASilentChildGivesTheReaderItsTurnAndDiesWithItsGroup)

@@ -17,12 +17,13 @@ TEST(Registry, AValueIsFoundByItsNameWithoutRegardToCaseAndCutAtItsFirstZero)
     QString value = u"former"_s;
     EXPECT_FALSE(Find_Registry_Value(values, u"absent"_s, value));
     EXPECT_EQ(value, u"former"_s);
-    EXPECT_TRUE(Find_Registry_Value(values, u"pATH"_s, value));
-    EXPECT_EQ(value, u"C:\\x"_s);
-    EXPECT_TRUE(Find_Registry_Value(values, {}, value));
-    EXPECT_EQ(value, u"C:\\gui.exe"_s);
-    EXPECT_TRUE(Find_Registry_Value(values, u"count"_s, value));
-    EXPECT_EQ(value, QString()) << "a number is no text";
+    // A number is no text.
+    const std::pair<QString, QString> claims[] = {
+        {u"pATH"_s, u"C:\\x"_s}, {u""_s, u"C:\\gui.exe"_s}, {u"count"_s, u""_s}};
+    for (const auto& [name, data] : claims) {
+        EXPECT_TRUE(Find_Registry_Value(values, name, value));
+        EXPECT_EQ(value, data);
+    }
 }
 
 TEST(Registry, BadRootsAndBadKeysLeaveTheSameErrorAndAGoodKeyIsNotFoundHere)

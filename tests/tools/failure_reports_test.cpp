@@ -11,10 +11,6 @@ TEST(FailureReports, EachShowsItsBoxAndLogsItsLines)
 {
     const QString cancelled = u" Further processing of this file is cancelled."_s;
     const std::tuple<int, QString, QString, QStringList> claims[] = {
-        {11,
-         u"Failed to create pipe."_s,
-         u"Failed to create a pipe for T{1}."_s,
-         {u"F"_s, u"-- Failed to create a pipe for T{1}."_s + cancelled}},
         {13,
          u"Possible functional error with T{1}."_s,
          u"T{1} failed to return any useful information.\r\n\r\nFurther"_s,
@@ -24,10 +20,6 @@ TEST(FailureReports, EachShowsItsBoxAndLogsItsLines)
          u"mkvmerge.exe was not found in the Registry!"_s,
          u"Mkvmerge.exe was not found, either"_s,
          {u"-- mkvmerge.exe not found in the Registry or Locally /ini. Processing cannot proceed."_s}},
-        {70,
-         u"Are you SURE this is a video file!?"_s,
-         u"File name extension is missing!\r\n"_s,
-         {u"F"_s, u"-- Video file name extension is missing. I don't know what to do!"_s}},
     };
     for (const auto& [code, title, text_begins, wanted] : claims) {
         Test_Program test;

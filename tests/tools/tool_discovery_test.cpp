@@ -41,14 +41,6 @@ struct Tools_Test : testing::Test, Test_Program
 
     QString Says_Nothing(const QString& relative) const { return Write_Stand_In(*this, relative, ""); }
 
-    QList<int> Codes() const
-    {
-        QList<int> codes;
-        for (const Message_Box& box : Person.Messages)
-            codes += box.Code;
-        return codes;
-    }
-
   private:
     QByteArray former_path_;
 };
@@ -104,16 +96,14 @@ TEST_F(Tools_Test, FFProbeOfPathIsLinkedIntoTheProgramsFolder)
 
 TEST_F(Tools_Test, OnlyTheAcceptedVersionIsALocalCopy)
 {
-    const std::tuple<const char*, QByteArray, bool> cases[] = {
-        {"the accepted version", Accepted, true},
-        {"the same in other letters", Accepted.toUpper(), true},
-        {"another version", "mkvmerge v74.0.0 ('You Oughta Know') 64-bit", false},
-        {"silence", "", false},
-    };
-    for (const auto& [what, words, found] : cases) {
+    const std::pair<QByteArray, bool> cases[] = {{Accepted, true},
+                                                 {Accepted.toUpper(), true},
+                                                 {"mkvmerge v74.0.0 ('You Oughta Know') 64-bit", false},
+                                                 {"", false}};
+    for (const auto& [words, found] : cases) {
         const QString path = Says(u"app/mkvmerge"_s, words);
-        EXPECT_EQ(Find_Local_MKVMerge(Prog), found) << what;
-        EXPECT_EQ(Prog.Tools.Local_MKVMerge_Path, found ? path : QString()) << what;
+        EXPECT_EQ(Find_Local_MKVMerge(Prog), found) << words.data();
+        EXPECT_EQ(Prog.Tools.Local_MKVMerge_Path, found ? path : QString()) << words.data();
     }
     QFile::remove(Path(u"app/mkvmerge"_s));
     QDir().mkpath(Path(u"app/mkvmerge"_s));
@@ -124,24 +114,21 @@ TEST_F(Tools_Test, OnlyTheAcceptedVersionIsALocalCopy)
 TEST_F(Tools_Test, TheSystemCopyIsTheSettingsPathElseTheInstalledOneElseTheLocalOne)
 {
     const QString kept = Says(u"my tools/mkvmerge"_s, "mkvmerge v1");
-    Prog.Settings.Mkvmerge_Path_Ini = kept;
-    EXPECT_TRUE(Find_System_MKVMerge(Prog));
-    EXPECT_EQ(Prog.Tools.System_MKVMerge_Path, kept);
-    EXPECT_EQ(Prog.Settings.lbl_MKVMerge_Choose, u"Set by Operator"_s) << "keeps what it was";
-
-    Prog.Settings.Mkvmerge_Path_Ini = u"/gone"_s;
     const QString installed = Says(u"bin/mkvmerge"_s, "mkvmerge v1");
-    EXPECT_TRUE(Find_System_MKVMerge(Prog));
-    EXPECT_EQ(Prog.Tools.System_MKVMerge_Path, installed);
-    EXPECT_EQ(Prog.Settings.lbl_MKVMerge_Choose, u"Read from Registry"_s);
-    EXPECT_EQ(Codes(), QList<int>());
-
-    QFile::remove(installed);
     Prog.Tools.Local_MKVMerge_Path = u"/local/mkvmerge"_s;
-    EXPECT_TRUE(Find_System_MKVMerge(Prog));
-    EXPECT_EQ(Prog.Tools.System_MKVMerge_Path, u"/local/mkvmerge"_s);
-    EXPECT_EQ(Prog.Settings.lbl_MKVMerge_Choose, u"Using Local mkvmerge"_s);
-    EXPECT_EQ(Codes(), QList<int>{52});
+    Prog.Settings.Mkvmerge_Path_Ini = kept;
+    const std::tuple<QString, QString, QList<int>> claims[] = {{kept, u"Set by Operator"_s, {}},
+                                                               {installed, u"Read from Registry"_s, {}},
+                                                               {u"/local/mkvmerge"_s, u"Using Local mkvmerge"_s, {52}}};
+    for (const auto& [path, choice, codes] : claims) {
+        EXPECT_TRUE(Find_System_MKVMerge(Prog));
+        EXPECT_EQ(Prog.Tools.System_MKVMerge_Path, path);
+        EXPECT_EQ(Prog.Settings.lbl_MKVMerge_Choose, choice);
+        EXPECT_EQ(Codes(), codes);
+        Prog.Settings.Mkvmerge_Path_Ini = u"/gone"_s;
+        if (path == installed)
+            QFile::remove(installed);
+    }
 }
 
 TEST_F(Tools_Test, TheInstalledMkvmergeIsTheOneBesideTheGraphicalProgram)
@@ -193,7 +180,6 @@ TEST_F(Tools_Test, AToolThatHangsGivesWayToAHalt)
 TEST_F(Tools_Test, PathsAreCheckedForExistenceAndName)
 {
     const QString file = Write(u"dir/MkvMerge"_s);
-
     const std::tuple<QString, QString, int> cases[] = {{{}, u"mkvmerge"_s, 4},
                                                        {file + u"x"_s, u"mkvmerge"_s, 2},
                                                        {Path(u"dir"_s), u"mkvmerge"_s, 2},

@@ -85,83 +85,68 @@ TEST(OptionEditor, AppliesToOneRowAllBoxesAndToSeveralTheSetOnes)
 {
     struct Claim
     {
-        const char* Name;
-        QByteArray A, B; ///< option files before; null: none
-        std::vector<int> Rows;
+        QByteArray A, B; ///< option files before and after; null: none
         std::vector<std::pair<Option_Slot, QString>> Typed;
         QByteArray A_After, B_After;
-        QStringList Listed;
+        QString Listed; ///< whose option files are in the list afterwards
     };
 
-    const QStringList both{u"a.mp3|a.mp3.opt"_s, u"b.mp3|b.mp3.opt"_s};
-    const QStringList none{u"a.mp3|"_s, u"b.mp3|"_s};
-    const QStringList first{u"a.mp3|a.mp3.opt"_s, u"b.mp3|"_s};
     const QString german = u"German (ger)"_s;
-    const Claim claims[] = {
-        {"one row, nothing in the boxes", {}, {}, {0}, {}, {}, {}, none},
-        {"one row gains a file",
+    const std::vector<std::pair<Option_Slot, QString>> three = {
+        {Title_Slot, u"One\nand\r\nmore"_s}, {Forced_Slot, u"YES"_s}, {Delay_Slot, u"-5"_s}};
+    const Claim one_row[] = {
+        {{}, {}, {}, {}, {}, u""_s},
+        {{}, {}, three, "Title=One and more\r\nForced=YES\r\nDelay=-5\r\n", {}, u"a"_s},
+        {"Title=One\r\n", {}, {{Title_Slot, {}}}, {}, {}, u""_s}, // emptied: the file goes to the trash
+        {"Title=a\r\n# note\r\nStretch=1\r\n",
          {},
-         {},
-         {0},
-         {{Title_Slot, u"One\nand\r\nmore"_s}, {Forced_Slot, u"YES"_s}, {Delay_Slot, u"-5"_s}},
-         "Title=One and more\r\nForced=YES\r\nDelay=-5\r\n",
-         {},
-         first},
-        {"one row emptied: the file goes to the trash", "Title=One\r\n", {}, {0}, {{Title_Slot, {}}}, {}, {}, none},
-        {"comments and foreign keys go",
-         "Title=a\r\n# note\r\nStretch=1\r\n",
-         {},
-         {0},
          {{Language_Slot, german}},
          "Title=a\r\nLanguage=German (ger)\r\n",
          {},
-         first},
-        {"several rows keep their own titles",
-         "Title=One\r\n",
+         u"a"_s},
+        {{}, {}, {{Default_Slot, u"perhaps"_s}}, {}, {}, u""_s}, // only yes and no are taken for a flag
+    };
+    const Claim two_rows[] = {
+        {"Title=One\r\n",
          "Title=Two\r\n",
-         {0, 1},
          {{Language_Slot, german}},
          "Title=One\r\nLanguage=German (ger)\r\n",
          "Title=Two\r\nLanguage=German (ger)\r\n",
-         both},
-        {"an empty set box keeps the old value",
+         u"ab"_s},
+        {"Title=One\r\n",
          "Title=One\r\n",
-         "Title=One\r\n",
-         {0, 1},
          {{Title_Slot, {}}, {Delay_Slot, u"7"_s}},
          "Title=One\r\nDelay=7\r\n",
          "Title=One\r\nDelay=7\r\n",
-         both},
-        {"a row without a file gains one",
-         {},
-         "Delay=7\r\n",
-         {0, 1},
-         {{Title_Slot, u"Both"_s}},
-         "Title=Both\r\n",
-         "Title=Both\r\nDelay=7\r\n",
-         both},
-        {"all grey: a name in the list and no file", {}, "Delay=7\r\n", {0, 1}, {}, {}, "Delay=7\r\n", both},
-        {"only yes and no are taken for a flag", {}, {}, {0}, {{Default_Slot, u"perhaps"_s}}, {}, {}, none},
+         u"ab"_s}, // an empty set box keeps the old value
+        {{}, "Delay=7\r\n", {{Title_Slot, u"Both"_s}}, "Title=Both\r\n", "Title=Both\r\nDelay=7\r\n", u"ab"_s},
+        {{}, "Delay=7\r\n", {}, {}, "Delay=7\r\n", u"ab"_s}, // all grey: a name in the list and no file
     };
-    for (const Claim& claim : claims) {
-        SCOPED_TRACE(claim.Name);
+    const auto hold = [](const Claim& claim, const std::vector<int>& rows) {
         Editor_Test test;
-        test.Write(u"videos/a.mp3"_s);
-        test.Write(u"videos/b.mp3"_s);
-        if (!claim.A.isNull())
-            test.Write(u"videos/a.mp3.opt"_s, claim.A);
-        if (!claim.B.isNull())
-            test.Write(u"videos/b.mp3.opt"_s, claim.B);
+        for (const auto& [name, content] : {std::pair(u"a"_s, claim.A), {u"b"_s, claim.B}}) {
+            test.Write(u"videos/%1.mp3"_s.arg(name));
+            if (!content.isNull())
+                test.Write(u"videos/%1.mp3.opt"_s.arg(name), content);
+        }
         test.Edit([&] {
-            test.Select(claim.Rows);
+            test.Select(rows);
             for (const auto& [slot, text] : claim.Typed)
                 test.Type(slot, text);
             btn_Apply_Click(test.Prog);
-            EXPECT_EQ(test.Listed(), claim.Listed);
+            for (int row = 0; row < 2; ++row) {
+                const QString name = row == 0 ? u"a"_s : u"b"_s;
+                EXPECT_EQ(test.Listed()[row],
+                          name + u".mp3|"_s + (claim.Listed.contains(name) ? name + u".mp3.opt"_s : u""_s));
+            }
         });
         EXPECT_EQ(test.Read(u"videos/a.mp3.opt"_s), claim.A_After);
         EXPECT_EQ(test.Read(u"videos/b.mp3.opt"_s), claim.B_After);
-    }
+    };
+    for (const Claim& claim : one_row)
+        hold(claim, {0});
+    for (const Claim& claim : two_rows)
+        hold(claim, {0, 1});
 }
 
 TEST(OptionEditor, LeavingABoxGreysItWhereItHoldsNothingUsable)
