@@ -31,140 +31,98 @@ static Ini_Document Read_And_Written(const QByteArray& text)
     return document;
 }
 
-/// A text in the file and the text that is written back. `Beside` are further lines of the same section. What is
-/// claimed of a key of the audio tracks holds for that of the subtitles, and so on: see Twin_Of.
+/// Texts in the file and those that are written back, "one>other|next>other". `Beside` are further lines of the same
+/// section. What is claimed of a key of the audio tracks holds for that of the subtitles, and so on: see Twin_Of.
+struct Text_Claims
+{
+    QString Section, Key;
+    QByteArray Texts;
+    QByteArray Beside = {};
+};
+
+static const Text_Claims Texts[] = {
+    {u"MainWindow"_s, u"Save Settings on Exit"_s, "TRUE>True"},
+    {u"MainWindow"_s, u"Left"_s, "-7>0| 12.5 >12"},
+    {u"MainWindow"_s, u"Top"_s, "-3>0"},
+    {u"MainWindow"_s, u"Width"_s, "1024.4>1024"},
+    {u"MainWindow"_s, u"Height"_s, "-9>-9"},
+    {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s,
+     "-1:-2:3:4:2>-1:-2:3:4:2|1:2:3:4>50:100:800:600:0|1:2:3:4:5:6>50:100:800:600:0|>50:100:800:600:0|1.5:2.5:3:4:0>2:"
+     "2:3:4:0"},
+    {u"ProcessLog"_s, u"Set Font Size"_s, "3>4|99>41|emptyvalue>10|41>41|12.5>12|-1e9>4"},
+    {u"ProcessLog"_s, u"Not First Run"_s, "true>True|FALSE>False|0>False|-1>True|emptyvalue>False"},
+    {u"Menu"_s, u"Append Logs"_s, "no>True|FALSE>False|>True"},
+    {u"Menu"_s, u"Log Verbosity"_s, "7>7|8>0|03>0|x>0|>0"},
+    {u"Menu"_s, u"Delete Processed File"_s, "false>False"},
+    {u"Menu"_s, u"Delete Source Video Sundry Files"_s, "x>True"},
+    {u"Paths"_s, u"Last Videos Path"_s, "/somewhere/>"},
+    {u"Paths"_s, u"Last Target Path"_s, "/somewhere/>"},
+    {u"Paths"_s, u"Last Audios Path"_s, "/no such; folder/>/no such; folder/"},
+    {u"Paths"_s, u"Attachments Path"_s, "/no such folder/>"},
+    {u"Paths"_s, u"Set or read"_s, ">Set by Operator|Read from Registry>Read from Registry"},
+    {u"Audio Option Files"_s, u"Title"_s, "A Title>"},
+    {u"Audio Option Files"_s, u"Title"_s, "A Title>A Title", "Sticky Titles=on\n"},
+    {u"Audio Option Files"_s, u"Language"_s, "English (eng)>English (eng)", "Sticky Languages=On\n"},
+    {u"Audio Option Files"_s, u"Default"_s, "YES>yes|maybe>", "Sticky Default=On\n"},
+    {u"Audio Option Files"_s, u"Forced"_s, "No>no|maybe>|>", "Sticky Forced=On\n"},
+    {u"Audio Option Files"_s, u"Forced"_s, "yes>", "Sticky Forced=Maybe\n"},
+    {u"Audio Option Files"_s, u"Delay"_s,
+     ">0|0070>70|12,34>12|000>0|-5>|1,,2>|123456789012345678901234567890>123456789012345678901234567890",
+     "Sticky Delay=On\n"},
+    {u"Audio Option Files"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "-1:-2:3:4:1>1:2:3:4:1"},
+    {u"Subtitle Option Files"_s, u"Forced"_s, "maybe>no|>no", "Sticky Forced=On\n"},
+    {u"Audio"_s, u"Custom Audio Filter Language(s)"_s,
+     "nOnE>NONE|English (eng):French (fre)>English (eng):French (fre)|>NONE"},
+    {u"Audio"_s, u"Cut or Keep Audio Languages"_s, "KEEP>Keep|else>Cut"},
+    {u"Audio"_s, u"Apply custom Audio Filter"_s, "On>Off"},
+    {u"Audio"_s, u"Apply custom Audio Filter"_s, "on>On", "Custom Audio Filter Language(s)=English (eng)\n"},
+    {u"Audio"_s, u"Apply custom Audio Filter.Enabled"_s, "Disabled>Enabled",
+     "Custom Audio Filter Language(s)=English (eng)\n"},
+    {u"Audio"_s, u"Apply custom Audio Filter.Enabled"_s, "Enabled>Disabled"},
+    {u"Audio"_s, u"Custom Audio Filter Window Size and Position (T,L,W,H,MM)"_s, "-5:-6:7:8:9>5:6:7:8:0"},
+    {u"Audio"_s, u"Filter out NON-English Audio.Enabled"_s, "Disabled>Enabled"},
+    {u"Audio"_s, u"Filter out NON-English Audio"_s, "On>Off",
+     "Custom Audio Filter Language(s)=English (eng)\nApply custom Audio Filter=On\n"},
+    {u"Audio"_s, u"Filter out NON-English Audio"_s, "On>Off", "Apply custom Audio Filter=On\n"},
+    {u"Audio"_s, u"Apply custom Audio Filter"_s, "On>Off",
+     "Custom Audio Filter Language(s)=English (eng)\nKeep English Titled Audio=On\n"},
+    {u"Audio"_s, u"Apply custom Audio Filter"_s, "On>On",
+     "Custom Audio Filter Language(s)=English (eng)\nFilter out NON-English Audio=On\n"},
+    {u"Audio"_s, u"Keep English Titled Audio"_s, "x>True"},
+    {u"Audio"_s, u"Audio Delay"_s, "123456>99999|-123456>-99999|word>0|->0|>0|007>007|-250>-250|1.5>0"},
+    {u"Most Recently Used Sources"_s, u"MRU Sources"_s, "none>NONE"},
+    {u"Most Recently Used Destinations"_s, u"MRU Targets"_s, ">NONE"},
+    {u"Video Format Options"_s, u"Aspect Ratio or Video Dimensions"_s,
+     "ASPECT RATIO>Aspect Ratio|video dimensions>Video Dimensions|x>emptyvalue"},
+    {u"Video Format Options"_s, u"Settings"_s, "720X480>720x480|EmptyValue>emptyvalue"},
+    {u"Video Format Options"_s, u"Use Video Format Options"_s, "perhaps>Off"},
+    {u"Subtitles"_s, u"Set All Subtitle defaults"_s, "perhaps>Off"},
+    {u"Subtitles"_s, u"Set All Subtitle defaults to no/yes"_s, "YES>yes|x>no"},
+    {u"Chapters"_s, u"Chapters Format"_s, "x>HH:MM:SS.hh(h)|HH:mm:SS.ff>HH:MM:SS.ff"},
+    {u"Other Options"_s, u"Set Video Frame Rate Options"_s,
+     "USE MediaInfo discovered Frame Rate>Use MediaInfo discovered Frame Rate|x>INVALID SELECTION"},
+    {u"Other Options"_s, u"Set Video Frame Rate Value"_s, "23.976FPS>23.976fps|EMPTYVALUE>EMPTYVALUE"},
+    {u"Other Options"_s, u"Set Custom File Title Text"_s, "  -- \xC3\xA4 = %1  >-- \xC3\xA4 = %1"},
+    {u"Other Options"_s, u"Set File Title Option"_s, "FORCE>Force|Always>If Empty"},
+    {u"Other Options"_s, u"Add Attachments"_s, "On>Off"},
+    {u"Other Options"_s, u"Attach Contents of Titled Subfolders Instead"_s, "On>Off"},
+    {u"Other Options"_s, u"Split multiple video files (minutes)"_s,
+     "9>30|10>10|999>999|1000>30|12 minutes>12 minutes|word>30|>30"},
+    {u"Vantorra - by Zarnegar"_s, u"Version"_s, "1.0.0>2.5.5"},
+    {u"Extensions"_s, u"Careful Batch"_s, "perhaps>Off"},
+    {u"Extensions"_s, u"If The Output Exists"_s, "number>Number|perhaps>Replace"},
+    {u"Extensions"_s, u"Run Button Follows Folders"_s, "perhaps>On"},
+    {u"Extensions"_s, u"Delete Source Only After Success"_s, "perhaps>Off"},
+    {u"Extensions"_s, u"Identify With Any mkvmerge"_s, "perhaps>On"},
+};
+
+/// One of the texts, and what is written back.
 struct Text_Claim
 {
     QString Section, Key;
     QByteArray In;
     QString Out;
-    QByteArray Beside = {};
-};
-
-static const Text_Claim Texts[] = {
-    {u"MainWindow"_s, u"Save Settings on Exit"_s, "TRUE", u"True"_s},
-    {u"MainWindow"_s, u"Left"_s, "-7", u"0"_s},
-    {u"MainWindow"_s, u"Left"_s, " 12.5 ", u"12"_s},
-    {u"MainWindow"_s, u"Top"_s, "-3", u"0"_s},
-    {u"MainWindow"_s, u"Width"_s, "1024.4", u"1024"_s},
-    {u"MainWindow"_s, u"Height"_s, "-9", u"-9"_s},
-    {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "-1:-2:3:4:2", u"-1:-2:3:4:2"_s},
-    {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "1:2:3:4", u"50:100:800:600:0"_s},
-    {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "1:2:3:4:5:6", u"50:100:800:600:0"_s},
-    {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "", u"50:100:800:600:0"_s},
-    {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "1.5:2.5:3:4:0", u"2:2:3:4:0"_s},
-    {u"ProcessLog"_s, u"Set Font Size"_s, "3", u"4"_s},
-    {u"ProcessLog"_s, u"Set Font Size"_s, "99", u"41"_s},
-    {u"ProcessLog"_s, u"Set Font Size"_s, "emptyvalue", u"10"_s},
-    {u"ProcessLog"_s, u"Set Font Size"_s, "41", u"41"_s},
-    {u"ProcessLog"_s, u"Set Font Size"_s, "12.5", u"12"_s},
-    {u"ProcessLog"_s, u"Set Font Size"_s, "-1e9", u"4"_s},
-    {u"ProcessLog"_s, u"Not First Run"_s, "true", u"True"_s},
-    {u"ProcessLog"_s, u"Not First Run"_s, "FALSE", u"False"_s},
-    {u"ProcessLog"_s, u"Not First Run"_s, "0", u"False"_s},
-    {u"ProcessLog"_s, u"Not First Run"_s, "-1", u"True"_s},
-    {u"ProcessLog"_s, u"Not First Run"_s, "emptyvalue", u"False"_s},
-    {u"Menu"_s, u"Append Logs"_s, "no", u"True"_s},
-    {u"Menu"_s, u"Append Logs"_s, "FALSE", u"False"_s},
-    {u"Menu"_s, u"Append Logs"_s, "", u"True"_s},
-    {u"Menu"_s, u"Log Verbosity"_s, "7", u"7"_s},
-    {u"Menu"_s, u"Log Verbosity"_s, "8", u"0"_s},
-    {u"Menu"_s, u"Log Verbosity"_s, "03", u"0"_s},
-    {u"Menu"_s, u"Log Verbosity"_s, "x", u"0"_s},
-    {u"Menu"_s, u"Log Verbosity"_s, "", u"0"_s},
-    {u"Menu"_s, u"Delete Processed File"_s, "false", u"False"_s},
-    {u"Menu"_s, u"Delete Source Video Sundry Files"_s, "x", u"True"_s},
-    {u"Paths"_s, u"Last Videos Path"_s, "/somewhere/", u""_s},
-    {u"Paths"_s, u"Last Target Path"_s, "/somewhere/", u""_s},
-    {u"Paths"_s, u"Last Audios Path"_s, "/no such; folder/", u"/no such; folder/"_s},
-    {u"Paths"_s, u"Attachments Path"_s, "/no such folder/", u""_s},
-    {u"Paths"_s, u"Set or read"_s, "", u"Set by Operator"_s},
-    {u"Paths"_s, u"Set or read"_s, "Read from Registry", u"Read from Registry"_s},
-    {u"Audio Option Files"_s, u"Title"_s, "A Title", u""_s},
-    {u"Audio Option Files"_s, u"Title"_s, "A Title", u"A Title"_s, "Sticky Titles=on\n"},
-    {u"Audio Option Files"_s, u"Language"_s, "English (eng)", u"English (eng)"_s, "Sticky Languages=On\n"},
-    {u"Audio Option Files"_s, u"Default"_s, "YES", u"yes"_s, "Sticky Default=On\n"},
-    {u"Audio Option Files"_s, u"Default"_s, "maybe", u""_s, "Sticky Default=On\n"},
-    {u"Audio Option Files"_s, u"Forced"_s, "No", u"no"_s, "Sticky Forced=On\n"},
-    {u"Audio Option Files"_s, u"Forced"_s, "maybe", u""_s, "Sticky Forced=On\n"},
-    {u"Audio Option Files"_s, u"Forced"_s, "", u""_s, "Sticky Forced=On\n"},
-    {u"Audio Option Files"_s, u"Forced"_s, "yes", u""_s, "Sticky Forced=Maybe\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "", u"0"_s, "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "0070", u"70"_s, "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "12,34", u"12"_s, "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "000", u"0"_s, "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "-5", u""_s, "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "1,,2", u""_s, "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Delay"_s, "123456789012345678901234567890", u"123456789012345678901234567890"_s,
-     "Sticky Delay=On\n"},
-    {u"Audio Option Files"_s, u"Window Size and Position (T,L,W,H,MM)"_s, "-1:-2:3:4:1", u"1:2:3:4:1"_s},
-    {u"Subtitle Option Files"_s, u"Forced"_s, "maybe", u"no"_s, "Sticky Forced=On\n"},
-    {u"Subtitle Option Files"_s, u"Forced"_s, "", u"no"_s, "Sticky Forced=On\n"},
-    {u"Audio"_s, u"Custom Audio Filter Language(s)"_s, "nOnE", u"NONE"_s},
-    {u"Audio"_s, u"Custom Audio Filter Language(s)"_s, "English (eng):French (fre)", u"English (eng):French (fre)"_s},
-    {u"Audio"_s, u"Custom Audio Filter Language(s)"_s, "", u"NONE"_s},
-    {u"Audio"_s, u"Cut or Keep Audio Languages"_s, "KEEP", u"Keep"_s},
-    {u"Audio"_s, u"Cut or Keep Audio Languages"_s, "else", u"Cut"_s},
-    {u"Audio"_s, u"Apply custom Audio Filter"_s, "On", u"Off"_s},
-    {u"Audio"_s, u"Apply custom Audio Filter"_s, "on", u"On"_s, "Custom Audio Filter Language(s)=English (eng)\n"},
-    {u"Audio"_s, u"Apply custom Audio Filter.Enabled"_s, "Disabled", u"Enabled"_s,
-     "Custom Audio Filter Language(s)=English (eng)\n"},
-    {u"Audio"_s, u"Apply custom Audio Filter.Enabled"_s, "Enabled", u"Disabled"_s},
-    {u"Audio"_s, u"Custom Audio Filter Window Size and Position (T,L,W,H,MM)"_s, "-5:-6:7:8:9", u"5:6:7:8:0"_s},
-    {u"Audio"_s, u"Filter out NON-English Audio.Enabled"_s, "Disabled", u"Enabled"_s},
-    {u"Audio"_s, u"Filter out NON-English Audio"_s, "On", u"Off"_s,
-     "Custom Audio Filter Language(s)=English (eng)\nApply custom Audio Filter=On\n"},
-    {u"Audio"_s, u"Filter out NON-English Audio"_s, "On", u"Off"_s, "Apply custom Audio Filter=On\n"},
-    {u"Audio"_s, u"Apply custom Audio Filter"_s, "On", u"Off"_s,
-     "Custom Audio Filter Language(s)=English (eng)\nKeep English Titled Audio=On\n"},
-    {u"Audio"_s, u"Apply custom Audio Filter"_s, "On", u"On"_s,
-     "Custom Audio Filter Language(s)=English (eng)\nFilter out NON-English Audio=On\n"},
-    {u"Audio"_s, u"Keep English Titled Audio"_s, "x", u"True"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "123456", u"99999"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "-123456", u"-99999"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "word", u"0"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "-", u"0"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "", u"0"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "007", u"007"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "-250", u"-250"_s},
-    {u"Audio"_s, u"Audio Delay"_s, "1.5", u"0"_s},
-    {u"Most Recently Used Sources"_s, u"MRU Sources"_s, "none", u"NONE"_s},
-    {u"Most Recently Used Destinations"_s, u"MRU Targets"_s, "", u"NONE"_s},
-    {u"Video Format Options"_s, u"Aspect Ratio or Video Dimensions"_s, "ASPECT RATIO", u"Aspect Ratio"_s},
-    {u"Video Format Options"_s, u"Aspect Ratio or Video Dimensions"_s, "video dimensions", u"Video Dimensions"_s},
-    {u"Video Format Options"_s, u"Aspect Ratio or Video Dimensions"_s, "x", u"emptyvalue"_s},
-    {u"Video Format Options"_s, u"Settings"_s, "720X480", u"720x480"_s},
-    {u"Video Format Options"_s, u"Settings"_s, "EmptyValue", u"emptyvalue"_s},
-    {u"Video Format Options"_s, u"Use Video Format Options"_s, "perhaps", u"Off"_s},
-    {u"Subtitles"_s, u"Set All Subtitle defaults"_s, "perhaps", u"Off"_s},
-    {u"Subtitles"_s, u"Set All Subtitle defaults to no/yes"_s, "YES", u"yes"_s},
-    {u"Subtitles"_s, u"Set All Subtitle defaults to no/yes"_s, "x", u"no"_s},
-    {u"Chapters"_s, u"Chapters Format"_s, "x", u"HH:MM:SS.hh(h)"_s},
-    {u"Chapters"_s, u"Chapters Format"_s, "HH:mm:SS.ff", u"HH:MM:SS.ff"_s},
-    {u"Other Options"_s, u"Set Video Frame Rate Options"_s, "USE MediaInfo discovered Frame Rate",
-     u"Use MediaInfo discovered Frame Rate"_s},
-    {u"Other Options"_s, u"Set Video Frame Rate Options"_s, "x", u"INVALID SELECTION"_s},
-    {u"Other Options"_s, u"Set Video Frame Rate Value"_s, "23.976FPS", u"23.976fps"_s},
-    {u"Other Options"_s, u"Set Video Frame Rate Value"_s, "EMPTYVALUE", u"EMPTYVALUE"_s},
-    {u"Other Options"_s, u"Set Custom File Title Text"_s, "  -- \xC3\xA4 = %1  ", u"-- \u00E4 = %1"_s},
-    {u"Other Options"_s, u"Set File Title Option"_s, "FORCE", u"Force"_s},
-    {u"Other Options"_s, u"Set File Title Option"_s, "Always", u"If Empty"_s},
-    {u"Other Options"_s, u"Add Attachments"_s, "On", u"Off"_s},
-    {u"Other Options"_s, u"Attach Contents of Titled Subfolders Instead"_s, "On", u"Off"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "9", u"30"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "10", u"10"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "999", u"999"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "1000", u"30"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "12 minutes", u"12 minutes"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "word", u"30"_s},
-    {u"Other Options"_s, u"Split multiple video files (minutes)"_s, "", u"30"_s},
-    {u"Vantorra - by Zarnegar"_s, u"Version"_s, "1.0.0", u"2.5.5"_s},
-    {u"Extensions"_s, u"Careful Batch"_s, "perhaps", u"Off"_s},
-    {u"Extensions"_s, u"If The Output Exists"_s, "number", u"Number"_s},
-    {u"Extensions"_s, u"If The Output Exists"_s, "perhaps", u"Replace"_s},
-    {u"Extensions"_s, u"Run Button Follows Folders"_s, "perhaps", u"On"_s},
-    {u"Extensions"_s, u"Delete Source Only After Success"_s, "perhaps", u"Off"_s},
-    {u"Extensions"_s, u"Identify With Any mkvmerge"_s, "perhaps", u"On"_s},
+    QByteArray Beside;
 };
 
 /// The same claim of the key that is read by the same rule; the claim itself if there is none.
@@ -196,8 +154,14 @@ static Text_Claim Twin_Of(Text_Claim claim)
 
 TEST(SettingsRows, EveryOtherTextIsReadByItsRule)
 {
-    std::vector<Text_Claim> claims(std::begin(Texts), std::end(Texts));
-    std::ranges::transform(Texts, std::back_inserter(claims), Twin_Of);
+    std::vector<Text_Claim> claims;
+    for (const Text_Claims& of_key : Texts)
+        for (const QByteArray& text : of_key.Texts.split('|')) {
+            const qsizetype sign = text.indexOf('>');
+            claims.push_back(
+                {of_key.Section, of_key.Key, text.left(sign), QString::fromUtf8(text.mid(sign + 1)), of_key.Beside});
+            claims.push_back(Twin_Of(claims.back()));
+        }
     for (const Text_Claim& claim : claims) {
         QByteArray text = Main_Window;
         if (claim.Section == u"MainWindow"_s)
