@@ -13,6 +13,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +38,13 @@ void Batch_Report::Show_Message(const Message_Box& box)
     // Nobody clicks here.
     static const QRegularExpression click(u"\r\n(\r\n)*Click OK to [^\r\n]*"_s);
     const QString text = QString(box.Text).remove(click);
-    Complain(number + box.Title + u' ' + text + file);
+    const QString line = number + box.Title + u' ' + text + file;
+    if (source_.isEmpty() || number.isEmpty()) {
+        Complain(line);
+    } else {
+        boxes_ += line;
+        numbers_ += number.trimmed();
+    }
     Tell(box.Code, box.Title, text);
 }
 
@@ -54,8 +61,16 @@ void Batch_Report::Explain(const QString& text)
         Complain(text);
 }
 
+void Batch_Report::Say_Boxes()
+{
+    for (const QString& line : std::exchange(boxes_, {}))
+        Complain(line);
+    numbers_.clear();
+}
+
 void Batch_Report::Show_Error(const Run_Time_Error& error)
 {
+    Say_Boxes();
     const QString text = error.Message();
     const qsizetype end = text.indexOf(u'\n');
     Complain(text);
@@ -115,10 +130,13 @@ void Batch_Report::Say_Reasons(const File_Outcome& outcome)
         if (!warned_.contains(text))
             Complain(line);
     };
-    if (!outcome.Reason.isEmpty() && outcome.Status == File_Outcome::Kind::Failed)
-        say(name + u" failed: "_s + outcome.Reason, outcome.Reason);
-    else if (!outcome.Reason.isEmpty() && outcome.Status == File_Outcome::Kind::Skipped)
-        say(name + u" skipped: "_s + outcome.Reason, outcome.Reason);
+    const bool failed = outcome.Status == File_Outcome::Kind::Failed;
+    if (!outcome.Reason.isEmpty() && (failed || outcome.Status == File_Outcome::Kind::Skipped)) {
+        boxes_.clear(); // the reason says it better
+        const QString numbers = numbers_.isEmpty() ? QString() : u" ("_s + numbers_.join(u", "_s) + u')';
+        say(name + (failed ? u" failed: "_s : u" skipped: "_s) + outcome.Reason + numbers, outcome.Reason);
+    }
+    Say_Boxes();
     for (const QString& warning : outcome.Warnings) {
         const QString habit = Habit_Of(warning);
         if (!habit.isEmpty() && habits_told_.contains(habit))
@@ -142,6 +160,7 @@ void Batch_Report::File_Finished(const File_Outcome& outcome)
     source_.clear();
     source_bytes_ = 0;
     warned_.clear();
+    Say_Boxes();
 }
 
 QString Summary_Of(const Outcome_Counts& counts, qint64 milliseconds)

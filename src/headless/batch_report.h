@@ -55,7 +55,8 @@ class Batch_Report : public Run_Listener
 
     const Outcome_Counts& Counts() const { return counts_; }
 
-    /// A message box was raised: one line on standard error, whatever the kind.
+    /// A message box was raised: one line on standard error, whatever the kind. One about a video in work waits for its
+    /// result: where that has a reason in words only the box's number is told, behind it.
     void Show_Message(const Message_Box& box);
     /// Something that the operator should know and that stops nothing.
     void Warn(const QString& title, const QString& text);
@@ -86,6 +87,9 @@ class Batch_Report : public Run_Listener
 
     qint64 Bytes_In_Work() const { return source_bytes_; }
 
+    /// The boxes that wait for a result which never came, or which has no words of its own.
+    void Say_Boxes();
+
     /// Says on standard error what is to be said about a video beside it.
     virtual void Say_Reasons(const File_Outcome& outcome);
 
@@ -106,6 +110,8 @@ class Batch_Report : public Run_Listener
     QElapsedTimer clock_;
     QStringList reasons_;
     QStringList habits_told_;
-    QStringList warned_; ///< said since the last video was done
+    QStringList warned_;  ///< said since the last video was done
+    QStringList boxes_;   ///< lines of the message boxes about the video in work
+    QStringList numbers_; ///< their numbers: "#13"
     Outcome_Counts counts_;
 };

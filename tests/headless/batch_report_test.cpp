@@ -100,8 +100,12 @@ TEST(Batch_Report, WhatWasWarnedOfIsNotSaidTwiceBesideTheVideo)
     run.Report->Warned(u"T"_s, u"both write one file"_s);
     run.File(u"a.avi"_s, File_Outcome::Kind::Done, 0, {}, {u"both write one file"_s});
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: both write one file\n"_s);
+    run.Report->File_Started(2, u"/v/b.avi"_s);
+    run.Report->Show_Message({.Code = 13, .Title = u"T."_s, .Text = u"It failed."_s});
+    run.Report->File_Finished({.Source = u"/v/b.avi"_s, .Status = File_Outcome::Kind::Failed, .Reason = u"torn"_s});
+    EXPECT_TRUE(run.Err.Text().endsWith(u"one file\nvantorra-batch: b.avi failed: torn (#13)\n"_s));
     run.Report->Ended(Batch_End::Finished, 0);
-    EXPECT_TRUE(run.Err.Text().endsWith(u"vantorra-batch: warning: a.avi: both write one file\n"_s));
+    EXPECT_TRUE(run.Err.Text().contains(u"vantorra-batch: warning: a.avi: both write one file\n"_s));
 }
 
 TEST(Batch_Report, AHabitIsToldOnceInABatchAndOnceAVideoInJson)
