@@ -16,7 +16,7 @@ struct File_Outcome
         Not_Run  ///< its turn at mkvmerge never came: a halt, a dry run
     };
     QString Source;
-    QString Output;            ///< of a split run: its first piece
+    QString Output = {};       ///< of a split run: its first piece
     QStringList Pieces = {};   ///< of a split run: all files that it wrote
     QStringList Replaces = {}; ///< careful: names in the target folder that make way for the output
     Kind Status = Kind::Skipped;
