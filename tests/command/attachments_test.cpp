@@ -2,8 +2,6 @@
 
 #include "command/companion_fixture.h"
 
-using namespace Qt::StringLiterals;
-
 struct Attachments : Companion_Test
 {
     Attachments()

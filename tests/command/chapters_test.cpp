@@ -6,8 +6,6 @@
 
 #include <QRegularExpression>
 
-using namespace Qt::StringLiterals;
-
 struct Chapters : Companion_Test
 {
     Chapters()

@@ -3,10 +3,6 @@
 #include "command/track_order.h"
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 static const QString Format_Line = u"format|filename=/in/Movie.avi|duration=1.0|tag:title=Old\r\n"_s;
 static const QString Video_Line = u"stream|index=0|codec_type=video|width=1920|height=1080|disposition:default=1"
                                   "|disposition:forced=0|disposition:attached_pic=0|tag:language=eng|tag:x=y\r\n"_s;

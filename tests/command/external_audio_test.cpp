@@ -2,8 +2,6 @@
 
 #include "command/companion_fixture.h"
 
-using namespace Qt::StringLiterals;
-
 struct External_Audio : Companion_Test
 {
     External_Audio() { Prog.Options.chk_AddAudio.Value = 1; }

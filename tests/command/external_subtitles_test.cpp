@@ -6,8 +6,6 @@
 #include <filesystem>
 #include <random>
 
-using namespace Qt::StringLiterals;
-
 struct External_Subtitles : Companion_Test
 {
     External_Subtitles() { Prog.Options.chk_AddSubs.Value = 1; }

@@ -3,10 +3,6 @@
 #include "command/sample_streams.h"
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// Language and title of one track.
 struct Track
 {
@@ -60,17 +56,16 @@ TEST(SourceTracks, EachFilterModeKeepsItsTracksOfBothKinds)
         options.Keep_English_Audio = options.Keep_English_Subs = keep_english;
         FileInfoList audio = Streams_Of(u"audio"_s, tracks);
         FileInfoList subtitles = Streams_Of(u"subtitle"_s, tracks);
-        const QString audio_text = Text_Of(Select_Source_Audio(audio, options, {}));
-        const QString subtitle_text = Text_Of(Select_Source_Subtitles(subtitles, options, {}));
         const bool all = wanted == "all"_L1;
         const bool none = wanted == "none"_L1;
-        EXPECT_EQ(audio_text, all ? u""_s : none ? u" --no-audio"_s : u" --audio-tracks "_s + wanted);
-        EXPECT_EQ(subtitle_text, all ? u""_s : none ? u" --no-subtitles"_s : u" --subtitle-tracks "_s + wanted);
-        QStringList kept;
-        for (const FileInfo& stream : audio)
-            if (stream.StreamType == "audio"_L1)
-                kept += stream.Index;
-        EXPECT_EQ(kept.size(), all ? static_cast<qsizetype>(tracks.size()) : none ? 0 : wanted.count(u',') + 1);
+        EXPECT_EQ(Text_Of(Select_Source_Audio(audio, options, {})), all    ? u""_s
+                                                                    : none ? u" --no-audio"_s
+                                                                           : u" --audio-tracks "_s + wanted);
+        EXPECT_EQ(Text_Of(Select_Source_Subtitles(subtitles, options, {})), all    ? u""_s
+                                                                            : none ? u" --no-subtitles"_s
+                                                                                   : u" --subtitle-tracks "_s + wanted);
+        const std::size_t kept = all ? tracks.size() : none ? 0U : static_cast<std::size_t>(wanted.count(u',')) + 1U;
+        EXPECT_EQ(std::ranges::count(audio, u"audio"_s, &FileInfo::StreamType), kept);
         EXPECT_EQ(audio[1].StreamType, u"video"_s);
         EXPECT_TRUE(Select_Source_Subtitles(audio, options, {}).Option.isEmpty()) << "audio is no subtitle";
     }

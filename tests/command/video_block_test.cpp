@@ -4,10 +4,6 @@
 #include "command/track_names.h"
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// The text of one video track with some options set.
 static QString Video_Text(const JobOptions& options, const FileInfo& track)
 {

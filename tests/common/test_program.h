@@ -4,8 +4,12 @@
 
 #include <QTemporaryDir>
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <vector>
+
+// What every test is written with.
+using namespace Qt::StringLiterals;
 
 /// An operator for tests: records what it is asked, answers what the test has laid down.
 class Test_Operator : public Operator

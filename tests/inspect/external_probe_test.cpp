@@ -3,10 +3,6 @@
 #include "common/stand_in_tool.h"
 #include "inspect/video_probe.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 static const QByteArray Probe = "printf 'stream|index=0|codec_type=audio|disposition:default=1|disposition:forced=0|"
                                 "tag:handler_name=Sound|tag:x=y\\n'";
 

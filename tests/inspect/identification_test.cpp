@@ -1,13 +1,9 @@
 #include "inspect/identification.h"
 
 #include "common/stand_in_tool.h"
-#include "common/test_program.h"
 #include "inspect/identification_json.h"
 
 #include <QProcess>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

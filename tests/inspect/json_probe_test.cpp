@@ -6,10 +6,6 @@
 #include "inspect/track_numbers.h"
 #include "inspect/video_probe.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(Json_Probe, HostileTagsAreTextAndNothingElse)
 {
     const QByteArray json = R"({"streams":[

@@ -7,9 +7,6 @@
 #include <QBuffer>
 #include <QFile>
 #include <QProcess>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// A command as a run makes it: the source with these options ahead of it, and more inputs.
 static Command_Line Command(const QString& output, const QString& source, const QString& options = {},

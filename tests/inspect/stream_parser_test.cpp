@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 static FileInfoList Parsed(const QString& ffprobe_output)
 {
     Media_State media;

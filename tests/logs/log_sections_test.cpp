@@ -3,10 +3,6 @@
 #include "common/test_program.h"
 #include "rules/click_rules.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Everything that has a line is on, as far as lines don't exclude each other.

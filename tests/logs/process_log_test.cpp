@@ -9,12 +9,9 @@
 #include <QDir>
 #include <QFile>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

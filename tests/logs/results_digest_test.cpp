@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 static const QString Console = u"mkvmerge v74.0.0\r\nThe file 'x' has been opened for writing.\r\n"
                                u"\r\nThe cue entries are being written...\r\nMultiplexing took 1 second.\r\n"_s;
 

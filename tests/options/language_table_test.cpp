@@ -4,9 +4,6 @@
 #include "support/run_time_error.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 static const LanguageTable& Table()
 {

@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 struct Option_File : testing::Test, Test_Program
 {
     Option_File() { Load_Language_Table(Prog.Language_Table, u"scrap"_s); }

@@ -4,9 +4,6 @@
 #include "support/drop_data.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 struct AttachmentsDialog : testing::Test, Test_Program
 {

@@ -7,9 +7,6 @@
 #include "support/text.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 struct FolderChanges : testing::Test, Test_Program
 {

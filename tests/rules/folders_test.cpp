@@ -4,9 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 struct Folders : testing::Test, Test_Program
 {};

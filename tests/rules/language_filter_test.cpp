@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 struct LanguageFilter : testing::Test, Test_Program
 {
     LanguageFilter()

@@ -1,15 +1,11 @@
 #include "rules/locations.h"
 
 #include "common/stand_in_tool.h"
-#include "common/test_program.h"
 #include "support/drop_data.h"
 #include "tools/tool_discovery.h"
 
 #include <QDir>
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

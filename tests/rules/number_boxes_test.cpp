@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// A program behind its first activation, when the rules of the two boxes have their say.
 struct NumberBoxes : testing::Test, Test_Program
 {

@@ -5,10 +5,7 @@
 #include "rules/control_states.h"
 #include "settings/filter_modes.h"
 
-#include <gtest/gtest.h>
 #include <set>
-
-using namespace Qt::StringLiterals;
 
 /// A program after its first activation.
 struct OptionRules : testing::Test, Test_Program

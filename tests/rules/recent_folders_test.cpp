@@ -4,9 +4,6 @@
 #include "settings/recent_lists.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// A program with folders 0 to 19, no paths set.
 struct RecentFolders : testing::Test, Test_Program

@@ -4,10 +4,6 @@
 #include "rules/frame_rate_dialog.h"
 #include "rules/video_format_dialog.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// The dialogs as a person uses them: each test opens one by its menu and acts in it.
 struct SmallDialogs : testing::Test, Test_Program
 {

@@ -4,9 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,12 +1,8 @@
 #include "common/stand_in_tool.h"
-#include "common/test_program.h"
 
 #include "run/run_driver.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// A PATH with nothing in it, so that no mkvmerge is found but those that a test names.
 struct Empty_Path

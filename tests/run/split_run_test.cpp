@@ -8,9 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <algorithm>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -6,11 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <functional>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

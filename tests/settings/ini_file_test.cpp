@@ -6,11 +6,8 @@
 #include "support/run_time_error.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <thread>
-
-using namespace Qt::StringLiterals;
 
 TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
 {

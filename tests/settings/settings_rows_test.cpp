@@ -5,9 +5,6 @@
 
 #include <QFile>
 #include <algorithm>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 static const QByteArray Main_Window = "[MainWindow]\nLeft=100\nTop=50\nWidth=800\nHeight=600\n";
 
@@ -47,8 +44,8 @@ static const Text_Claims Texts[] = {
     {u"MainWindow"_s, u"Width"_s, "1024.4>1024"},
     {u"MainWindow"_s, u"Height"_s, "-9>-9"},
     {u"ProcessLog"_s, u"Window Size and Position (T,L,W,H,MM)"_s,
-     "-1:-2:3:4:2>-1:-2:3:4:2|1:2:3:4>50:100:800:600:0|1:2:3:4:5:6>50:100:800:600:0|>50:100:800:600:0|1.5:2.5:3:4:0>2:"
-     "2:3:4:0"},
+     "-1:-2:3:4:2>-1:-2:3:4:2|1.5:2.5:3:4:0>2:2:3:4:0|1:2:3:4>50:100:800:600:0|"
+     "1:2:3:4:5:6>50:100:800:600:0|>50:100:800:600:0"},
     {u"ProcessLog"_s, u"Set Font Size"_s, "3>4|99>41|emptyvalue>10|41>41|12.5>12|-1e9>4"},
     {u"ProcessLog"_s, u"Not First Run"_s, "true>True|FALSE>False|0>False|-1>True|emptyvalue>False"},
     {u"Menu"_s, u"Append Logs"_s, "no>True|FALSE>False|>True"},

@@ -5,10 +5,7 @@
 #include <QFile>
 #include <cerrno>
 #include <csignal>
-#include <gtest/gtest.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 using Started = Child_Process::Started;
 using Read = Child_Process::Read;
 

@@ -3,9 +3,6 @@
 #include "common/test_program.h"
 
 #include <QProcess>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(CommandLine, TextAndArgumentsGrowTogether)
 {

@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(ConsoleText, CharactersAndLineEndsSurviveACutAtAnyPlaceAndSkippedBytesLeaveWhatFollowsAsItIs)
 {
     const QByteArray bytes =

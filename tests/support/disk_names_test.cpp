@@ -10,10 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(Disk_Names, EveryNameLeadsBackToItsBytes)
 {

@@ -2,10 +2,6 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(Registry, AValueIsFoundByItsNameWithoutRegardToCaseAndCutAtItsFirstZero)
 {
     const std::vector<Registry_Value> values{

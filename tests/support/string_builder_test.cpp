@@ -2,11 +2,8 @@
 
 #include "common/test_program.h"
 
-#include <gtest/gtest.h>
 #include <random>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 using Compare = clsStringBuilder::Compare;
 
 static clsStringBuilder Builder_With(const QString& text)

@@ -4,9 +4,6 @@
 
 #include <QSysInfo>
 #include <cerrno>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(System_Identification, TheVersionLineHasThreeFieldsAndTwoBlanksWithoutAServicePack)
 {

@@ -5,10 +5,7 @@
 
 #include <QFile>
 #include <csignal>
-#include <gtest/gtest.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(KillMkvmerge, EveryProcessWhoseExecutableHasTheNameGoesAndNoOther)
 {

@@ -1,17 +1,13 @@
 #include "tools/tool_discovery.h"
 
 #include "common/stand_in_tool.h"
-#include "common/test_program.h"
 #include "tools/installed_tools.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <gtest/gtest.h>
 #include <thread>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -5,9 +5,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// Runs `body` as mkvmerge and returns the lines of Log_Console.
 static QString Console_Of(Test_Program& test, const QByteArray& body)

@@ -1,14 +1,10 @@
 #include "workbenches/video_info_viewer.h"
 
 #include "common/stand_in_tool.h"
-#include "common/test_program.h"
 #include "support/drop_data.h"
 
 #include <QDir>
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
