@@ -37,9 +37,10 @@ _arguments -s \
     '*--tick[tick a check box]:check box:_vantorra_batch_boxes' \
     '*--untick[untick a check box]:check box:_vantorra_batch_boxes' \
     '(--classic)--careful[run as a careful batch]' \
-    '(--careful --resume --failed --only --leave-out)--classic[run as a classic batch]' \
+    '(--careful --recursive --resume --failed --only --leave-out)--classic[run as a classic batch]' \
     '(-n --dry-run)'{-n,--dry-run}'[print each mkvmerge command, run none]' \
     '--check[tell what would come of each video and what is wrong with it]' \
+    '(--classic)--recursive[take the folders below, too]' \
     '(--classic)--resume[leave out what is done already]' \
     '(--classic)--failed[take only what failed last]' \
     '*--only[take only videos of such names]:pattern:' \

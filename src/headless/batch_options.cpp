@@ -60,6 +60,7 @@ static std::vector<Option_Row> Run_Options()
          {},
          {Batch_Command::Run, Batch_Command::Settings, Batch_Command::Identify}},
         {{u"check"_s}, u"Like --dry-run, but tell what would come of each video and what is wrong with it."_s, {}, run},
+        {{u"recursive"_s}, u"Take the folders below the videos' folder, too (careful only)."_s, {}, run},
         {{u"resume"_s}, u"Leave out what is done already and hasn't changed since (careful only)."_s, {}, run},
         {{u"failed"_s}, u"Take only what failed last (careful only)."_s, {}, run},
         {{u"only"_s}, u"Take only videos of such names. Repeatable (careful only)."_s, u"GLOB"_s, run},
@@ -206,9 +207,10 @@ static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& opti
         return u"A run is either --careful or --classic."_s;
     if (classic || parser.isSet(u"careful"_s))
         options.Careful = !classic;
-    for (const QString& name : {u"resume"_s, u"failed"_s, u"only"_s, u"leave-out"_s})
+    for (const QString& name : {u"recursive"_s, u"resume"_s, u"failed"_s, u"only"_s, u"leave-out"_s})
         if (classic && parser.isSet(name))
             return u"--%1 belongs to a careful batch: it can't go with --classic."_s.arg(name);
+    options.Recursive = parser.isSet(u"recursive"_s);
     options.Resume = parser.isSet(u"resume"_s);
     options.Only_Failed = parser.isSet(u"failed"_s);
     options.Only = parser.values(u"only"_s);

@@ -33,6 +33,7 @@ struct Batch_Options
     bool Dry_Run = false;
     bool Check = false;               ///< a dry run that is told as a table
     std::optional<bool> Careful = {}; ///< --careful or --classic; nothing: as the settings say
+    bool Recursive = false;
     bool Resume = false;
     bool Only_Failed = false;
     QStringList Only = {};      ///< patterns of names; empty: all

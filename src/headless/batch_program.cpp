@@ -31,12 +31,14 @@ static void Choose_Videos(Program& program, const Batch_Options& options)
                           .Only_Failed = options.Only_Failed,
                           .Only = options.Only,
                           .Leave_Out = options.Leave_Out};
-    const bool chosen =
-        options.Resume || options.Only_Failed || !options.Only.isEmpty() || !options.Leave_Out.isEmpty();
+    if (options.Recursive)
+        program.Settings.Extensions.Include_Subfolders = true;
+    const bool chosen = options.Recursive || options.Resume || options.Only_Failed || !options.Only.isEmpty() ||
+                        !options.Leave_Out.isEmpty();
     if (chosen && !options.Careful.value_or(program.Settings.Extensions.Careful_Batch))
-        throw Bad_Usage{
-            u"--resume, --failed, --only and --leave-out belong to a careful batch, which the settings turn "
-            u"off: add --careful."_s};
+        throw Bad_Usage{u"--recursive, --resume, --failed, --only and --leave-out belong to a careful batch, which the "
+                        u"settings turn "
+                        u"off: add --careful."_s};
 }
 
 /// The program as the window would have it once it is ready, and then what the command line changes.

@@ -124,7 +124,7 @@ static QString Habit_Of(const QString& warning)
 /// reason for all of them, and a habit is told once in a batch.
 void Batch_Report::Say_Reasons(const File_Outcome& outcome)
 {
-    const QString name = File_Name_Of(outcome.Source);
+    const QString name = outcome.Name();
     const auto say = [&](const QString& line, const QString& text) {
         reasons_ += line;
         if (!warned_.contains(text))

@@ -17,7 +17,7 @@ void Check_Report::Say_Reasons(const File_Outcome& outcome)
 {
     ++looked_at_;
     const Check_Facts facts = std::exchange(facts_, {});
-    QString text = File_Name_Of(outcome.Source);
+    QString text = outcome.Name();
     if (!outcome.Output.isEmpty())
         text += u" -> "_s + outcome.Output;
     QStringList lines{text};

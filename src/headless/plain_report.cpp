@@ -70,7 +70,7 @@ static QString Written_Files(const File_Outcome& outcome)
 
 void Plain_Report::Print_Result(const File_Outcome& outcome)
 {
-    const QString name = Printable(File_Name_Of(outcome.Source));
+    const QString name = Printable(outcome.Name());
     bar_.Wipe();
     switch (outcome.Status) {
     case File_Outcome::Kind::Done:

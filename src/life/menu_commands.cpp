@@ -205,6 +205,11 @@ void mnu_OutputExistsNumber_Click(Program& program)
     Choose_Output_Exists(program, Output_Exists::Number);
 }
 
+void mnu_IncludeSubfolders_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Include_Subfolders);
+}
+
 void mnu_SensibleNamesAndSizes_Click(Program& program)
 {
     Flip(program, program.Settings.Extensions.Sensible_Names_And_Sizes);
@@ -250,6 +255,9 @@ const std::vector<Menu_Tick>& Menu_Ticks()
          [](const Program& program) { return program.Options.mnu_AppendLogs; }, mnu_AppendLogs_Click},
         {u"mnu_CarefulBatch"_s, u"Careful Batch"_s,
          [](const Program& program) { return program.Settings.Extensions.Careful_Batch; }, mnu_CarefulBatch_Click},
+        {u"mnu_IncludeSubfolders"_s, u"Include Subfolders"_s,
+         [](const Program& program) { return program.Settings.Extensions.Include_Subfolders; },
+         mnu_IncludeSubfolders_Click},
         {u"mnu_SensibleNamesAndSizes"_s, u"Sensible Names And Sizes"_s,
          [](const Program& program) { return program.Settings.Extensions.Sensible_Names_And_Sizes; },
          mnu_SensibleNamesAndSizes_Click},

@@ -39,6 +39,7 @@ void mnu_CarefulBatch_Click(Program& program);
 void mnu_OutputExistsReplace_Click(Program& program);
 void mnu_OutputExistsSkip_Click(Program& program);
 void mnu_OutputExistsNumber_Click(Program& program);
+void mnu_IncludeSubfolders_Click(Program& program);
 void mnu_SensibleNamesAndSizes_Click(Program& program);
 void mnu_RunButtonFollowsFolders_Click(Program& program);
 void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program);

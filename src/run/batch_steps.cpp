@@ -51,8 +51,8 @@ static QString Mkvmerge_Failure(const Run_State& run, int exit)
 void Note_Failure(Run_State& run, const File_Outcome& outcome)
 {
     if (outcome.Status == File_Outcome::Kind::Failed)
-        run.Failed_Videos += As_One_Line(File_Name_Of(outcome.Source) + u": "_s +
-                                         (outcome.Reason.isEmpty() ? u"it failed"_s : outcome.Reason));
+        run.Failed_Videos +=
+            As_One_Line(outcome.Name() + u": "_s + (outcome.Reason.isEmpty() ? u"it failed"_s : outcome.Reason));
 }
 
 void Close_Outcome(Program& program, File_Outcome& outcome)

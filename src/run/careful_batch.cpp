@@ -1,5 +1,6 @@
 #include "run/careful_batch.h"
 
+#include "inspect/subfolders.h"
 #include "inspect/video_names.h"
 #include "logs/results_digest.h"
 #include "run/batch_captions.h"
@@ -10,6 +11,7 @@
 #include "state/program.h"
 #include "support/paths.h"
 
+#include <QScopeGuard>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -17,14 +19,22 @@ using namespace Qt::StringLiterals;
 /// So many videos in a row for which a tool couldn't be started end the batch: the next would fare no better.
 static constexpr int Most_Unstarted = 3;
 
-/// Every entry of the videos' folder that has a video's extension. `error` as for List_Entries.
-static std::vector<Folder_Entry> Video_Entries(const Program& program, int& error)
+/// Every entry of the folder that has a video's extension. `error` as for List_Entries.
+static std::vector<Folder_Entry> Video_Entries(const QString& folder, int& error)
 {
-    std::vector<Folder_Entry> entries = List_Entries(program.Options.Path_Videos, error);
+    std::vector<Folder_Entry> entries = List_Entries(folder, error);
     std::erase_if(entries, [](const Folder_Entry& entry) {
         return Is_Working_Name(entry.Name) || !Match_File_Masks(entry.Name, Video_Extensions);
     });
     return entries;
+}
+
+/// The folders that the run walks.
+static Subfolders Folders_To_Walk(const Program& program)
+{
+    return program.Settings.Extensions.Include_Subfolders
+               ? Find_Subfolders(program.Options.Path_Videos, program.Options.Path_Target)
+               : Subfolders();
 }
 
 static void Tell(const Program& program, const QString& title, const QString& text)
@@ -48,8 +58,12 @@ QString Find_Careful_Videos(Program& program)
 {
     int error = 0;
     QStringList names;
-    for (const Folder_Entry& entry : Video_Entries(program, error))
-        names += entry.Name;
+    for (const QString& sub : Folders_To_Walk(program).Paths) {
+        int unread = 0;
+        for (const Folder_Entry& entry : Video_Entries(program.Options.Path_Videos + sub, unread))
+            names += sub + entry.Name;
+        error = sub.isEmpty() ? unread : error;
+    }
     program.Run.Video_File_List = names.isEmpty() ? QStringList{QString()} : names;
     if (!names.isEmpty())
         return {};
@@ -60,64 +74,108 @@ QString Find_Careful_Videos(Program& program)
     return u"NO VIDEO FILES FOUND!"_s;
 }
 
-Careful_Walk::Careful_Walk(Program& program) : Prog(program), Before(program.Options.Path_Target) {}
+Careful_Walk::Careful_Walk(Careful_Run& run, const Run_Folders& folders)
+    : Run(run), Prog(run.Prog), Folders(folders), Before(folders.Target)
+{}
 
-static bool Fits_One(const QString& name, const QStringList& patterns)
+static bool Fits_One(const Careful_Walk& walk, const QString& name, const QStringList& patterns)
 {
-    return std::any_of(patterns.begin(), patterns.end(),
-                       [&name](const QString& pattern) { return Match_File_Masks(name, pattern); });
+    return std::any_of(patterns.begin(), patterns.end(), [&](const QString& pattern) {
+        return Match_File_Masks(name, pattern) || Match_File_Masks(walk.Folders.Sub + name, pattern);
+    });
 }
 
-/// The videos that the person asked for, of those there are. Those that were done before count as done: also with
-/// warnings, as the output is whole, but then the source and its companions stay.
-static std::vector<Folder_Entry> Chosen_Videos(Careful_Walk& walk)
+/// What the journal has as done already.
+struct Done_Already
+{
+    int Files = 0;
+    QStringList With_Warnings; ///< names of those of them that were done with warnings
+};
+
+/// Fills Chosen with the videos that the person asked for, of those there are. Those that were done before count as
+/// done: also with warnings, as the output is whole, but then the source and its companions stay.
+static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Done_Already& before)
 {
     const Program& program = walk.Prog;
     const Run_Choice& choice = program.Run.Choice;
-    const bool asks = choice.Resume || choice.Only_Failed;
-    const Journal_Results results = asks ? Read_Journal(program.Settings.App_Folder) : Journal_Results();
-    int done_before = 0;
-    QStringList with_warnings;
-    std::vector<Folder_Entry> chosen;
     for (const Folder_Entry& video : walk.Videos) {
-        if ((!choice.Only.isEmpty() && !Fits_One(video.Name, choice.Only)) || Fits_One(video.Name, choice.Leave_Out))
+        if ((!choice.Only.isEmpty() && !Fits_One(walk, video.Name, choice.Only)) ||
+            Fits_One(walk, video.Name, choice.Leave_Out))
             continue;
-        const QString source = program.Options.Path_Videos + video.Name;
+        const QString source = walk.Folders.Videos + video.Name;
         if (choice.Only_Failed && results.value(source).Status != "failed"_L1)
             continue;
         if (choice.Resume && Is_Done_Before(results, source, Hash_Of_Video(program, source))) {
-            ++done_before;
+            ++before.Files;
             if (results.value(source).Warned)
-                with_warnings += video.Name;
+                before.With_Warnings += walk.Folders.Sub + video.Name;
             else
                 walk.Done.insert(video.Name);
             continue;
         }
-        chosen.push_back(video);
+        walk.Chosen.push_back(video);
     }
-    if (done_before > 0 && program.Listener)
-        program.Listener->Done_Before(done_before, with_warnings);
-    return chosen;
 }
 
-/// Looks at the folder once, and tells what the start of a run has to tell.
-static std::vector<Folder_Entry> Begin(Careful_Walk& walk)
+/// Looks at a folder once, and keeps what it holds.
+static void Look_At_Folder(Careful_Walk& walk, const QStringList& walked)
+{
+    int error = 0;
+    walk.Videos = Video_Entries(walk.Folders.Videos, error);
+    // A folder that is walked itself is no entry, whatever its name ends in.
+    std::erase_if(walk.Videos, [&](const Folder_Entry& entry) {
+        return entry.Kind == Entry_Kind::Folder && walked.contains(walk.Folders.Sub + entry.Name + Path_Separator);
+    });
+    for (const Folder_Entry& video : walk.Videos)
+        walk.Bases += Get_Base_Name(video.Name).toLower();
+    // One below is told with those that couldn't be walked.
+    if (error != 0 && walk.Folders.Sub.isEmpty())
+        Tell(walk.Prog, u"The videos' folder couldn't be read to its end"_s,
+             u"What was listed of it is processed: "_s + System_Words(error));
+}
+
+/// The folder's own part of the state is in force: its paths and the names beside one another.
+static void Enter(const Careful_Walk& walk)
 {
     Program& program = walk.Prog;
+    Use_Folders(walk.Folders, program.Options);
+    program.Run.Sensible_Bases =
+        program.Settings.Extensions.Sensible_Names_And_Sizes ? walk.Bases : program.Run.Sensible_Bases;
+}
+
+/// Looks at all folders, and tells what the start of a run has to tell.
+static void Begin(Careful_Run& run)
+{
+    Program& program = run.Prog;
     Clean_Up(program);
-    int error = 0;
-    walk.Videos = Video_Entries(program, error);
-    if (error != 0)
-        Tell(program, u"The videos' folder couldn't be read to its end"_s,
-             u"What was listed of it is processed: "_s + System_Words(error));
+    const Run_Folders root = Folders_Of(program.Options);
+    const Subfolders folders = Folders_To_Walk(program);
+    for (const QString& unread : folders.Unread)
+        Tell(program, u"A folder couldn't be read to its end"_s, unread);
     QStringList names;
-    for (const Folder_Entry& video : walk.Videos) {
-        names += video.Name;
-        walk.Bases += Get_Base_Name(video.Name).toLower();
+    for (const QString& sub : folders.Paths) {
+        const auto& walk = run.Walks.emplace_back(
+            std::make_unique<Careful_Walk>(run, sub.isEmpty() ? root : Folders_Below(root, sub)));
+        Look_At_Folder(*walk, folders.Paths);
+        for (const Folder_Entry& video : walk->Videos)
+            names += sub + video.Name;
     }
     if (const QString unnoted = Note_Start(program, names); !unnoted.isEmpty())
         Tell(program, u"The journal"_s, unnoted);
-    return Chosen_Videos(walk);
+
+    const Run_Choice& choice = program.Run.Choice;
+    const bool asks = choice.Resume || choice.Only_Failed;
+    const Journal_Results results = asks ? Read_Journal(program.Settings.App_Folder) : Journal_Results();
+    Done_Already before;
+    program.Run.Videos_Chosen = 0;
+    for (const auto& walk : run.Walks) {
+        Enter(*walk);
+        Choose_Videos(*walk, results, before);
+        program.Run.Videos_Chosen += static_cast<int>(walk->Chosen.size());
+    }
+    Use_Folders(root, program.Options);
+    if (before.Files > 0 && program.Listener)
+        program.Listener->Done_Before(before.Files, before.With_Warnings);
 }
 
 static void Clear_Marks(Run_State& run)
@@ -130,10 +188,11 @@ static void Clear_Marks(Run_State& run)
 }
 
 /// A video that gets its result without its turn.
-static void Tell_Not_Run(Careful_Walk& walk, const Folder_Entry& video, const QString& reason)
+static void Tell_Not_Run(const Careful_Walk& walk, const Folder_Entry& video, const QString& reason)
 {
     const Program& program = walk.Prog;
-    const File_Outcome outcome{.Source = program.Options.Path_Videos + video.Name,
+    const File_Outcome outcome{.Source = walk.Folders.Videos + video.Name,
+                               .Sub_Path = walk.Folders.Sub,
                                .Output = {},
                                .Status = File_Outcome::Kind::Not_Run,
                                .Exit = -1,
@@ -148,13 +207,13 @@ static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
     Program& program = walk.Prog;
     Run_State& run = program.Run;
     Clear_Marks(run);
-    program.Form.ulbl_Title1.Caption = video.Name;
-    run.Current_Video_Path = program.Options.Path_Videos + video.Name;
+    program.Form.ulbl_Title1.Caption = walk.Folders.Sub + video.Name;
+    run.Current_Video_Path = walk.Folders.Videos + video.Name;
     if (program.Listener)
         program.Listener->File_Started(run.Videos_Done + 1, run.Current_Video_Path);
     const File_Outcome outcome = Run_Careful_Video(walk, video);
     if (outcome.Status == File_Outcome::Kind::Done)
-        Trash_Companions(walk);
+        Trash_Companions(walk.Run);
     Note_Failure(run, outcome);
     if (program.Listener)
         program.Listener->File_Finished(outcome);
@@ -164,31 +223,41 @@ static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
     program.Person.Pump_Events();
 }
 
+/// The chosen videos of one folder.
+static void Walk_Folder(Careful_Walk& walk)
+{
+    const Run_State& run = walk.Prog.Run;
+    Enter(walk);
+    for (const Folder_Entry& video : walk.Chosen) {
+        if (run.Halt_Requested)
+            Tell_Not_Run(walk, video, Halted_Reason);
+        else if (walk.Run.Unstarted_In_A_Row >= Most_Unstarted)
+            Tell_Not_Run(walk, video, u"the run stopped: a tool couldn't be started three times in a row"_s);
+        else
+            Take_Turn(walk, video);
+    }
+    walk.Working.Remove();
+}
+
 bool Run_Carefully(Program& program)
 {
     Run_State& run = program.Run;
     Forget_Outputs(run);
     program.Person.Pump_Events();
-    Careful_Walk walk(program);
-    const std::vector<Folder_Entry> chosen = Begin(walk);
-    run.Videos_Chosen = static_cast<int>(chosen.size());
+    Careful_Run careful{program};
+    const auto restored =
+        qScopeGuard([&program, root = Folders_Of(program.Options)] { Use_Folders(root, program.Options); });
+    Begin(careful);
     run.Videos_Done = 0;
     Show_Files_Found(program.Form, u' ' + Videos_Box_Headline, run.Videos_Chosen);
     Show_Nothing_Done_Yet(program.Form, u' ' + Target_Box_Headline);
     if (program.Listener)
         program.Listener->Run_Started(run.Videos_Chosen);
 
-    for (const Folder_Entry& video : chosen) {
-        const bool unstarted = walk.Unstarted_In_A_Row >= Most_Unstarted;
-        if (run.Halt_Requested)
-            Tell_Not_Run(walk, video, u"the run was halted"_s);
-        else if (unstarted)
-            Tell_Not_Run(walk, video, u"the run stopped: a tool couldn't be started three times in a row"_s);
-        else
-            Take_Turn(walk, video);
-    }
+    for (const auto& walk : careful.Walks)
+        Walk_Folder(*walk);
     if (run.Halt_Requested)
         program.Logs.Log_Faults.AppendLine(u"*** Process halted before finishing."_s);
     Digest_Results(program);
-    return !run.Halt_Requested && walk.Unstarted_In_A_Row < Most_Unstarted;
+    return !run.Halt_Requested && careful.Unstarted_In_A_Row < Most_Unstarted;
 }

@@ -54,11 +54,12 @@ void Remember_Companions(Careful_Walk& walk)
         program.Options.chk_SplitVideos.Value == 1)
         return;
     const QString base = Get_Base_Name(program.Run.Current_Video_Path);
+    std::vector<Waiting_Companion>& waiting = walk.Run.Waiting;
     for (const QString& path : Files_Read(program)) {
-        const auto known = [&path](const Waiting_Companion& waiting) { return waiting.Path == path; };
+        const auto known = [&path](const Waiting_Companion& companion) { return companion.Path == path; };
         const auto identity = Identity_Of(path);
-        if (identity && Is_To_Go(program, path, base) && std::none_of(walk.Waiting.begin(), walk.Waiting.end(), known))
-            walk.Waiting.push_back({path, *identity});
+        if (identity && Is_To_Go(program, path, base) && std::none_of(waiting.begin(), waiting.end(), known))
+            waiting.push_back({path, *identity});
     }
 }
 
@@ -74,12 +75,15 @@ void Trash_Source(Careful_Walk& walk, const Held_File& source, File_Outcome& out
         outcome.Warnings += u"the trash refused the source, so it stays"_s;
 }
 
-/// True if some video of the folder would use that file and isn't done: taken, left out or failed.
-static bool Is_Still_Wanted(const Careful_Walk& walk, const QString& path)
+/// True if some video of that walk's folder would use the file and isn't done: taken, left out or failed.
+static bool Is_Wanted_In(const Careful_Walk& walk, const QString& path)
 {
     const JobOptions& options = walk.Prog.Options;
+    const QString& attachments = walk.Folders.Attachments;
+    if (!walk.Folders.Read_From(path.left(path.lastIndexOf(Path_Separator) + 1)))
+        return false;
     const bool for_all = walk.Prog.Run.Add_Attachments_On && !options.Use_Attachment_Subfolders &&
-                         path.startsWith(options.Path_Attachments);
+                         !attachments.isEmpty() && path.startsWith(attachments);
     const QString name = File_Name_Of(path).toLower();
     const QString folder = File_Name_Of(path.left(path.lastIndexOf(Path_Separator))).toLower();
     return std::any_of(walk.Videos.begin(), walk.Videos.end(), [&](const Folder_Entry& video) {
@@ -89,11 +93,12 @@ static bool Is_Still_Wanted(const Careful_Walk& walk, const QString& path)
     });
 }
 
-void Trash_Companions(Careful_Walk& walk)
+void Trash_Companions(Careful_Run& run)
 {
-    Program& program = walk.Prog;
-    std::erase_if(walk.Waiting, [&](const Waiting_Companion& companion) {
-        if (Is_Still_Wanted(walk, companion.Path))
+    Program& program = run.Prog;
+    std::erase_if(run.Waiting, [&](const Waiting_Companion& companion) {
+        if (std::any_of(run.Walks.begin(), run.Walks.end(),
+                        [&companion](const auto& walk) { return Is_Wanted_In(*walk, companion.Path); }))
             return false;
         const auto there = Identity_Of(companion.Path);
         if (!there || !there->Is_Unchanged(companion.Identity) ||

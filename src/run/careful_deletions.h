@@ -3,6 +3,7 @@
 #include "state/run_listener.h"
 #include "support/disk_steps.h"
 
+struct Careful_Run;
 struct Careful_Walk;
 
 /// What a careful batch moves to the trash, and when: a source only while it is the file that was probed, a companion
@@ -15,4 +16,4 @@ void Remember_Companions(Careful_Walk& walk);
 void Trash_Source(Careful_Walk& walk, const Held_File& source, File_Outcome& outcome);
 
 /// Moves the companions to the trash that are to go and may by now. Called behind each video and at the end.
-void Trash_Companions(Careful_Walk& walk);
+void Trash_Companions(Careful_Run& run);

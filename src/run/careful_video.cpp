@@ -46,6 +46,7 @@ File_Outcome Run_Careful_Video(Careful_Walk& walk, const Folder_Entry& entry)
     Video_Work work(walk);
     work.Split = program.Options.chk_SplitVideos.Value == 1;
     work.Outcome = {.Source = program.Options.Path_Videos + entry.Name,
+                    .Sub_Path = walk.Folders.Sub,
                     .Output = {},
                     .Status = File_Outcome::Kind::Failed,
                     .Exit = -1};
@@ -60,7 +61,7 @@ File_Outcome Run_Careful_Video(Careful_Walk& walk, const Folder_Entry& entry)
     }
     walk.Working.Empty();
     if (work.Tool_Was_Asked)
-        walk.Unstarted_In_A_Row = work.Tool_Not_Started ? walk.Unstarted_In_A_Row + 1 : 0;
+        walk.Run.Unstarted_In_A_Row = work.Tool_Not_Started ? walk.Run.Unstarted_In_A_Row + 1 : 0;
     work.Outcome.Seconds = work.Seconds();
     work.Outcome.Source_Kept =
         work.Outcome.Source_Kept || (Goes_To_Trash(work) && work.Outcome.Status == File_Outcome::Kind::Failed);

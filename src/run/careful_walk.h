@@ -2,6 +2,7 @@
 
 #include "run/final_name.h"
 #include "run/journal.h"
+#include "run/run_folders.h"
 #include "run/working_folder.h"
 #include "support/disk_steps.h"
 
@@ -9,6 +10,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <vector>
 
 struct Program;
@@ -20,18 +22,30 @@ struct Waiting_Companion
     File_Identity Identity; ///< when the command that read it was assembled
 };
 
-/// What a careful batch carries from video to video.
+struct Careful_Walk;
+
+/// What a careful batch carries from folder to folder; without "Include Subfolders" there is one.
+struct Careful_Run
+{
+    Program& Prog;
+    std::vector<std::unique_ptr<Careful_Walk>> Walks = {}; ///< in their order
+    std::vector<Waiting_Companion> Waiting = {};
+    int Unstarted_In_A_Row = 0; ///< videos for which a tool couldn't be started
+};
+
+/// What it carries from video to video of one folder.
 struct Careful_Walk
 {
-    explicit Careful_Walk(Program& program);
+    Careful_Walk(Careful_Run& run, const Run_Folders& folders);
 
+    Careful_Run& Run;
     Program& Prog;
+    Run_Folders Folders;
     Target_Before Before;
     Working_Folder Working;
     std::vector<Folder_Entry> Videos; ///< every entry of the folder with a video's extension, in order
     QStringList Bases;                ///< their base names in lower case
     QHash<QString, QString> Claims;   ///< name in the target folder to the source it belongs to in this run
     QSet<QString> Done;               ///< names of the videos that are done, also before this run
-    std::vector<Waiting_Companion> Waiting;
-    int Unstarted_In_A_Row = 0; ///< videos for which a tool couldn't be started
+    std::vector<Folder_Entry> Chosen; ///< those of Videos that this run takes in work
 };

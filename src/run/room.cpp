@@ -2,6 +2,7 @@
 
 #include "inspect/output_check.h"
 #include "support/disk_steps.h"
+#include "support/paths.h"
 
 #include <algorithm>
 
@@ -56,7 +57,11 @@ Room_Check Check_Room(const Program& program)
 {
     // Rates are averages, and the source's own may be wrong: only far below is it certain.
     constexpr double certainly_too_little = 0.7;
-    const std::optional<std::uint64_t> free = Free_Bytes(program.Options.Path_Target);
+    QString folder = program.Options.Path_Target;
+    // One below the target folder may not have been made yet.
+    while (!Folder_Exists(folder) && folder.contains(Path_Separator))
+        folder.truncate(folder.lastIndexOf(Path_Separator));
+    const std::optional<std::uint64_t> free = Free_Bytes(folder);
     if (!free)
         return {};
     const double needed =

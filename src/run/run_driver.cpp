@@ -139,6 +139,14 @@ static void Show_Idle(Program& program)
         Enable_Video_Info_Button(program);
 }
 
+static void Tell_Of_Subfolders(const Program& program)
+{
+    if (program.Settings.Extensions.Include_Subfolders && !program.Run.Careful && program.Listener)
+        program.Listener->Warned(u"Subfolders"_s,
+                                 u"A classic run takes the videos' folder only: \"Include Subfolders\" "
+                                 u"belongs to a careful batch."_s);
+}
+
 static void Run_Mode(Program& program)
 {
     // Nothing writes this file; one that an earlier version left behind goes.
@@ -147,6 +155,7 @@ static void Run_Mode(Program& program)
         Recycle_If_Exists(interim_log, program.Logs.Log_Faults);
 
     Tell_Of_Careful_Batch(program);
+    Tell_Of_Subfolders(program);
     program.Person.Pump_Events();
     program.Run.Run_In_Progress = true;
     // Deliberate: what was noted between the last log entry and here is dropped.

@@ -3,8 +3,8 @@
 #include "run/careful_deletions.h"
 #include "run/careful_walk.h"
 #include "state/program.h"
-#include "support/trash.h"
 #include "support/paths.h"
+#include "support/trash.h"
 
 #include <cmath>
 

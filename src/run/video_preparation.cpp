@@ -32,7 +32,7 @@ bool Open_Source(Video_Work& work, const Folder_Entry& entry)
     case Entry_Kind::Unknown:
         break;
     }
-    if (Has_Stand_Ins(entry.Name))
+    if (Has_Stand_Ins(work.Outcome.Source))
         return Fail(work, u"its name isn't valid UTF-8: rename it"_s);
     const int error = work.Source.Open(work.Outcome.Source);
     if (error == 0)
@@ -44,6 +44,8 @@ bool Choose_Output(Video_Work& work)
 {
     Careful_Walk& walk = work.Walk;
     const Program& program = walk.Prog;
+    if (!walk.Folders.Sub.isEmpty() && Same_Folder(walk.Folders.Target, walk.Folders.Videos))
+        return Fail(work, u"the target's folder \"%1\" is the videos' own"_s.arg(walk.Folders.Sub));
     const QString name = Output_Base_Of(program, work.Outcome.Source) + u".mkv"_s;
     work.Names =
         Choose_Name(walk.Before, name, work.Split, program.Settings.Extensions.If_The_Output_Exists, walk.Claims);
@@ -130,10 +132,13 @@ bool Look_Ahead(Video_Work& work)
     if (!room.Warning.isEmpty() && program.Run.Dry_Run)
         Warn(work, room.Warning);
     else if (!room.Warning.isEmpty() && program.Listener)
-        program.Listener->Warned(u"Little room"_s, File_Name_Of(work.Outcome.Source) + u": "_s + room.Warning);
+        program.Listener->Warned(u"Little room"_s, work.Outcome.Name() + u": "_s + room.Warning);
     if (program.Run.Dry_Run)
         return Give_Up(work, File_Outcome::Kind::Not_Run, u"dry run"_s);
 
+    if (const int error = Make_Folders(program.Options.Path_Target); error != 0)
+        return Fail(work, u"the folder \"%1\" couldn't be made in the target folder: %2"_s.arg(work.Walk.Folders.Sub,
+                                                                                               System_Words(error)));
     Working_Folder& working = work.Walk.Working;
     if (const QString why = working.Make(program.Options.Path_Target, program.Settings.App_Folder); !why.isEmpty())
         return Fail(work, why);

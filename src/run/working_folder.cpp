@@ -123,7 +123,7 @@ void Working_Folder::Empty() const
             Remove_Own_File(path_ + entry.Name);
 }
 
-Working_Folder::~Working_Folder()
+void Working_Folder::Remove()
 {
     if (path_.isEmpty())
         return;
@@ -131,6 +131,7 @@ Working_Folder::~Working_Folder()
     // What can't be removed keeps its note: the next run tells of it.
     if (Remove_Own_Folder(path_.chopped(1)) == 0)
         Remove_Own_File(note_);
+    path_.clear();
 }
 
 /// True if the noted folder is what stands there. A folder whose making the note doesn't know yet must be empty.

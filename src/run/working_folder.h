@@ -14,8 +14,8 @@ class Working_Folder
     Working_Folder() = default;
     Working_Folder(const Working_Folder&) = delete;
     Working_Folder& operator=(const Working_Folder&) = delete;
-    /// Removes it with all that is in it, and the note.
-    ~Working_Folder();
+
+    ~Working_Folder() { Remove(); }
 
     /// Notes and makes it, if that wasn't done yet. Returns why it couldn't be, in words; empty if it is there.
     QString Make(const QString& target, const QString& app_folder);
@@ -28,6 +28,9 @@ class Working_Folder
 
     /// Removes what the video in work has left in it.
     void Empty() const;
+
+    /// Removes it with all that is in it, and the note; it may be made anew.
+    void Remove();
 
   private:
     QString path_;

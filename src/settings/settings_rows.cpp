@@ -227,6 +227,7 @@ static std::vector<Settings_Row> Closing_Rows()
                  }),
         Extension_Row(u"Careful Batch"_s, &Extension_Switches::Careful_Batch),
         Output_Exists_Row(u"If The Output Exists"_s),
+        Extension_Row(u"Include Subfolders"_s, &Extension_Switches::Include_Subfolders),
         Extension_Row(u"Sensible Names And Sizes"_s, &Extension_Switches::Sensible_Names_And_Sizes),
         Extension_Row(u"Run Button Follows Folders"_s, &Extension_Switches::Run_Button_Follows_Folders),
         Extension_Row(u"Delete Source Only After Success"_s, &Extension_Switches::Delete_Source_Only_After_Success),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/command_line.h"
+#include "support/paths.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,7 @@ struct File_Outcome
         Not_Run  ///< its turn at mkvmerge never came: a halt, a dry run
     };
     QString Source;
+    QString Sub_Path = {};     ///< of its folder below the videos' folder, ending in a separator; empty: that itself
     QString Output = {};       ///< of a split run: its first piece
     QStringList Pieces = {};   ///< of a split run: all files that it wrote
     QStringList Replaces = {}; ///< careful: names in the target folder that make way for the output
@@ -25,6 +27,9 @@ struct File_Outcome
     QString Reason = {};       ///< in words, one line; empty where the file is plainly done
     QStringList Warnings = {}; ///< in words, one line each
     bool Source_Kept = false;  ///< it was to go to the trash, and stays because of a warning or a failure
+
+    /// What the source is called beside the others of its run.
+    QString Name() const { return Sub_Path + File_Name_Of(Source); }
 };
 
 /// What a driver may want to hear while a run goes on. The headless driver prints it; the window needs none of it.

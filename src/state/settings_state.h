@@ -46,6 +46,7 @@ struct Extension_Switches
 {
     bool Careful_Batch = false; ///< a new installation begins with it on
     Output_Exists If_The_Output_Exists = Output_Exists::Replace;
+    bool Include_Subfolders = false; ///< careful: the folders below the videos' folder are walked, too
     bool Sensible_Names_And_Sizes = false;
     bool Run_Button_Follows_Folders = true;
     bool Delete_Source_Only_After_Success = false;

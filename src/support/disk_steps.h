@@ -80,6 +80,8 @@ int Sync_Folder(const QString& folder);
 
 /// Makes a folder that only its owner may look into.
 int Make_Private_Folder(const QString& path);
+/// Makes a folder and those above it that are missing, each of them on the disk before what it holds can be.
+int Make_Folders(const QString& path);
 /// Makes an empty file; EEXIST if the name is taken.
 int Make_Empty_File(const QString& path);
 /// These remove for good: only for what we made ourselves.

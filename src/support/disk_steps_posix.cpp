@@ -191,6 +191,22 @@ int Make_Private_Folder(const QString& path)
     return ::mkdir(Bytes_Of_Name(path).constData(), S_IRWXU) == 0 ? 0 : errno;
 }
 
+int Make_Folders(const QString& path)
+{
+    const QByteArray folder = Bytes_Of_Name(path.endsWith(u'/') && path.size() > 1 ? path.chopped(1) : path);
+    struct stat status = {};
+    if (::stat(folder.constData(), &status) == 0)
+        return S_ISDIR(status.st_mode) ? 0 : ENOTDIR;
+    if (const int error = errno; error != ENOENT)
+        return error;
+    const QString above = path.left(path.lastIndexOf(u'/', -2));
+    if (const int error = above.isEmpty() ? ENOENT : Make_Folders(above); error != 0)
+        return error;
+    if (::mkdir(folder.constData(), S_IRWXU | S_IRWXG | S_IRWXO) != 0 && errno != EEXIST)
+        return errno;
+    return Sync_Folder(above);
+}
+
 int Make_Empty_File(const QString& path)
 {
     const Handle handle(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, S_IRUSR | S_IWUSR);

@@ -1,0 +1,44 @@
+#include "run/run_folders.h"
+
+#include "support/paths.h"
+
+bool Run_Folders::Read_From(const QString& folder) const
+{
+    return folder == Videos || folder == Audios || folder == Subtitles || folder == Chapters ||
+           (!Attachments.isEmpty() && folder.startsWith(Attachments));
+}
+
+Run_Folders Folders_Of(const JobOptions& options)
+{
+    return {.Sub = {},
+            .Videos = options.Path_Videos,
+            .Target = options.Path_Target,
+            .Audios = options.Path_Audios,
+            .Subtitles = options.Path_Subtitles,
+            .Chapters = options.Path_Chapters,
+            .Attachments = options.Path_Attachments};
+}
+
+void Use_Folders(const Run_Folders& folders, JobOptions& options)
+{
+    options.Path_Videos = folders.Videos;
+    options.Path_Target = folders.Target;
+    options.Path_Audios = folders.Audios;
+    options.Path_Subtitles = folders.Subtitles;
+    options.Path_Chapters = folders.Chapters;
+    options.Path_Attachments = folders.Attachments;
+}
+
+Run_Folders Folders_Below(const Run_Folders& root, const QString& sub)
+{
+    const auto companions = [&sub](const QString& chosen) {
+        return !chosen.isEmpty() && Folder_Exists(chosen + sub) ? chosen + sub : chosen;
+    };
+    return {.Sub = sub,
+            .Videos = root.Videos + sub,
+            .Target = root.Target + sub,
+            .Audios = companions(root.Audios),
+            .Subtitles = companions(root.Subtitles),
+            .Chapters = companions(root.Chapters),
+            .Attachments = companions(root.Attachments)};
+}
