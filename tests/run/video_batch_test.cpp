@@ -350,3 +350,13 @@ TEST_F(VideoBatch, AHaltTakesOnlyAwayWhatItsOwnMkvmergeWasWriting)
         EXPECT_EQ(Children_Left(), 0);
     }
 }
+
+TEST_F(VideoBatch, AHaltDuringTheInspectionNeverStartsMkvmerge)
+{
+    Test.Write(u"videos/a.avi"_s, "x");
+    Test.Person.On_Pump = [&] { Prog.Run.Halt_Requested = !Prog.Run.Current_Video_Path.isEmpty(); };
+    EXPECT_FALSE(Run());
+    EXPECT_TRUE(Heard.Commands.isEmpty());
+    EXPECT_EQ(Heard.Outcomes.at(0).Status, File_Outcome::Kind::Not_Run);
+    EXPECT_TRUE(Test.Results().isEmpty());
+}
