@@ -43,6 +43,9 @@ struct Batch_Process : Test_Program
 
     Batch_Result Run(const QStringList& more = {});
 
+    /// The same with what a person would type; double quotes hold words together.
+    Batch_Result Run(const QString& more) { return Run(QProcess::splitCommand(more)); }
+
     /// Every file and folder below Root with its size, time of change and content, one line each.
     QStringList Tree() const;
     QStringList Names_In(const QString& folder) const;

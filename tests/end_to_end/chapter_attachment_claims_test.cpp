@@ -57,30 +57,19 @@ static const Track_Claim Table[] = {
              EXPECT_EQ(run.Chapters(), QStringList({u"0.100 Intro"_s, u"0.600 Chapter 2"_s}));
              EXPECT_TRUE(Names_In_Trash().contains(u"Movie_Chapters.xml"_s));
          }},
-    {.Name = "FontsAndPicturesAreAttachedByteForByte",
+    {.Name = "FilesOfAnyNameAreAttachedByteForByte",
      .Prepare =
          [](Library_Run& run) {
-             Attach(run, u"font.ttf"_s, u"My Font.TTF"_s);
-             Attach(run, u"pic.png"_s, u"pic.png"_s);
-         },
-     .Tracks = {Film_Picture, Film_Sound},
-     .Check =
-         [](Library_Run& run) {
-             EXPECT_EQ(run.Attachments(), QStringList({u"My Font.TTF font/ttf"_s, u"pic.png image/png"_s}));
-             const QByteArray both[] = {run.Attachment_Bytes(1), run.Attachment_Bytes(2)};
-             EXPECT_THAT(both, testing::UnorderedElementsAre(Bytes_Of_File(Library_File(u"font.ttf"_s)),
-                                                             Bytes_Of_File(Library_File(u"pic.png"_s))));
-         }},
-    {.Name = "AttachmentsWithHostileNamesAreAttached",
-     .Prepare =
-         [](Library_Run& run) {
-             Attach(run, u"pic.png"_s, u"@argument.png"_s);
+             Attach(run, u"font.ttf"_s, u"@My Font.TTF"_s);
              Attach(run, u"pic.png"_s, u"-o \"x\" 'y'.png"_s);
          },
      .Tracks = {Film_Picture, Film_Sound},
      .Check =
          [](Library_Run& run) {
-             EXPECT_EQ(run.Attachments(), QStringList({u"-o \"x\" 'y'.png image/png"_s, u"@argument.png image/png"_s}));
+             EXPECT_EQ(run.Attachments(), QStringList({u"-o \"x\" 'y'.png image/png"_s, u"@My Font.TTF font/ttf"_s}));
+             const QByteArray both[] = {run.Attachment_Bytes(1), run.Attachment_Bytes(2)};
+             EXPECT_THAT(both, testing::UnorderedElementsAre(Bytes_Of_File(Library_File(u"font.ttf"_s)),
+                                                             Bytes_Of_File(Library_File(u"pic.png"_s))));
          }},
 };
 

@@ -1,3 +1,4 @@
+#include "common/stand_in_tool.h"
 #include "end_to_end/track_claim.h"
 
 #include <QFile>
@@ -67,9 +68,6 @@ static const Track_Claim Audio_Table[] = {
 INSTANTIATE_TEST_SUITE_P(External_Audio, Track_Claims, testing::ValuesIn(Audio_Table), Name_Of_Claim);
 
 static const Track_Claim Subtitle_Table[] = {
-    {.Name = "AnSrtIsAdded",
-     .Prepare = [](Library_Run& run) { Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s); },
-     .Tracks = {Plain_Video, Plain_Audio, u"subtitles SubRip/SRT und default"_s}},
     {.Name = "TwoSrtsThatDifferOnlyInCaseAreBothAdded",
      .Prepare =
          [](Library_Run& run) {
@@ -127,12 +125,30 @@ TEST(Companions, ThatVanishBeforeTheRunEndInMkvmergesOwnWordsAndTheNextVideoGoes
     run.Add(u"plain.mkv"_s, u"Other.mkv"_s);
     Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s);
     const QString mkvmerge = run.Prog.Tools.System_MKVMerge_Path;
-    run.Prog.Tools.System_MKVMerge_Path =
-        run.Write(u"app/mkvmerge"_s, "#!/bin/sh\nrm -f '" + run.Path(u"videos/Movie.srt"_s).toUtf8() + "'\nexec " +
-                                         mkvmerge.toUtf8() + " \"$@\"\n");
-    QFile::setPermissions(run.Path(u"app/mkvmerge"_s), QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray script =
+        "rm -f '" + run.Path(u"videos/Movie.srt"_s).toUtf8() + "'\nexec " + mkvmerge.toUtf8() + " \"$@\"\n";
+    run.Prog.Tools.System_MKVMerge_Path = Write_Stand_In(run, u"app/mkvmerge"_s, script);
     EXPECT_TRUE(run.Run());
     EXPECT_EQ(run.Tracks(u"Other.mkv"_s), QStringList({Plain_Video, Plain_Audio}));
     EXPECT_FALSE(QFile::exists(run.Path(u"target/Movie.mkv"_s)));
     EXPECT_TRUE(run.Log().contains(u"Movie.srt' could not be opened for reading"_s)) << run.Log().toStdString();
+}
+
+TEST(Targets, ThatTakeNothingFailTheFileAndKeepTheSource)
+{
+    Library_Run run;
+    run.Add(u"plain.mkv"_s, u"Movie.mkv"_s);
+    run.Prog.Settings.Extensions.Delete_Source_Only_After_Success = true;
+    run.Prog.Options.Delete_Video_After = true;
+    const std::pair<QString, QByteArray> claims[] = {
+        {u"/proc/"_s, ""},                                       // can't be written, whoever asks
+        {run.Path(u"target/"_s), "trap '' XFSZ\nulimit -f 2\n"}, // full after a kilobyte
+    };
+    for (const auto& [target, ahead] : claims) {
+        run.Prog.Options.Path_Target = target;
+        run.Prog.Tools.System_MKVMerge_Path = Write_Stand_In(run, u"tools/wrapped"_s, ahead + "exec mkvmerge \"$@\"\n");
+        EXPECT_TRUE(run.Run());
+        EXPECT_EQ(run.Prog.Run.Exit_Status, 2) << target.toStdString();
+        EXPECT_TRUE(QFile::exists(run.Path(u"videos/Movie.mkv"_s)));
+    }
 }

@@ -65,19 +65,16 @@ static QByteArray Sub_Block(const QByteArray& time)
 /// The bytes of a file that is made by hand, empty for one that ffmpeg makes.
 static QByteArray Bytes_Of(const QString& name)
 {
-    if (name == u"c.srt"_s)
-        return Srt_Text;
-    if (name == u"meta.txt"_s)
-        return Meta_Text;
-    if (name == u"font.ttf"_s)
-        return {"no real font \0\xff\n", 16};
-    if (name == u"c.sup"_s)
-        return QByteArray::fromHex(Sup_Bytes);
-    if (name == u"c.idx"_s)
-        return Idx_Text;
-    if (name == u"c.sub"_s)
-        return Sub_Block("2100018ca1") + Sub_Block("2100035f91");
-    return {};
+    static const std::map<QString, QByteArray> bytes = {
+        {u"c.srt"_s, Srt_Text},
+        {u"meta.txt"_s, Meta_Text},
+        {u"font.ttf"_s, {"no real font \0\xff\n", 16}},
+        {u"c.sup"_s, QByteArray::fromHex(Sup_Bytes)},
+        {u"c.idx"_s, Idx_Text},
+        {u"c.sub"_s, Sub_Block("2100018ca1") + Sub_Block("2100035f91")},
+    };
+    const auto found = bytes.find(name);
+    return found == bytes.end() ? QByteArray() : found->second;
 }
 
 /// ffmpeg's arguments for a file of the library. A word that names another of its files becomes that one's path.
@@ -116,8 +113,9 @@ static QStringList Recipe(const QString& name)
         if (recipes.contains(word) || !Bytes_Of(word).isEmpty())
             word = Library_File(word);
     if (name == u"titles.mkv"_s)
-        arguments += {u"-metadata:s:v"_s, u"title=\"Quoted\" a: b"_s, u"-metadata:s:a"_s, u"title=A | B"_s,
-                      u"-metadata"_s,     u"title=back\\slash 'x'"_s};
+        arguments += {u"-metadata:s:v"_s, u"title=\"Quoted\" a: b"_s,
+                      u"-metadata:s:a"_s, u"title=A | B"_s,
+                      u"-metadata"_s,     u"title=back\\slash 'x' \" --attach-file /etc/passwd \" '$(id)'"_s};
     return arguments + QStringList{u"-t"_s, u"1"_s};
 }
 

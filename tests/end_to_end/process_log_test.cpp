@@ -148,19 +148,4 @@ TEST_P(Process_Log_Level, ARunOverAGoodFileAFailingOneAndNoVideoLeavesExactlyThi
 INSTANTIATE_TEST_SUITE_P(Verbosity, Process_Log_Level, testing::ValuesIn(Levels),
                          [](const auto& level) { return std::to_string(level.param.Number); });
 
-TEST(Process_Log_Entry, AHaltedRunSaysThatItWasHalted)
-{
-    Log_Run run(1);
-    run.Add(u"plain.mkv"_s, u"good.mkv"_s);
-    run.Prog.Run.Kill_By_Name = false;
-    run.Prog.Tools.System_MKVMerge_Path = Write_Stand_In(
-        run, u"tools/mkvmerge"_s, "echo a banner that is long enough; touch \"$0.began\"; exec sleep 1000\n");
-    run.Person.On_Pump = [&run] {
-        if (File_Exists(run.Path(u"tools/mkvmerge.began"_s)))
-            run.Prog.Run.Halt_Requested = true;
-    };
-    EXPECT_FALSE(run.Run());
-    EXPECT_EQ(run.Masked_Log(), Header(1) + "\n        *** Process halted before finishing!\n\n\n");
-}
-
 } // namespace

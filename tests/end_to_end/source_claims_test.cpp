@@ -73,7 +73,11 @@ static const Track_Claim Title_Table[] = {
     {.Name = "TitlesWithQuotesColonsPipesAndBackslashesSurvive",
      .Video = u"titles.mkv"_s,
      .Tracks = {u"video MPEG-4p2 und [\"Quoted\" a: b] default"_s, Titled_Sound},
-     .Check = [](Library_Run& run) { EXPECT_EQ(run.Title(), u"back\\slash 'x'"_s); }},
+     .Check =
+         [](Library_Run& run) {
+             EXPECT_EQ(run.Title(), u"back\\slash 'x' \" --attach-file /etc/passwd \" '$(id)'"_s);
+             EXPECT_EQ(run.Attachments(), QStringList());
+         }},
     {.Name = "CustomTitlesAreOneArgumentEachWhateverTheyHold",
      .Prepare =
          [](Library_Run& run) {

@@ -26,38 +26,6 @@ TEST_F(MenuCommands, WhatBecomesOfAnOutputThatExistsIsOneOfThree)
     }
 }
 
-TEST_F(MenuCommands, AFormAboveAllOthersComesDownWhileADialogIsOpen)
-{
-    const std::vector<std::pair<void (*)(Program&), QString>> dialogs = {
-        {mnu_CustomAudioFilter_Click, u"frm_CustomFilter"_s},
-        {mnu_CustomSubtitleFilter_Click, u"frm_CustomFilter"_s},
-        {mnu_CustomFileTitle_Click, u"frm_CustomTitle"_s},
-        {mnu_CustomVideoTitle_Click, u"frm_CustomTitle"_s},
-        {mnu_VideoFrameRate_Click, u"frm_VideoFrameRate"_s},
-        {mnu_VideoFormatOptions_Click, u"frm_VideoFormatOptions"_s},
-        {mnu_Attachments_Click, u"frm_Attachments"_s},
-        {mnu_PopupACA1_Click, u"frm_Attachments"_s},
-        {mnu_AudioOptionsFile_Click, u"frm_OptionsFiles"_s},
-        {mnu_SubtitleOptionsFile_Click, u"frm_OptionsFiles"_s},
-        {mnu_ViewLog_Click, u"frm_ProcessLog"_s},
-        {mnu_ExecutablePaths_Click, u"frm_Locations"_s},
-        {btn_ViewVidInfo_Click, u"frm_ViewVFI"_s},
-    };
-    for (const bool topmost : {false, true}) {
-        Prog.Form.Topmost_On = topmost;
-        for (const auto& [command, form] : dialogs) {
-            bool topmost_inside = true;
-            Person.Topmost = topmost;
-            Person.Forms.clear();
-            Person.On_Form[form] = [&] { topmost_inside = Person.Topmost; };
-            command(Prog);
-            EXPECT_EQ(Person.Forms, QStringList{form});
-            EXPECT_FALSE(topmost_inside) << form.toStdString();
-            EXPECT_EQ(Person.Topmost, topmost) << form.toStdString();
-        }
-    }
-}
-
 TEST_F(MenuCommands, TheAttachmentsFormWaitsForItsPopupToClose)
 {
     mnu_PopupACA1_Click(Prog);
