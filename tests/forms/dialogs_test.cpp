@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QListWidget>
-#include <QMimeData>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -144,13 +143,9 @@ TEST_F(Dialogs, AnAttachmentFolderIsDroppedClearedAndRestored)
     Open("mnu_Attachments", "frm_Attachments", [&](QWidget& form) {
         EXPECT_TRUE(In<QLabel>(form, "lbl_AttachmentsPathFault").isVisible());
         EXPECT_FALSE(In(form, "chk_UseSubfolders").isEnabled());
-        QMimeData file;
-        file.setUrls({QUrl::fromLocalFile(Window.Files.Write(u"fonts/a.ttf"_s))});
-        Drop_On(In<QWidget>(form, "pic_AttachmentsPath"), file);
+        Drop_On(In<QWidget>(form, "pic_AttachmentsPath"), {Window.Files.Write(u"fonts/a.ttf"_s)});
         EXPECT_EQ(In<QLabel>(form, "lbl_AttachmentsPath").text(), u"");
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(folder)});
-        Drop_On(In<QWidget>(form, "pic_AttachmentsPath"), data);
+        Drop_On(In<QWidget>(form, "pic_AttachmentsPath"), {folder});
         EXPECT_EQ(In<QLabel>(form, "lbl_AttachmentsPath").text(), folder);
         Click_On(In(form, "btn_Clear"));
         EXPECT_TRUE(In(form, "cmd_Done").hasFocus());
@@ -176,9 +171,7 @@ TEST_F(Dialogs, TheLocationsShowBothToolsAndTakeADropOfTheirFolder)
         Click_On(In(form, "btn_Clear"));
         EXPECT_TRUE(In<QLabel>(form, "lbl_MKVMerge_PathFault").isVisible());
         EXPECT_FALSE(In(form, "btn_Clear").isEnabled());
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(QFileInfo(mkvmerge).path())});
-        Drop_On(In<QWidget>(form, "pic_MKVMerge_Path"), data);
+        Drop_On(In<QWidget>(form, "pic_MKVMerge_Path"), {QFileInfo(mkvmerge).path()});
         EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_Path").text(), mkvmerge);
         EXPECT_EQ(In<QLabel>(form, "lbl_MKVMerge_Choose").text(), u"Set by Operator");
         Press(form, Qt::Key_Return);

@@ -6,8 +6,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
-#include <QMimeData>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -18,36 +16,10 @@ struct Folder_Panels : testing::Test
 
     void SetUp() override { ASSERT_TRUE(Window.Start()); }
 
-    bool Drop(const char* panel, const QStringList& paths)
-    {
-        QMimeData data;
-        QList<QUrl> urls;
-        for (const QString& path : paths)
-            urls += QUrl::fromLocalFile(path);
-        data.setUrls(urls);
-        return Drop_On(Window.Get(panel), data);
-    }
+    void Drop(const QString& folder) { Drop_On(Window.Get("pic_VideosPath"), {folder}); }
 
     QString Shown(const char* label) { return Window.Get<QLabel>(label).text(); }
 };
-
-TEST_F(Folder_Panels, AFolderAFileOrTheFirstOfSeveralSetsThePath)
-{
-    const QString folder = Window.Files.Path(u"videos/"_s);
-    const QString file = Window.Files.Write(u"more/one.mkv"_s);
-    EXPECT_TRUE(Drop("pic_VideosPath", {folder}));
-    EXPECT_EQ(Shown("ulbl_VideosPath"), folder);
-    EXPECT_FALSE(Window.Get("lbl_VideoPathFault").isVisible());
-    EXPECT_TRUE(Drop("pic_VideosPath", {file}));
-    EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"more/"_s));
-
-    QStringList many{folder};
-    for (int i = 0; i < 1000; ++i)
-        many += file;
-    EXPECT_TRUE(Drop("pic_VideosPath", many));
-    EXPECT_EQ(Shown("ulbl_VideosPath"), folder);
-    EXPECT_TRUE(Window.Person.Boxes.empty());
-}
 
 TEST_F(Folder_Panels, APanelComesAndGoesWithItsBoxAndNothingMoves)
 {
@@ -72,28 +44,12 @@ TEST_F(Folder_Panels, ALongPathIsCutInItsMiddleAndWholeInItsTooltip)
 {
     const QString folder = Window.Files.Path(u"<b>"_s + QString(200, u'w') + u'/' + QString(200, u'e') + u'/');
     QDir().mkpath(folder);
-    Drop("pic_VideosPath", {folder});
+    Drop(folder);
     const auto& label = Window.Get<Elided_Label>("ulbl_VideosPath");
     EXPECT_EQ(label.text(), folder);
     EXPECT_TRUE(label.Shown_Text().contains(QChar(0x2026)));
     EXPECT_TRUE(label.Shown_Text().endsWith(u"eee/"));
     EXPECT_TRUE(label.toolTip().contains(u"&lt;b&gt;www"));
-}
-
-TEST_F(Folder_Panels, TheBrowseButtonAsksFromTheFolderAndShowsTheAnswer)
-{
-    QString title;
-    Window.Person.On_Form[u"QFileDialog"_s] = [&](QWidget& form) {
-        auto& dialog = static_cast<QFileDialog&>(form);
-        title = dialog.windowTitle();
-        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
-        dialog.selectFile(Window.Files.Path(u"target"_s));
-        QMetaObject::invokeMethod(&dialog, "accept");
-    };
-    Click_On(Window.Get("btn_BrowseTarget"));
-    EXPECT_EQ(title,
-              u"Select a Target Folder to hold your processed files. It CANNOT be the same as the Video Files path.");
-    EXPECT_EQ(Shown("ulbl_TargetPath"), Window.Files.Path(u"target/"_s));
 }
 
 TEST_F(Folder_Panels, AFolderThatVanishesIsToldAtTheRunAndLosesItsPanelsPath)
@@ -111,8 +67,8 @@ TEST_F(Folder_Panels, AFolderThatVanishesIsToldAtTheRunAndLosesItsPanelsPath)
 TEST_F(Folder_Panels, TheArrowOffersTheRecentFoldersAndAChoiceSwapsThem)
 {
     QDir().mkpath(Window.Files.Path(u"older"_s));
-    Drop("pic_VideosPath", {Window.Files.Path(u"older"_s)});
-    Drop("pic_VideosPath", {Window.Files.Path(u"videos"_s)});
+    Drop(Window.Files.Path(u"older"_s));
+    Drop(Window.Files.Path(u"videos"_s));
     Window.Person.On_Form[u"frm_SourceMRU"_s] = [&](QWidget& form) {
         auto* list = form.findChild<QComboBox*>(u"cmbo_MRU"_s);
         const auto* box = &Window.Get("box_VideosPath");

@@ -35,15 +35,18 @@ struct Form_Test : testing::Test
 
     static void Push(QWidget& form, const char* name) { Click_On(In(form, name)); }
 
-    /// Chooses the menu item; `person` is what is done in the form that it opens.
-    void Open(const char* action, const char* form, const std::function<void(QWidget&)>& person)
+    /// Chooses the menu item or clicks the button; `person` is what is done in the form that it opens.
+    void Open(const char* command, const char* form, const std::function<void(QWidget&)>& person)
     {
         bool met = false;
         Window.Person.On_Form[QLatin1StringView(form)] = [&](QWidget& widget) {
             met = true;
             person(widget);
         };
-        Window.Choose(action);
+        if (QLatin1StringView(command).startsWith(QLatin1StringView("btn_")))
+            Click_On(Window.Get(command));
+        else
+            Window.Choose(command);
         Window.Person.On_Form.erase(QLatin1StringView(form));
         EXPECT_TRUE(met) << form;
     }

@@ -78,21 +78,6 @@ TEST_F(Popup_Menus, TheMenuKeyOpensThePopupOfThePanelThatHasTheFocus)
     EXPECT_EQ(opened, 9) << "five folders, two titles, two kinds of option files";
 }
 
-TEST_F(Popup_Menus, EachItemOpensItsFormAfterThePopupHasClosed)
-{
-    const std::pair<const char*, const char*> items[] = {
-        {"mnu_PopupCAF1", "frm_CustomFilter"},   {"mnu_PopupCSF1", "frm_CustomFilter"},
-        {"mnu_PopupSFR1", "frm_VideoFrameRate"}, {"mnu_PopupVFO1", "frm_VideoFormatOptions"},
-        {"mnu_PopupCFT1", "frm_CustomTitle"},    {"mnu_PopupCVT1", "frm_CustomTitle"},
-        {"mnu_PopupACA1", "frm_Attachments"},
-    };
-    for (const auto& [item, form] : items) {
-        Window.Person.Forms.clear();
-        Window.Choose(item);
-        EXPECT_EQ(Window.Person.Forms, QStringList{QLatin1StringView(form)}) << item;
-    }
-}
-
 TEST_F(Popup_Menus, ARightClickOnTheEnabledAttachmentsBoxOpensItsFormAtOnce)
 {
     auto& box = Window.Get("chk_AddAttachments");

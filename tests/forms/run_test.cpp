@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QMimeData>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -22,27 +21,30 @@ struct Window_Run : testing::Test
         ASSERT_TRUE(Window.Get("btn_RunVantorra").isEnabled());
     }
 
-    /// Done again and again while the run goes on.
-    void While_Running(const std::function<void()>& action)
+    /// Presses Run; `action` is done once when the progress shows.
+    void Run_And(const std::function<void()>& action)
     {
-        auto* look = new QTimer(&Window.Form());
-        QObject::connect(look, &QTimer::timeout, look, [this, action] {
-            if (Window.Prog().Run.Run_In_Progress)
-                action();
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            if (!Window.Prog().Form.lbl_ProgressFinished.Visible || !Window.Prog().Run.Run_In_Progress)
+                return;
+            look.stop();
+            action();
         });
-        look->start(5);
+        look.start(1);
+        Click_On(Window.Get("btn_RunVantorra"));
     }
 
     /// A video whose muxing goes on for long.
     void Place_Slow_Video()
     {
         Place(Window.Files, Short_Video(), u"videos/slow.mkv"_s);
-        Slow_Tool = Write_Stand_In(Window.Files, u"slow/mkvmerge"_s,
-                                   "echo \"mkvmerge v74.0.0 ('You Oughta Know') 64-bit\"\n"
-                                   "[ \"$1\" = -V ] && exit 0\necho 'Progress: 10%'\nsleep 30\n");
+        Window.Prog().Run.Kill_By_Name = false; // other tests run mkvmerge too
+        Window.Prog().Tools.System_MKVMerge_Path =
+            Write_Stand_In(Window.Files, u"slow/mkvmerge"_s,
+                           "echo \"mkvmerge v74.0.0 ('You Oughta Know') 64-bit\"\n"
+                           "[ \"$1\" = -V ] && exit 0\necho 'Progress: 10%'\nsleep 30\n");
     }
-
-    QString Slow_Tool;
 };
 
 TEST_F(Window_Run, AWholeRunFromTheButtonToFinished)
@@ -50,19 +52,16 @@ TEST_F(Window_Run, AWholeRunFromTheButtonToFinished)
     Prepare();
     Place(Window.Files, Short_Video(), u"videos/one.mkv"_s);
     Place(Window.Files, Short_Video(u"mp4"_s), u"videos/two.mp4"_s);
+    const QPoint run_at = Window.Get("btn_RunVantorra").mapToGlobal(QPoint());
     bool locked = false;
     bool halt_stood_there = false;
-    const QPoint run_at = Window.Get("btn_RunVantorra").mapToGlobal(QPoint());
-    While_Running([&] {
-        locked =
-            locked || (!Window.Get("fram_WholeForm").isEnabled() &&
-                       !Window.Get<QMenu>("mnu_File").menuAction()->isEnabled() && !Window.Get("img_Quit").isVisible());
-        halt_stood_there =
-            Window.Get("btn_Halt").isVisible() && Window.Get("btn_Halt").mapToGlobal(QPoint()).x() == run_at.x();
+    Run_And([&] {
+        locked = !Window.Get("fram_WholeForm").isEnabled() &&
+                 !Window.Get<QMenu>("mnu_File").menuAction()->isEnabled() && !Window.Get("img_Quit").isVisible();
+        const QWidget& halt = Window.Get("btn_Halt");
+        halt_stood_there = halt.isVisible() && halt.mapToGlobal(QPoint()).x() == run_at.x();
     });
-    Click_On(Window.Get("btn_RunVantorra"));
-    EXPECT_TRUE(locked);
-    EXPECT_TRUE(halt_stood_there);
+    EXPECT_TRUE(locked && halt_stood_there);
     EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"FINISHED");
     EXPECT_EQ(Window.Get<Progress_Box>("pic_Progress").Look(), Progress_Look::Finished);
     EXPECT_TRUE(Window.Get("btn_RunVantorra").isVisible());
@@ -90,60 +89,40 @@ TEST_F(Window_Run, EnterStartsAndAFolderWithoutVideosIsRefused)
 TEST_F(Window_Run, HaltInTheMiddleOfAFileStopsMkvmerge)
 {
     Prepare();
-    const QString large = Media_File(u"large.mkv"_s, {u"-f"_s, u"lavfi"_s, u"-i"_s, u"anoisesrc=duration=300"_s,
-                                                      u"-c:a"_s, u"pcm_s32le"_s, u"-ar"_s, u"48000"_s});
-    Place(Window.Files, large, u"videos/large.mkv"_s);
-    // Only this run's own child may go: other tests run mkvmerge too.
-    Window.Prog().Run.Kill_By_Name = false;
+    Place_Slow_Video();
     QString caption;
-    auto* look = new QTimer(&Window.Form());
-    QObject::connect(look, &QTimer::timeout, look, [&] {
-        if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
-            return;
-        look->stop();
+    Run_And([&] {
         Click_On(Window.Get("btn_Halt"));
         EXPECT_EQ(Window.Prog().Form.btn_Halt.Caption, u"HALT") << "that one ended a double click on Run";
         Click_On(Window.Get("btn_Halt"));
         caption = Window.Prog().Form.btn_Halt.Caption;
     });
-    look->start(1);
-    Click_On(Window.Get("btn_RunVantorra"));
     EXPECT_EQ(caption, u"HALTING");
     EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"INTERRUPTED");
     EXPECT_EQ(Window.Get<Progress_Box>("pic_Progress").Look(), Progress_Look::Interrupted);
     EXPECT_EQ(Window.Get<QAbstractButton>("btn_Halt").text(), u"HALT");
     EXPECT_EQ(Children_Left(), 0);
-    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/large.mkv"_s)));
+    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/slow.mkv"_s)));
 }
 
 TEST_F(Window_Run, WhileAChildIsSilentTheWindowRefusesToCloseTakesNoDropAndObeysEscape)
 {
     Prepare();
     Place_Slow_Video();
-    Window.Prog().Tools.System_MKVMerge_Path = Slow_Tool;
-    Window.Prog().Run.Kill_By_Name = false;
     bool refused = false;
     bool dropped = true;
     QElapsedTimer since_escape;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
-            return;
-        look.stop();
+    Run_And([&] {
         Window.Form().close();
         Press(Window.Form(), Qt::Key_F4, Qt::AltModifier);
         refused = !Window.Form().Unloaded() && Window.Form().isVisible();
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(Window.Files.Path(u"target"_s))});
-        dropped = Drop_On(Window.Get("pic_VideosPath"), data);
+        dropped = Drop_On(Window.Get("pic_VideosPath"), {Window.Files.Path(u"target"_s)});
         // Neither Alt nor a click on a menu that is off takes Escape away.
         QTest::keyClick(Window.Form().windowHandle(), Qt::Key_Alt, Qt::AltModifier);
         Click_On(Window.Get("menubar"));
         since_escape.start();
         Press(Window.Form(), Qt::Key_Escape);
     });
-    look.start(5);
-    Click_On(Window.Get("btn_RunVantorra"));
     EXPECT_TRUE(refused);
     EXPECT_FALSE(dropped);
     EXPECT_EQ(Window.Get<QLabel>("ulbl_VideosPath").text(), Window.Files.Path(u"videos/"_s));
@@ -155,16 +134,7 @@ TEST_F(Window_Run, AnErrorInTheMiddleOfARunReapsTheChildAndEndsTheProgram)
 {
     Prepare();
     Place_Slow_Video();
-    Window.Prog().Tools.System_MKVMerge_Path = Slow_Tool;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        if (!Window.Prog().Form.lbl_ProgressFinished.Visible)
-            return;
-        look.stop();
-        Window.Desk->Guard.Call([] { throw std::runtime_error("no memory for this"); });
-    });
-    look.start(5);
-    Click_On(Window.Get("btn_RunVantorra"));
+    Run_And([&] { Window.Desk->Guard.Call([] { throw std::runtime_error("no memory for this"); }); });
     EXPECT_TRUE(Window.Desk->Guard.Ended());
     ASSERT_EQ(Window.Person.Boxes.size(), 1u);
     EXPECT_EQ(Children_Left(), 0);

@@ -87,12 +87,8 @@ void Test_Window::Choose(const char* action)
 
 void Test_Window::Set_Folders()
 {
-    for (const auto& [panel, folder] :
-         {std::pair("pic_VideosPath", u"videos"_s), std::pair("pic_TargetPath", u"target"_s)}) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(Files.Path(folder))});
-        Drop_On(Get(panel), data);
-    }
+    Drop_On(Get("pic_VideosPath"), {Files.Path(u"videos"_s)});
+    Drop_On(Get("pic_TargetPath"), {Files.Path(u"target"_s)});
 }
 
 void Click_On(QWidget& widget, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys)
@@ -124,6 +120,16 @@ bool Drop_On(QWidget& widget, const QMimeData& data)
     QCoreApplication::sendEvent(&widget, &drop);
     QCoreApplication::processEvents();
     return drop.isAccepted();
+}
+
+bool Drop_On(QWidget& widget, const QStringList& paths)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& path : paths)
+        urls += QUrl::fromLocalFile(path);
+    data.setUrls(urls);
+    return Drop_On(widget, data);
 }
 
 bool Wait_Until(const std::function<bool()>& done)

@@ -105,5 +105,7 @@ void Click_On(QWidget& widget, QPoint at, Qt::MouseButton button, Qt::KeyboardMo
 void Press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers keys = {});
 /// Drags the data over the widget and lets it go. False if the widget wouldn't take it.
 bool Drop_On(QWidget& widget, const QMimeData& data);
+/// The same with files or folders.
+bool Drop_On(QWidget& widget, const QStringList& paths);
 /// Lets events have their turn until `done` holds; false after ten seconds.
 bool Wait_Until(const std::function<bool()>& done);

@@ -3,124 +3,110 @@
 #include "headless/batch_options.h"
 
 #include <QDir>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
-static Batch_Line Parse(const QStringList& words)
+/// The line as a shell splits it: double quotes hold words together, '' is an empty one.
+static Batch_Line Parse(const QString& line)
 {
-    return Parse_Batch_Line(QStringList{u"vantorra-batch"_s} + words);
+    const QStringList words = QProcess::splitCommand(u"vantorra-batch "_s + line);
+    return Parse_Batch_Line(QStringList(words).replaceInStrings(u"''"_s, QString()));
 }
 
-TEST(Batch_Options, FoldersAreAbsoluteAndRunIsTheCommandThatNeedsNoWord)
+/// The options of a line without a mistake.
+static Batch_Options Options_Of(const QString& line)
+{
+    const Batch_Line parsed = Parse(line);
+    EXPECT_TRUE(parsed.Options) << parsed.Mistake.toStdString();
+    return parsed.Options.value_or(Batch_Options());
+}
+
+TEST(Batch_Options, FoldersAreAbsoluteNeedNoOptionsAndChoicesAddUp)
 {
     const QString here = QDir::currentPath();
-    const Batch_Line line = Parse({u"--videos"_s, u"in put"_s, u"--target=/out"_s, u"--app-folder"_s, u"../app"_s});
-    ASSERT_TRUE(line.Options) << line.Mistake.toStdString();
-    EXPECT_EQ(line.Options->Command, Batch_Command::Run);
-    EXPECT_EQ(line.Options->Videos, here + u"/in put"_s);
-    EXPECT_EQ(line.Options->Target, u"/out"_s);
-    EXPECT_EQ(line.Options->App_Folder, here + u"/../app"_s);
-    EXPECT_FALSE(line.Options->Dry_Run || line.Options->Json || line.Options->Quiet);
-}
+    Batch_Options options = Options_Of(u"--videos \"in put\" --target=/out --app-folder ../app"_s);
+    EXPECT_EQ(options.Command, Batch_Command::Run);
+    EXPECT_EQ(options.Videos, here + u"/in put"_s);
+    EXPECT_EQ(options.Target, u"/out"_s);
+    EXPECT_EQ(options.App_Folder, here + u"/../app"_s);
+    EXPECT_FALSE(options.Dry_Run || options.Json || options.Quiet);
 
-TEST(Batch_Options, TheFoldersNeedNoOptionsAndChoicesAddUp)
-{
-    const Batch_Line line = Parse({u"in put"_s, u"/out"_s, u"-nq"_s, u"--careful"_s, u"--resume"_s, u"--failed"_s,
-                                   u"--only"_s, u"a*"_s, u"--only=b"_s, u"--leave-out"_s, u"-c"_s});
-    ASSERT_TRUE(line.Options) << line.Mistake.toStdString();
-    EXPECT_EQ(line.Options->Videos, QDir::currentPath() + u"/in put"_s);
-    EXPECT_EQ(line.Options->Target, u"/out"_s);
-    EXPECT_TRUE(line.Options->Dry_Run && line.Options->Quiet && line.Options->Resume && line.Options->Only_Failed);
-    EXPECT_EQ(line.Options->Careful, true);
-    EXPECT_EQ(line.Options->Only, (QStringList{u"a*"_s, u"b"_s}));
-    EXPECT_EQ(line.Options->Leave_Out, QStringList(u"-c"_s));
-    EXPECT_EQ(Parse({u"run"_s, u"/a"_s, u"/b"_s, u"--classic"_s}).Options->Careful, false);
-    EXPECT_TRUE(Parse({u"--check"_s}).Options->Dry_Run);
-}
+    options = Options_Of(u"\"in put\" /out -nq --careful --resume --failed --only a* --only=b --leave-out -c"_s);
+    EXPECT_EQ(options.Videos, here + u"/in put"_s);
+    EXPECT_EQ(options.Target, u"/out"_s);
+    EXPECT_TRUE(options.Dry_Run && options.Quiet && options.Resume && options.Only_Failed);
+    EXPECT_EQ(options.Careful, true);
+    EXPECT_EQ(options.Only, (QStringList{u"a*"_s, u"b"_s}));
+    EXPECT_EQ(options.Leave_Out, QStringList(u"-c"_s));
+    EXPECT_EQ(Options_Of(u"run /a /b --classic"_s).Careful, false);
+    EXPECT_TRUE(Options_Of(u"--check"_s).Dry_Run);
 
-TEST(Batch_Options, EachCommandHasAHelpOfItsOwn)
-{
-    const QString log = Parse({u"log"_s, u"--help"_s}).Text;
-    EXPECT_TRUE(log.contains(u"--full")) << log.toStdString();
-    EXPECT_FALSE(log.contains(u"--tick"));
-    EXPECT_FALSE(Parse({u"run"_s, u"-h"_s}).Text.contains(u"--full"));
+    options = Options_Of(u"identify /a \"b c\" --codec-private"_s);
+    EXPECT_EQ(options.Files, (QStringList{u"/a"_s, here + u"/b c"_s}));
+    EXPECT_TRUE(options.Codec_Private);
+    options = Options_Of(u"log --full"_s);
+    EXPECT_EQ(options.Command, Batch_Command::Log);
+    EXPECT_TRUE(options.Full);
 }
 
 TEST(Batch_Options, ClicksKeepTheOrderOfTheCommandLine)
 {
-    const Batch_Line line = Parse({u"--untick"_s, u"a"_s, u"--tick=b"_s, u"--set"_s, u"A/b=c=d"_s, u"--tick"_s, u"a"_s,
-                                   u"--untick"_s, u"c"_s, u"run"_s, u"--set"_s, u"E/f/g="_s});
-    ASSERT_TRUE(line.Options) << line.Mistake.toStdString();
+    const Batch_Options options =
+        Options_Of(u"--untick a --tick=b --set A/b=c=d --tick a --untick c run --set E/f/g="_s);
     QStringList clicks;
-    for (const Box_Click& click : line.Options->Clicks)
+    for (const Box_Click& click : options.Clicks)
         clicks += (click.Tick ? u"+"_s : u"-"_s) + click.Name;
     EXPECT_EQ(clicks, (QStringList{u"-a"_s, u"+b"_s, u"+a"_s, u"-c"_s}));
-    EXPECT_EQ(line.Options->Settings, (QStringList{u"A/b=c=d"_s, u"E/f/g="_s}));
-}
-
-TEST(Batch_Options, IdentifyAndLogHaveWordsOfTheirOwn)
-{
-    const Batch_Line identify = Parse({u"identify"_s, u"/a"_s, u"b c"_s, u"--codec-private"_s});
-    ASSERT_TRUE(identify.Options) << identify.Mistake.toStdString();
-    EXPECT_EQ(identify.Options->Files, (QStringList{u"/a"_s, QDir::currentPath() + u"/b c"_s}));
-    EXPECT_TRUE(identify.Options->Codec_Private);
-
-    const Batch_Line log = Parse({u"log"_s, u"--full"_s});
-    ASSERT_TRUE(log.Options) << log.Mistake.toStdString();
-    EXPECT_EQ(log.Options->Command, Batch_Command::Log);
-    EXPECT_TRUE(log.Options->Full);
+    EXPECT_EQ(options.Settings, (QStringList{u"A/b=c=d"_s, u"E/f/g="_s}));
 }
 
 TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
 {
-    const struct
-    {
-        QStringList Words;
-        QString Told;
-    } cases[] = {
-        {{u"--vidoes"_s, u"/a"_s}, u"There is no option --vidoes. Did you mean --videos?"_s},
-        {{u"--chekc"_s}, u"Did you mean --check?"_s},
-        {{u"-x"_s}, u"There is no option -x."_s},
-        {{u"identfy"_s}, u"Did you mean identify?"_s},
-        {{u"/a"_s, u"/b"_s, u"/c"_s}, u"\"/c\""_s},
-        {{u"/a"_s, QString()}, u"empty"_s},
-        {{u"/a"_s, u"/b"_s, u"--videos"_s, u"/a"_s}, u"named twice"_s},
-        {{u"--careful"_s, u"--classic"_s}, u"either"_s},
-        {{u"--classic"_s, u"--resume"_s}, u"--resume belongs to a careful batch"_s},
-        {{u"--classic"_s, u"--leave-out"_s, u"x"_s}, u"--leave-out belongs to a careful batch"_s},
-        {{u"--only="_s}, u"want a pattern"_s},
-        {{u"log"_s, u"--check"_s}, u"--check belongs to the command run"_s},
-        {{u"--videos"_s}, u"videos"_s},
-        {{u"--videos="_s}, u"--videos wants a folder"_s},
-        {{u"--target"_s, QString()}, u"--target wants a folder"_s},
-        {{u"walk"_s}, u"\"walk\""_s},
-        {{u"run"_s, u"/a"_s}, u"\"/a\""_s},
-        {{u"settings"_s, u"x"_s}, u"\"x\""_s},
-        {{u"identify"_s}, u"at least one file"_s},
-        {{u"--full"_s}, u"belongs to the command log"_s},
-        {{u"log"_s, u"--codec-private"_s}, u"belongs to the command identify"_s},
-        {{u"--dry-run=yes"_s}, u"dry-run"_s},
+    const std::pair<QString, QString> cases[] = {
+        {u"--vidoes /a"_s, u"There is no option --vidoes. Did you mean --videos?"_s},
+        {u"--chekc"_s, u"Did you mean --check?"_s},
+        {u"-x"_s, u"There is no option -x."_s},
+        {u"identfy"_s, u"Did you mean identify?"_s},
+        {u"/a /b /c"_s, u"\"/c\""_s},
+        {u"/a ''"_s, u"empty"_s},
+        {u"/a /b --videos /a"_s, u"named twice"_s},
+        {u"--careful --classic"_s, u"either"_s},
+        {u"--classic --resume"_s, u"--resume belongs to a careful batch"_s},
+        {u"--classic --leave-out x"_s, u"--leave-out belongs to a careful batch"_s},
+        {u"--only="_s, u"want a pattern"_s},
+        {u"log --check"_s, u"--check belongs to the command run"_s},
+        {u"--videos"_s, u"videos"_s},
+        {u"--videos="_s, u"--videos wants a folder"_s},
+        {u"--target ''"_s, u"--target wants a folder"_s},
+        {u"walk"_s, u"\"walk\""_s},
+        {u"run /a"_s, u"\"/a\""_s},
+        {u"settings x"_s, u"\"x\""_s},
+        {u"identify"_s, u"at least one file"_s},
+        {u"--full"_s, u"belongs to the command log"_s},
+        {u"log --codec-private"_s, u"belongs to the command identify"_s},
+        {u"--dry-run=yes"_s, u"dry-run"_s},
     };
-
     for (const auto& [words, told] : cases) {
         const Batch_Line line = Parse(words);
-        EXPECT_FALSE(line.Options) << words.join(u' ').toStdString();
+        EXPECT_FALSE(line.Options) << words.toStdString();
         EXPECT_TRUE(line.Text.isEmpty());
         EXPECT_TRUE(line.Mistake.contains(told)) << line.Mistake.toStdString();
     }
 }
 
-TEST(Batch_Options, HelpNamesEveryOptionAndStatusAndTheProgramsFolder)
+TEST(Batch_Options, EachCommandHasAHelpThatNamesTheProgramsFolder)
 {
     const QByteArray present = qgetenv("VANTORRA_HOME");
     qputenv("VANTORRA_HOME", "/some/where");
-    const Batch_Line help = Parse({u"--help"_s, u"--videos"_s, u"/nowhere"_s});
+    const Batch_Line help = Parse(u"--help --videos /nowhere"_s);
     present.isNull() ? qunsetenv("VANTORRA_HOME") : qputenv("VANTORRA_HOME", present);
     EXPECT_FALSE(help.Options);
-    for (const QString& word : {u"--videos"_s, u"--target"_s, u"--app-folder"_s, u"--set"_s, u"--tick"_s, u"--untick"_s,
-                                u"--dry-run"_s, u"--json"_s, u"--quiet"_s, u"--version"_s, u"--help"_s, u"settings"_s,
-                                u"identify"_s, u"log"_s, u"130"_s, u"/some/where/\n"_s})
+    for (const QString& word : {u"settings"_s, u"identify"_s, u"log"_s, u"130"_s, u"/some/where/\n"_s})
         EXPECT_TRUE(help.Text.contains(word)) << word.toStdString();
-    EXPECT_EQ(Parse({u"--version"_s}).Text, u"vantorra-batch 2.5.5\n"_s);
+    const QString log = Parse(u"log --help"_s).Text;
+    EXPECT_TRUE(log.contains(u"--full") && !log.contains(u"--tick")) << log.toStdString();
+    EXPECT_FALSE(Parse(u"run -h"_s).Text.contains(u"--full"));
+    EXPECT_EQ(Parse(u"--version"_s).Text, u"vantorra-batch 2.5.5\n"_s);
 }
