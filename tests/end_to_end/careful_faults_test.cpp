@@ -1,4 +1,5 @@
 #include "common/media.h"
+#include "common/stand_in_tool.h"
 #include "end_to_end/batch_process.h"
 #include "inspect/ebml_head.h"
 
@@ -13,14 +14,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// One thing that goes wrong in a careful batch of a.mkv and b.mkv whose sources are to go to the trash. The tools are
-/// the real ones; a script in the place of one has the real one in $REAL, its arguments in "$@" and vantorra-batch in
-/// $PPID. Scripts run in the test's folder. Behind each, three sums must hold, and what the row says.
+/// the real ones; a script that runs before or after one, for the first video, has the real one in $REAL, its arguments
+/// in "$@" and vantorra-batch in $PPID. Scripts run in the test's folder. Behind each, three sums must hold, and what
+/// the row says.
 struct Fault
 {
     const char* Name;
     const char* Before = "";  ///< a script: what stands there
-    const char* Probe = "";   ///< in the place of ffprobe
-    const char* Merge = "";   ///< in the place of mkvmerge, but for questions
+    const char* Probe = "";   ///< before ffprobe
+    const char* Merge = "";   ///< before mkvmerge, but for questions
+    const char* After = "";   ///< after mkvmerge; the last command's status is its own
     const char* Calls = "";   ///< calls of the system that fail, or kill the program (the shim's FAULT)
     const char* Results = ""; ///< "a.mkv done, b.mkv failed"; empty: the program is killed, and a second run mends all
     const char* Reason = "";  ///< stands in the first result's reason or warnings
@@ -33,8 +36,6 @@ const char* const Kill_Us = "kill -9 $PPID; sleep 5";
 const char* const Both_Done = "a.mkv done, b.mkv done";
 const char* const Both_Failed = "a.mkv failed, b.mkv failed";
 const char* const First_Failed = "a.mkv failed, b.mkv done";
-/// A script's condition: the run is that of the first video.
-#define IF_A "case \"$*\" in */videos/a.mkv*) "
 
 const QStringList With_Companions = {u"--tick"_s, u"chk_AddSubs"_s,
                                      u"--tick"_s, u"chk_AddAudio"_s,
@@ -46,7 +47,7 @@ const Fault Faults[] = {
     {.Name = "killed at the probe", .Probe = Kill_Us},
     {.Name = "killed before mkvmerge writes", .Merge = Kill_Us},
     {.Name = "killed while mkvmerge writes", .Merge = "\"$REAL\" \"$@\" | head -c 300; kill -9 $PPID; sleep 5"},
-    {.Name = "killed when mkvmerge has written", .Merge = "\"$REAL\" \"$@\"; kill -9 $PPID; sleep 5"},
+    {.Name = "killed when mkvmerge has written", .After = Kill_Us},
     {.Name = "killed before the journal has a line", .Calls = "write:1:kill"},
     {.Name = "killed before the working folder is noted", .Calls = "fsync:2:kill"},
     {.Name = "killed between note and folder", .Calls = "mkdir:1:kill"},
@@ -60,37 +61,29 @@ const Fault Faults[] = {
     {.Name = "killed while it tidies up", .Calls = "rmdir:1:kill"},
     {.Name = "killed between old and new", .Before = "cp videos/b.mkv target/a.mkv", .Calls = "renameat2:2:kill"},
     // The tools end, badly or with a lie.
-    {.Name = "ffprobe is killed", .Probe = IF_A "kill -9 $$;; esac; \"$REAL\" \"$@\"", .Results = First_Failed},
+    {.Name = "ffprobe is killed", .Probe = "kill -9 $$", .Results = First_Failed},
     {.Name = "ffprobe answers and fails",
-     .Probe = IF_A "\"$REAL\" \"$@\"; echo 'tape torn' >&2; exit 1;; esac; \"$REAL\" \"$@\"",
+     .Probe = "\"$REAL\" \"$@\"; echo 'tape torn' >&2; exit 1",
      .Results = First_Failed,
      .Reason = "tape torn"},
-    {.Name = "ffprobe talks nonsense", .Probe = "echo '{'", .Results = Both_Failed},
-    {.Name = "mkvmerge is killed",
-     .Merge = IF_A "kill -9 $$;; esac; \"$REAL\" \"$@\"",
-     .Results = First_Failed,
-     .Reason = "signal 9"},
+    {.Name = "ffprobe talks nonsense", .Probe = "echo '{'; exit", .Results = First_Failed},
+    {.Name = "mkvmerge is killed", .Merge = "kill -9 $$", .Results = First_Failed, .Reason = "signal 9"},
     {.Name = "mkvmerge fails",
-     .Merge = IF_A "echo 'Error: no paper left'; exit 2;; esac; \"$REAL\" \"$@\"",
+     .Merge = "echo 'Error: no paper left'; exit 2",
      .Results = First_Failed,
      .Reason = "no paper left"},
-    {.Name = "mkvmerge warns",
-     .Merge = "\"$REAL\" \"$@\"; echo 'Warning: thin ice'; exit 1",
-     .Results = Both_Done,
-     .Reason = "thin ice"},
-    {.Name = "mkvmerge writes nothing", .Merge = IF_A "exit 0;; esac; \"$REAL\" \"$@\"", .Results = First_Failed},
+    {.Name = "mkvmerge warns", .After = "echo 'Warning: thin ice'; exit 1", .Results = Both_Done, .Reason = "thin ice"},
+    {.Name = "mkvmerge writes nothing", .Merge = "exit 0", .Results = First_Failed},
     {.Name = "mkvmerge's output is cut",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "truncate -s 2000 target/.vantorra-*/output.mkv;; esac",
+     .After = "truncate -s 2000 target/.vantorra-*/output.mkv",
      .Results = First_Failed,
      .Reason = "bytes"},
-    {.Name = "mkvmerge takes no track",
-     .Merge = IF_A "\"$REAL\" \"$@\" >/dev/null; exit 0;; esac; \"$REAL\" \"$@\"",
-     .Results = First_Failed},
+    {.Name = "mkvmerge takes no track", .Merge = "\"$REAL\" \"$@\" >/dev/null; exit 0", .Results = First_Failed},
     {.Name = "mkvmerge leaves the sound out",
-     .Merge = IF_A "\"$REAL\" \"$@\" --no-audio | grep -v 'track 1'; exit 0;; esac; \"$REAL\" \"$@\"",
+     .Merge = "\"$REAL\" \"$@\" --no-audio | grep -v 'track 1'; exit 0",
      .Results = Both_Done,
      .Reason = "track 1"},
-    {.Name = "mkvmerge meets a limit of size", .Merge = "ulimit -f 1; exec \"$REAL\" \"$@\"", .Results = Both_Failed},
+    {.Name = "mkvmerge meets a limit of size", .Merge = "ulimit -f 1", .Results = First_Failed},
     {.Name = "mkvmerge can't be started", .Merge = "#gone", .Results = Both_Failed, .Reason = "start"},
     {.Name = "no tool can be started again and again",
      .Before = "cp videos/b.mkv videos/c.mkv; cp videos/b.mkv videos/d.mkv",
@@ -116,32 +109,26 @@ const Fault Faults[] = {
      .Results = Both_Done,
      .Reason = "trash refused"},
     // Others are at work.
-    {.Name = "the source grows",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "echo more >> videos/a.mkv;; esac",
-     .Results = Both_Done,
-     .Reason = "changed"},
+    {.Name = "the source grows", .After = "echo more >> videos/a.mkv", .Results = Both_Done, .Reason = "changed"},
     {.Name = "the source is replaced",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "cp videos/a.mkv n; mv n videos/a.mkv;; esac",
+     .After = "cp videos/a.mkv n; mv n videos/a.mkv",
      .Results = Both_Done,
      .Reason = "changed"},
-    {.Name = "the source is taken away",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "mv videos/a.mkv kept;; esac",
-     .Results = Both_Done,
-     .Reason = "taken away"},
+    {.Name = "the source is taken away", .After = "mv videos/a.mkv kept", .Results = Both_Done, .Reason = "taken away"},
     {.Name = "the output appears meanwhile",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "cp videos/b.mkv target/a.mkv;; esac",
+     .After = "cp videos/b.mkv target/a.mkv",
      .Results = First_Failed,
      .Reason = "made meanwhile",
      .Target = "a.mkv b.mkv"},
     {.Name = "the old output changes meanwhile",
      .Before = "cp videos/b.mkv target/a.mkv",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "touch -d 2001-01-01 target/a.mkv;; esac",
+     .After = "touch -d 2001-01-01 target/a.mkv",
      .Results = First_Failed,
      .Reason = "changed meanwhile",
      .Target = "a.mkv b.mkv"},
     {.Name = "a second run on the same folders",
-     .Merge = IF_A "[ -e inner ] || { touch inner; \"$BATCH\" --app-folder app --videos videos --target target --set "
-                   "'Extensions/Careful Batch=On' >/dev/null 2>&1; };; esac; \"$REAL\" \"$@\"",
+     .Merge = "[ -e inner ] || { touch inner; \"$BATCH\" --app-folder app --videos videos --target target --set "
+              "'Extensions/Careful Batch=On' >/dev/null 2>&1; }",
      .Results = Both_Failed,
      .Reason = "made meanwhile",
      .Target = "a.mkv b.mkv"},
@@ -201,14 +188,13 @@ const Fault Faults[] = {
      .More = With_Companions,
      .Videos = "."},
     {.Name = "a companion that a failed video would use",
-     .Before = "mv c.srt 'videos/a_Track b.srt'",
-     .Merge = "case \"$*\" in */videos/b.mkv*) exit 2;; esac; \"$REAL\" \"$@\"",
+     .Before = "mv c.srt 'videos/a_Track b.srt'; echo > videos/b.mkv",
      .Results = "a.mkv done, b.mkv failed",
      .More = With_Companions,
      .Videos = "a_Track b.srt|b.mkv"},
     {.Name = "a companion that was changed meanwhile",
      .Before = "mv c.srt videos/a_Track1.srt",
-     .Merge = "\"$REAL\" \"$@\"; " IF_A "echo >> videos/a_Track1.srt;; esac",
+     .After = "echo >> videos/a_Track1.srt",
      .Results = Both_Done,
      .More = With_Companions,
      .Videos = "a_Track1.srt"},
@@ -268,7 +254,7 @@ struct Fault_Run : Batch_Process
             Sources.insert(file.fileName(), file.isFile() ? Hash_Of(file.filePath()) : QByteArray());
         for (const QFileInfo& file : QDir(Path(u"target"_s)).entryInfoList(QDir::Files))
             Old.insert(Hash_Of(file.filePath()));
-        Set_Tools(fault.Probe, fault.Merge);
+        Set_Tools(&fault);
         Set_Environment(u"BATCH"_s, QStringLiteral(VANTORRA_BATCH_PROGRAM));
         if (*fault.Calls != 0 || QFile::exists(Path(u"room"_s))) {
             Set_Environment(u"LD_PRELOAD"_s, QStringLiteral(VANTORRA_FAULT_SHIM));
@@ -286,20 +272,20 @@ struct Fault_Run : Batch_Process
         shell.waitForFinished();
     }
 
-    void Tool(const QString& name, const QString& place, const QByteArray& script) const
+    void Tool(const QString& name, const QString& place, const QByteArray& before, const QByteArray& after) const
     {
-        const QByteArray head = "#!/bin/sh\nREAL=" + Tool_In_Path(name).toUtf8() +
-                                "\ncase \"$1\" in -V|--version|-J|"
-                                "--identif*|-version) exec \"$REAL\" \"$@\";; esac\ncd " +
-                                Path().toUtf8() + "\n";
-        Write(place, head + (script.isEmpty() ? "exec \"$REAL\" \"$@\"" : script) + "\n");
-        QFile::setPermissions(Path(place), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        Write_Stand_In(*this, place,
+                       "REAL=" + Tool_In_Path(name).toUtf8() + "\ncd " + Path().toUtf8() +
+                           "\ncase \"$1\" in -V|--version|-J|--identif*|-version) exec \"$REAL\" \"$@\";; esac\n"
+                           "case \"$*\" in */videos/a.mkv*) " +
+                           before + "\n\"$REAL\" \"$@\"\n" + after + "\nexit;; esac\nexec \"$REAL\" \"$@\"\n");
     }
 
-    void Set_Tools(const QByteArray& probe, const QByteArray& merge) const
+    /// The real tools with the scripts of a fault, or without any.
+    void Set_Tools(const Fault* fault = nullptr) const
     {
-        Tool(u"ffprobe"_s, u"app/ffprobe"_s, probe);
-        Tool(u"mkvmerge"_s, u"tools/mkvmerge"_s, merge);
+        Tool(u"ffprobe"_s, u"app/ffprobe"_s, fault ? fault->Probe : "", "");
+        Tool(u"mkvmerge"_s, u"tools/mkvmerge"_s, fault ? fault->Merge : "", fault ? fault->After : "");
     }
 
     Batch_Result Run_It(const QStringList& more)
@@ -383,7 +369,7 @@ TEST_P(CarefulFaults, NothingIsLostHalfWrittenOrPassedOver)
     run.Expect_Nothing_Lost();
     if (*fault.Results == 0) {
         EXPECT_EQ(result.Exit, -9);
-        run.Set_Tools("", "");
+        run.Set_Tools();
         run.Set_Environment(u"FAULT"_s, {});
         result = run.Run_It({});
         run.Expect_Nothing_Lost();

@@ -18,6 +18,8 @@ TEST(Window_Life, StartChangeQuitStartAgain)
     ASSERT_TRUE(window.Start());
     Click_On(window.Get("chk_RemoveAllTags"));
     window.Choose("mnu_Verbosity3");
+    EXPECT_EQ(window.Get<QMenu>("mnu_VerbosityStatus").title(), u"Log Verbosity 3 - Include Active Checkboxes");
+    EXPECT_EQ(window.Get<QMenu>("mnu_Process_Log").title(), u"&Process_Log v3");
     window.Set_Folders();
     window.Form().setGeometry(30, 40, 700, 600);
     QCoreApplication::processEvents();

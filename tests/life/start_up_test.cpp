@@ -91,29 +91,6 @@ TEST(StartUp, WithoutASettingsFileOneIsWrittenReadBackAndTheFormCentred)
     EXPECT_EQ(test.Prog.Form.Place.Top, 7) << "later activations leave the form where it is";
 }
 
-TEST(StartUp, AFolderThatCantBeWrittenIsToldAndTheProgramStarts)
-{
-    Test_Program test;
-    test.Write(u"file"_s);
-    test.Prog.Settings.App_Folder = test.Path(u"file/"_s);
-    Load_Settings(test.Prog);
-    ASSERT_EQ(test.Person.Messages.size(), 1U);
-    EXPECT_TRUE(test.Person.Messages[0].Text.contains(test.Path(u"file/Vantorra.ini"_s)));
-    EXPECT_TRUE(test.Prog.Settings.Settings_Loaded);
-}
-
-TEST(StartUp, ASecondWindowOnTheFolderSaysSoAndDoesNothing)
-{
-    Test_Program test;
-    Instance_Lock first;
-    ASSERT_TRUE(first.Take(test.Prog.Settings.App_Folder));
-    Instance_Lock second;
-    EXPECT_FALSE(Start_Up(test.Prog, &second));
-    EXPECT_FALSE(QFile::exists(test.Prog.Settings.Ini_File));
-    ASSERT_EQ(test.Person.Messages.size(), 1U);
-    EXPECT_EQ(test.Person.Messages[0].Title, u"Vantorra is open already"_s);
-}
-
 TEST(ShutDown, TheCloseBoxIsRefusedAndEveryOtherCloseSaves)
 {
     Test_Program test;
@@ -171,9 +148,9 @@ TEST(MainFormKeys, ActByWhetherARunGoesOn)
     }
 }
 
-TEST(Help, OpensTheFileOrShowsItWhereTheDesktopHasNoProgramForIt)
+TEST(Help, IsTheFileBesideTheSettingsElseTheInstalledOne)
 {
-    Test_Program test;
+    const Test_Program test;
     const QString folder = test.Path(u"app"_s);
     const QString name = u"Vantorra 2.5.5 Help.html"_s;
     EXPECT_EQ(Find_Help_File(folder, {test.Path(u"none"_s)}), test.Path(u"app/"_s + name));
@@ -181,15 +158,4 @@ TEST(Help, OpensTheFileOrShowsItWhereTheDesktopHasNoProgramForIt)
     EXPECT_EQ(Find_Help_File(folder, {test.Path(u"none"_s), test.Path(u"share"_s)}), installed);
     const QString own = test.Write(u"app/"_s + name);
     EXPECT_EQ(Find_Help_File(folder, {test.Path(u"share"_s)}), own);
-
-    test.Person.Document_Opens = false;
-    mnu_Help_Click(test.Prog);
-    EXPECT_EQ(test.Person.Forms, QStringList{u"frm_Help"_s});
-    EXPECT_EQ(test.Prog.Help.File, own);
-
-    test.Person.Document_Opens = true;
-    test.Person.Opened_Documents.clear();
-    mnu_Help_Click(test.Prog);
-    EXPECT_EQ(test.Person.Opened_Documents, QStringList{own});
-    EXPECT_TRUE(test.Person.Messages.empty());
 }
