@@ -1,6 +1,5 @@
 #include "common/media.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -44,41 +43,37 @@ QString Media_File(const QString& name, const QStringList& ffmpeg_arguments)
 /// Inputs 0 and 1: pictures and sound, half a second of each.
 static QStringList Picture_And_Sound()
 {
-    return {u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=duration=0.5:size=64x48:rate=10"_s,
-            u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=frequency=440:duration=0.5"_s};
+    return u"-f lavfi -i testsrc=duration=0.5:size=64x48:rate=10 -f lavfi -i sine=frequency=440:duration=0.5"_s.split(
+        u' ');
 }
 
 QString Short_Video(const QString& extension)
 {
-    QStringList codecs = {u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"aac"_s};
-    if (extension == u"webm"_s)
-        codecs = {u"-c:v"_s, u"libvpx"_s, u"-c:a"_s, u"libvorbis"_s};
-    else if (extension == u"ts"_s)
-        codecs = {u"-c:v"_s, u"mpeg2video"_s, u"-r"_s, u"25"_s, u"-c:a"_s, u"mp2"_s};
-    else if (extension == u"avi"_s)
-        codecs = {u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"mp2"_s};
-    return Media_File(u"short."_s + extension, Picture_And_Sound() + codecs);
+    const std::map<QString, QString> others = {{u"webm"_s, u"-c:v libvpx -c:a libvorbis"_s},
+                                               {u"ts"_s, u"-c:v mpeg2video -r 25 -c:a mp2"_s},
+                                               {u"avi"_s, u"-c:v mpeg4 -c:a mp2"_s}};
+    const auto other = others.find(extension);
+    const QString codecs = other == others.end() ? u"-c:v mpeg4 -c:a aac"_s : other->second;
+    return Media_File(u"short."_s + extension, Picture_And_Sound() + codecs.split(u' '));
 }
 
 QString Rich_Video()
 {
-    const QString subtitles = QDir::temp().filePath(u"vantorra_rich_%1.srt"_s.arg(QCoreApplication::applicationPid()));
+    static const QTemporaryDir folder;
+    const QString subtitles = folder.filePath(u"rich.srt"_s);
     QFile file(subtitles);
     if (!file.open(QIODevice::WriteOnly) || file.write("1\n00:00:00,000 --> 00:00:00,400\nBonjour\n") < 0)
         qFatal("The subtitles of a test can't be written");
     file.close();
-    const QStringList arguments =
+    return Media_File(
+        u"rich.mkv"_s,
         Picture_And_Sound() +
-        QStringList{u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=frequency=880:duration=0.5"_s, u"-i"_s, subtitles} +
-        (u"-map 0 -map 1 -map 2 -map 3 -c:v mpeg4 -c:a aac -c:s srt -disposition:v:0 default"_s +
-         u" -metadata:s:a:0 language=eng -metadata:s:a:1 language=ger -metadata:s:s:0 language=fre"_s)
-            .split(u' ') +
-        QStringList{u"-metadata"_s,       u"title=A rich film"_s,   u"-metadata:s:v:0"_s, u"title=The picture"_s,
-                    u"-metadata:s:a:0"_s, u"title=English sound"_s, u"-metadata:s:a:1"_s, u"title=Deutscher Ton"_s,
-                    u"-metadata:s:s:0"_s, u"title=Sous-titres"_s};
-    const QString path = Media_File(u"rich.mkv"_s, arguments);
-    QFile::remove(subtitles);
-    return path;
+            QProcess::splitCommand(
+                u"-f lavfi -i sine=frequency=880:duration=0.5 -i %1 -map 0 -map 1 -map 2 -map 3 -c:v mpeg4 "
+                "-c:a aac -c:s srt -disposition:v:0 default -metadata:s:a:0 language=eng -metadata:s:a:1 "
+                "language=ger -metadata:s:s:0 language=fre -metadata \"title=A rich film\" "
+                "-metadata:s:v:0 \"title=The picture\" -metadata:s:a:0 \"title=English sound\" "
+                "-metadata:s:a:1 \"title=Deutscher Ton\" -metadata:s:s:0 title=Sous-titres"_s.arg(subtitles)));
 }
 
 QString Place(const Test_Program& test, const QString& media, const QString& relative)

@@ -28,7 +28,7 @@ struct Fault
     const char* Results = ""; ///< "a.mkv done, b.mkv failed"; empty: the program is killed, and a second run mends all
     const char* Reason = "";  ///< stands in the first result's reason or warnings
     const char* Target = "";  ///< names in the target folder then; empty: those of what is done
-    QStringList More = {};    ///< arguments
+    const char* More = "";    ///< arguments
     const char* Videos = "";  ///< names in the videos' folder then; empty: not looked at
 };
 
@@ -37,9 +37,9 @@ const char* const Both_Done = "a.mkv done, b.mkv done";
 const char* const Both_Failed = "a.mkv failed, b.mkv failed";
 const char* const First_Failed = "a.mkv failed, b.mkv done";
 
-const QStringList With_Companions = {u"--tick"_s, u"chk_AddSubs"_s,
-                                     u"--tick"_s, u"chk_AddAudio"_s,
-                                     u"--set"_s,  u"Menu/Delete Source Video Sundry Files=True"_s};
+const char* const With_Companions =
+    "--tick AddSubs --tick AddAudio --set \"Menu/Delete Source Video Sundry Files=True\"";
+const char* const With_Options = "--tick AddSubs --tick AddAudio --tick UseSubOpts";
 
 const Fault Faults[] = {
     {.Name = "nothing", .Results = Both_Done},
@@ -139,12 +139,12 @@ const Fault Faults[] = {
      .Results = "a.mkv skipped, b.mkv done",
      .Reason = "there already",
      .Target = "a.mkv b.mkv",
-     .More = {u"--set"_s, u"Extensions/If The Output Exists=Skip"_s}},
+     .More = "--set \"Extensions/If The Output Exists=Skip\""},
     {.Name = "an old output beside the new",
      .Before = "cp videos/b.mkv target/a.mkv",
      .Results = Both_Done,
      .Target = "a (1).mkv|a.mkv|b.mkv",
-     .More = {u"--set"_s, u"Extensions/If The Output Exists=Number"_s}},
+     .More = "--set \"Extensions/If The Output Exists=Number\""},
     {.Name = "an old output that the new can't follow",
      .Before = "cp videos/b.mkv target/a.mkv",
      .Calls = "renameat2:2:5",
@@ -214,20 +214,20 @@ const Fault Faults[] = {
      .Before = "mv c.srt videos/a_Track1.srt; echo Language= > videos/a_Track1.srt.opt",
      .Results = First_Failed,
      .Reason = "a_Track1.srt.opt",
-     .More = With_Companions + QStringList{u"--tick"_s, u"chk_UseSubOpts"_s},
+     .More = With_Options,
      .Videos = "a.mkv|a_Track1.srt|a_Track1.srt.opt"},
     // Splitting: nothing is trashed but old pieces.
     {.Name = "old pieces",
      .Before = "cp videos/b.mkv target/a-001.mkv; cp videos/b.mkv target/a-007.mkv",
      .Results = Both_Done,
      .Target = "a-001.mkv b-001.mkv",
-     .More = {u"--tick"_s, u"chk_SplitVideos"_s}},
+     .More = "--tick SplitVideos"},
     {.Name = "old pieces that the new can't follow",
      .Before = "cp videos/b.mkv target/a-001.mkv; cp videos/b.mkv target/a-007.mkv",
      .Calls = "renameat2:3:5",
      .Results = First_Failed,
      .Target = "a-001.mkv a-007.mkv b-001.mkv",
-     .More = {u"--tick"_s, u"chk_SplitVideos"_s}},
+     .More = "--tick SplitVideos"},
 };
 
 QByteArray Hash_Of(const QString& path)
@@ -288,12 +288,10 @@ struct Fault_Run : Batch_Process
         Tool(u"mkvmerge"_s, u"tools/mkvmerge"_s, fault ? fault->Merge : "", fault ? fault->After : "");
     }
 
-    Batch_Result Run_It(const QStringList& more)
+    Batch_Result Run_It(const char* more = "")
     {
-        return Run(QStringList{u"--json"_s, u"--set"_s, u"Extensions/Careful Batch=On"_s, u"--set"_s,
-                               u"Paths/System mkvmerge.exe Path="_s + Path(u"tools/mkvmerge"_s), u"--tick"_s,
-                               u"chk_DeleteVideoAP"_s} +
-                   more);
+        return Run(u"--json --careful --tick DeleteVideoAP --set \"Paths/System mkvmerge.exe Path=%1\" %2"_s.arg(
+            Path(u"tools/mkvmerge"_s), QString::fromLatin1(more)));
     }
 
     /// No final name that isn't whole, and no source gone without an output that is.
@@ -371,7 +369,7 @@ TEST_P(CarefulFaults, NothingIsLostHalfWrittenOrPassedOver)
         EXPECT_EQ(result.Exit, -9);
         run.Set_Tools();
         run.Set_Environment(u"FAULT"_s, {});
-        result = run.Run_It({});
+        result = run.Run_It();
         run.Expect_Nothing_Lost();
         for (const QString& status : result.Values(u"result"_s, u"status"_s))
             EXPECT_EQ(status, u"done"_s);

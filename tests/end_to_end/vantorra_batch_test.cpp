@@ -172,7 +172,7 @@ TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
     } cases[] = {
         {{u"a.mkv!"_s, u"readme.txt"_s}, {}, 0, {}},
         {{u"a.mkv!"_s, u"b.avi"_s, u"c.mkv!"_s}, {}, 2, u"b.avi"_s},
-        {{u"a.avi!"_s, u"a.mkv!"_s}, {}, 0, u"warning: "_s}, // both write a.mkv
+        {{u"a.avi!"_s, u"a.mkv!"_s}, {}, 0, u"a.avi and a.mkv write the same file"_s},
         {{u"readme.txt"_s}, {}, 1, u"NO VIDEO FILES FOUND!"_s},
         {{u"a.mkv!"_s}, u"--target /nonexistent"_s, 1, u"--target \"/nonexistent\" is no folder"_s},
         {{}, u"--videos /nonexistent"_s, 1, u"The Video path does not exist!"_s},
