@@ -38,6 +38,9 @@ const QList<Binding<Button>>& Button_Bindings()
     static const QList<Binding<Button>> table{
         {"btn_RunVantorra", &Main_Form::btn_RunVantorra},
         {"btn_Halt", &Main_Form::btn_Halt},
+        {"btn_Check", &Main_Form::btn_Check},
+        {"btn_RunFailed", &Main_Form::btn_RunFailed},
+        {"btn_Continue", &Main_Form::btn_Continue},
         {"btn_ViewVidInfo", &Main_Form::btn_ViewVidInfo},
     };
     return table;

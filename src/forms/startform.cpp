@@ -7,6 +7,7 @@
 #include "forms/options_layout.h"
 #include "forms/popup_menus.h"
 #include "forms/slot_guard.h"
+#include "forms/video_list_view.h"
 #include "life/menu_commands.h"
 #include "life/start_up.h"
 #include "logs/results_digest.h"
@@ -14,7 +15,7 @@
 #include "rules/folder_changes.h"
 #include "rules/option_rules.h"
 #include "rules/recent_folders.h"
-#include "run/run_driver.h"
+#include "run/list_runs.h"
 #include "state/program.h"
 #include "ui_startform.h"
 
@@ -45,6 +46,7 @@ Startform::Startform(Program& program, Slot_Guard& guard)
     Connect_Options();
     Connect_Folders();
     Connect_Run();
+    Connect_List();
     Connect_Popups(*this, program_, guard_);
     Connect_Menus(*this, program_, guard_);
     // What stands beside or below them stays under the pointer while they are hidden.
@@ -113,7 +115,7 @@ void Startform::Connect_Run()
 {
     connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this, [this](const Mouse_Release& release) {
         guard_.Call([&] {
-            btn_RunVantorra_MouseUp(program_, release);
+            Run_Ticked(program_, release);
             Show_Run_Warnings(program_);
         });
     });
@@ -145,6 +147,7 @@ void Startform::Set_Looks()
         Tint(*mark, Mark_Colour(colours));
     ui_->btn_RunVantorra->Set_Colour(Under_White_Text(colours.color(QPalette::Active, QPalette::Highlight)));
     ui_->btn_Halt->Set_Colour(QColor(0xb7, 0x1c, 0x1c));
+    list_->Set_Looks();
     Measure();
 }
 
@@ -175,7 +178,8 @@ void Startform::Measure()
         button->setFont(bold);
         button->setMinimumSize(fontMetrics().horizontalAdvance(u"Run Vantorra"_s) * 2, fontMetrics().height() * 5 / 2);
     }
-    for (QPushButton* button : {ui_->img_Quit, ui_->btn_ViewVidInfo})
+    for (QPushButton* button :
+         {ui_->img_Quit, ui_->btn_ViewVidInfo, ui_->btn_Check, ui_->btn_RunFailed, ui_->btn_Continue})
         button->setMinimumHeight(row + 4);
     ui_->pic_Progress->setFixedHeight(row);
     ui_->lbl_ProgressFinished->setFont(bold);
@@ -231,6 +235,11 @@ void Startform::Render()
             : u"A run takes a video folder, another folder as its target, and ffprobe in this program's folder."_s);
     ui_->btn_Halt->setText(With_Letter(form.btn_Halt.Caption, QChar()));
     ui_->btn_ViewVidInfo->setText(With_Letter(form.btn_ViewVidInfo.Caption, u'I'));
+    ui_->btn_Check->setText(With_Letter(form.btn_Check.Caption, u'k'));
+    ui_->btn_RunFailed->setText(With_Letter(form.btn_RunFailed.Caption, u'g'));
+    ui_->btn_Continue->setText(With_Letter(form.btn_Continue.Caption, u'n'));
+    Place_More_Runs();
+    list_->Render();
     Render_Folders();
     Render_Progress();
     Render_Menus(*this, program_);

@@ -13,11 +13,15 @@ class QLabel;
 class QToolButton;
 class Options_Layout;
 class Slot_Guard;
+class Video_List_View;
 struct Program;
 
 namespace Ui {
 class Startform;
 }
+
+/// On a screen with fewer lines than this the list of videos is a strip that opens it.
+inline constexpr int Low_Screen = 800;
 
 /// The main form. Holds no rule: an event calls one, then the records are rendered. Controls carry the names of the
 /// fields that they show.
@@ -59,6 +63,14 @@ class Startform : public QMainWindow, public Form_View
     void Connect_Options();
     void Connect_Folders();
     void Connect_Run();
+    void Connect_List();
+    /// The room between the options and the list below them.
+    void Divide();
+    /// Where the list may stand beside the options, and not in their place.
+    bool Has_Room_For_List() const;
+    void Open_List(bool open);
+    /// The buttons beside Run, or in a row of their own where the window is too narrow.
+    void Place_More_Runs();
     /// Colours and pictures of the palette in force, then Measure.
     void Set_Looks();
     /// The sizes that follow the font in force.
@@ -82,6 +94,7 @@ class Startform : public QMainWindow, public Form_View
     Slot_Guard& guard_;
     std::unique_ptr<Ui::Startform> ui_;
     Options_Layout* options_ = nullptr;
+    Video_List_View* list_ = nullptr;
     std::vector<Number_Box_View*> number_boxes_;
     Form_Place shown_place_;  ///< what the window was last told, or last told us
     QWidget* left_ = nullptr; ///< where Tab goes on from after the focus was parked

@@ -63,6 +63,8 @@ void Startform::Show_First()
     shown_ = true;
     // Only a form that is shown knows for sure what its style asks for, and what the window's frame takes.
     Measure();
+    Open_List(program_.Form.Never_Placed ? program_.Form.Screen.Height >= Low_Screen
+                                         : program_.Settings.Extensions.Video_List_Open && Has_Room_For_List());
     if (program_.Form.Never_Placed)
         Make_Room();
     const QRect frame = frameGeometry();
@@ -93,9 +95,12 @@ void Startform::Make_Room()
     const QSize most = screen() ? screen()->availableGeometry().size() : sizeHint();
     resize(sizeHint().boundedTo(most));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    Divide();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // A screen too narrow for all groups in a row may have the height for two.
     const QSize lack = ui_->fram_Options->sizeHint() - ui_->scr_Options->contentsRect().size();
     resize((size() + lack.expandedTo(QSize(0, 0))).boundedTo(most));
+    Divide();
 }
 
 void Startform::Set_Topmost(bool on)

@@ -4,9 +4,11 @@
 #include "forms/program_dialog.h"
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
+#include "run/list_runs.h"
 #include "state/program.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -26,7 +28,10 @@ void Window_Operator::Attach(Program& program, Slot_Guard& guard, Startform& for
     program_ = &program;
     guard_ = &guard;
     form_ = &form;
-    guard.Set_Renderer([this] { Render(); });
+    guard.Set_Renderer([this] {
+        Keep_List_In_Step(*program_);
+        Render();
+    });
     since_render_.start();
 }
 
@@ -37,6 +42,7 @@ void Window_Operator::Render()
         if (form->isVisible())
             form->Render();
     since_render_.restart();
+    filled_ = program_->Videos.Filled;
 }
 
 Program_Dialog* Window_Operator::Form(const QString& name)
@@ -189,7 +195,8 @@ void Window_Operator::Pump_Events()
     if (program_->Form.Display_Lost)
         return;
     Stop_If_Ended();
-    if (since_render_.hasExpired(Render_Interval_Ms))
+    // A list that shows rows which are no more would take a click for another row.
+    if (since_render_.hasExpired(Render_Interval_Ms) || filled_ != program_->Videos.Filled)
         Render();
     QCoreApplication::processEvents();
     Stop_If_Ended();
@@ -215,6 +222,11 @@ void Window_Operator::Wait_With_Events(int milliseconds)
 bool Window_Operator::Open_Document(const QString& path)
 {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void Window_Operator::Copy_Text(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 void Window_Operator::Raise_Main_Form()

@@ -3,6 +3,7 @@
 #include "support/operator.h"
 
 #include <QElapsedTimer>
+#include <cstdint>
 #include <map>
 
 class Program_Dialog;
@@ -32,6 +33,7 @@ class Window_Operator : public Operator
     void Pump_Events() override;
     void Wait_With_Events(int milliseconds) override;
     bool Open_Document(const QString& path) override;
+    void Copy_Text(const QString& text) override;
     void Raise_Main_Form() override;
     void Set_Topmost(bool on) override;
     void Unload_Main_Form() override;
@@ -48,6 +50,7 @@ class Window_Operator : public Operator
     Startform* form_ = nullptr;
     std::map<QString, Program_Dialog*> forms_; ///< owned by the main form
     QElapsedTimer since_render_;
+    std::uint64_t filled_ = 0; ///< Video_List::Filled at the last picture
 };
 
 /// The name filters of Qt's dialogs for a filter written "Caption|pattern|Caption|pattern|".

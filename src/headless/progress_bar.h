@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/amount_text.h"
+
 #include <QString>
 #include <cstdio>
 
@@ -46,9 +48,3 @@ QString Facts_Text(const Bar_Facts& facts);
 /// The bar and the facts behind it as a text of at most `columns` characters: "[####   ] 17/40 43% ...". The bar grows
 /// with the columns; few leave none.
 QString Bar_Text(const Bar_Facts& facts, int columns);
-
-/// "12.4 GB", in units of a thousand.
-QString Size_Text(double bytes);
-
-/// "3:10", or from an hour on, and with `hours` always, "0:03:10".
-QString Time_Text(qint64 seconds, bool hours = false);

@@ -1,6 +1,7 @@
 #include "inspect/video_names.h"
 
 #include "state/program.h"
+#include "support/disk_steps.h"
 #include "support/files.h"
 #include "support/paths.h"
 
@@ -9,6 +10,15 @@ using namespace Qt::StringLiterals;
 bool Is_Working_Name(const QString& name)
 {
     return name.startsWith(".vantorra-"_L1);
+}
+
+std::vector<Folder_Entry> Video_Entries(const QString& folder, int& error)
+{
+    std::vector<Folder_Entry> entries = List_Entries(folder, error);
+    std::erase_if(entries, [](const Folder_Entry& entry) {
+        return Is_Working_Name(entry.Name) || !Match_File_Masks(entry.Name, Video_Extensions);
+    });
+    return entries;
 }
 
 bool Is_Video_File(const QString& path, QString& out)

@@ -2,7 +2,9 @@
 
 #include <QString>
 #include <QStringList>
+#include <vector>
 
+struct Folder_Entry;
 struct Program;
 
 /// The accepted-video patterns, with their duplicates as they stand. Serves as a list of wild-card patterns and as a
@@ -15,6 +17,10 @@ inline const QString Video_Extensions = QStringLiteral(
 /// True for the names of a careful batch's working folders and of what is left of them, which are no entries of any
 /// run.
 bool Is_Working_Name(const QString& name);
+
+/// Every entry of a folder that has a video's extension, whatever it is, in the order of a careful run. `error` as for
+/// List_Entries.
+std::vector<Folder_Entry> Video_Entries(const QString& folder, int& error);
 
 /// True if the extension stands anywhere in Video_Extensions, in the case it has. `out` becomes the base name then;
 /// else the extension, or empty if there is none. Deliberate: a mere fragment of the list ("m") counts as a video, and

@@ -155,11 +155,14 @@ static void Add_Entry(Program& program)
     Folder_Lock lock;
     if (!Lock_Folder(lock, program)) {
         const QString kept = Keep_Aside(folder, entry);
-        if (!program.Run.Halt_Requested && !program.Person.Is_Asked_To_Stop())
-            program.Person.Show_Message(
-                {.Title = u"The log is in use."_s,
-                 .Text = u"Another program has been writing the log for a minute. This run's entry is kept in\r\n"_s +
-                         kept + u"\r\nand goes into the log with the next run's entry."_s});
+        const QString told =
+            u"Another program has been writing the log for a minute. This run's entry is kept in\r\n"_s + kept +
+            u"\r\nand goes into the log with the next run's entry."_s;
+        // A run that nobody watches waits for nobody.
+        if (program.Run.Careful && program.Listener)
+            program.Listener->Warned(u"The log is in use."_s, told.simplified());
+        else if (!program.Run.Halt_Requested && !program.Person.Is_Asked_To_Stop())
+            program.Person.Show_Message({.Title = u"The log is in use."_s, .Text = told});
         return;
     }
     std::optional<Log_Work_File> work;

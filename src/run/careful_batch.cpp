@@ -19,16 +19,6 @@ using namespace Qt::StringLiterals;
 /// So many videos in a row for which a tool couldn't be started end the batch: the next would fare no better.
 static constexpr int Most_Unstarted = 3;
 
-/// Every entry of the folder that has a video's extension. `error` as for List_Entries.
-static std::vector<Folder_Entry> Video_Entries(const QString& folder, int& error)
-{
-    std::vector<Folder_Entry> entries = List_Entries(folder, error);
-    std::erase_if(entries, [](const Folder_Entry& entry) {
-        return Is_Working_Name(entry.Name) || !Match_File_Masks(entry.Name, Video_Extensions);
-    });
-    return entries;
-}
-
 /// The folders that the run walks.
 static Subfolders Folders_To_Walk(const Program& program)
 {
@@ -99,13 +89,16 @@ static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Do
     const Program& program = walk.Prog;
     const Run_Choice& choice = program.Run.Choice;
     for (const Folder_Entry& video : walk.Videos) {
+        if (choice.Names && !choice.Names->contains(walk.Folders.Sub + video.Name))
+            continue;
         if ((!choice.Only.isEmpty() && !Fits_One(walk, video.Name, choice.Only)) ||
             Fits_One(walk, video.Name, choice.Leave_Out))
             continue;
         const QString source = walk.Folders.Videos + video.Name;
         if (choice.Only_Failed && results.value(source).Status != "failed"_L1)
             continue;
-        if (choice.Resume && Is_Done_Before(results, source, Hash_Of_Video(program, source))) {
+        const bool was_done = results.value(source).Status == "done"_L1; // the hash takes a while
+        if (choice.Resume && was_done && Is_Done_Before(results, source, Hash_Of_Video(program, source))) {
             ++before.Files;
             if (results.value(source).Warned)
                 before.With_Warnings += walk.Folders.Sub + video.Name;
@@ -168,14 +161,19 @@ static void Begin(Careful_Run& run)
     const Journal_Results results = asks ? Read_Journal(program.Settings.App_Folder) : Journal_Results();
     Done_Already before;
     program.Run.Videos_Chosen = 0;
+    QStringList sources;
     for (const auto& walk : run.Walks) {
         Enter(*walk);
         Choose_Videos(*walk, results, before);
         program.Run.Videos_Chosen += static_cast<int>(walk->Chosen.size());
+        for (const Folder_Entry& video : walk->Chosen)
+            sources += walk->Folders.Videos + video.Name;
     }
     Use_Folders(root, program.Options);
     if (before.Files > 0 && program.Listener)
         program.Listener->Done_Before(before.Files, before.With_Warnings);
+    if (program.Listener)
+        program.Listener->Videos_Chosen(sources);
 }
 
 static void Clear_Marks(Run_State& run)

@@ -1,5 +1,6 @@
 #include "run/check_facts.h"
 
+#include "command/external_audio.h"
 #include "inspect/output_check.h"
 #include "state/program.h"
 #include "state/run_listener.h"
@@ -16,10 +17,79 @@ static QStringList Kept_Tracks(const FileInfoList& streams)
     return tracks;
 }
 
+/// "3 fonts"; nothing for none. A word that already stands for many has no ending.
+static void Add_Count(QStringList& parts, int count, const QString& one, const QString& ending = u"s"_s)
+{
+    if (count > 0)
+        parts += QString::number(count) + u' ' + one + (count == 1 ? QString() : ending);
+}
+
+static QString Sum_Of_Kept(const FileInfoList& streams)
+{
+    const auto count = [&streams](QLatin1StringView type) {
+        int found = 0;
+        for (const FileInfo& stream : streams)
+            found += stream.StreamType == type ? 1 : 0;
+        return found;
+    };
+    QStringList parts;
+    Add_Count(parts, count("audio"_L1), u"audio"_s, {});
+    Add_Count(parts, count("subtitle"_L1), u"subtitle"_s);
+    if (!parts.isEmpty())
+        return parts.join(u", "_s);
+    return count("video"_L1) > 0 ? u"video only"_s : u"nothing"_s;
+}
+
+/// Languages of the added files, in order, each once.
+static QStringList Languages_Of(const ExternalTrackList& list)
+{
+    QStringList languages;
+    for (const ExternalTrack& track : list)
+        if (track.InUse && !track.Language.isEmpty() && track.Language != "und"_L1)
+            languages += track.Language;
+    languages.removeDuplicates();
+    return languages;
+}
+
+static void Add_Tracks(QStringList& parts, int count, const QString& one, const QString& ending,
+                       const ExternalTrackList& list)
+{
+    Add_Count(parts, count, one, ending);
+    const QStringList languages = Languages_Of(list);
+    if (count > 0 && !languages.isEmpty())
+        parts.last() += u" ("_s + languages.join(u", "_s) + u')';
+}
+
+static QString Sum_Of_Added(const Program& program, const Asked_Output& asked)
+{
+    int audio = 0;
+    int subtitles = 0;
+    for (std::size_t i = 1; i < asked.Inputs.size(); ++i)
+        ++(Match_File_Masks(File_Name_Of(asked.Inputs[i].Path), Audio_File_Masks) ? audio : subtitles);
+    int fonts = 0;
+    for (const QString& path : asked.Attached)
+        fonts += Match_File_Masks(File_Name_Of(path), u"*.ttf;*.otf;*.ttc;*.woff;*.woff2"_s) ? 1 : 0;
+
+    QStringList parts;
+    Add_Tracks(parts, audio, u"audio"_s, {}, program.Companions.External_Audio);
+    Add_Tracks(parts, subtitles, u"subtitle"_s, u"s"_s, program.Companions.External_Subtitles);
+    if (asked.Has_Chapter_File)
+        parts += u"chapters"_s;
+    Add_Count(parts, fonts, u"font"_s);
+    Add_Count(parts, static_cast<int>(asked.Attached.size()) - fonts, u"picture"_s);
+    return parts.join(u", "_s);
+}
+
 Check_Facts Check_Facts_Of(const Program& program, const Command_Line& command)
 {
-    const Asked_Output asked = Asked_Of(command, program.Media.FileInfoList);
-    Check_Facts facts{.Tracks = Kept_Tracks(program.Media.FileInfoList), .Added = {}, .Chapters = u"kept"_s};
+    const FileInfoList& streams = program.Media.FileInfoList;
+    const Asked_Output asked = Asked_Of(command, streams);
+    Check_Facts facts{.Tracks = Kept_Tracks(streams),
+                      .Added = {},
+                      .Chapters = u"kept"_s,
+                      .Keeps = Sum_Of_Kept(streams),
+                      .Adds = Sum_Of_Added(program, asked),
+                      .Length = Seconds_Of(streams.front())};
     for (std::size_t i = 1; i < asked.Inputs.size(); ++i)
         facts.Added += File_Name_Of(asked.Inputs[i].Path);
     for (const QString& path : asked.Attached)

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 class Command_Line;
 struct File_Outcome;
@@ -13,6 +14,10 @@ struct Check_Facts
     QStringList Tracks; ///< "0 video h264 eng": kept, with the number that mkvmerge gives them
     QStringList Added;  ///< names of the files that are added or attached
     QString Chapters;   ///< "kept", "removed" or the name of the file that replaces them
+
+    QString Keeps;                ///< "2 audio, 1 subtitle": Tracks, summed up
+    QString Adds;                 ///< "1 audio (ger), 2 subtitles, chapters, 3 fonts": the rest, summed up
+    std::optional<double> Length; ///< of the source, in seconds; nothing: not known
 };
 
 /// Of the video whose command was just assembled.

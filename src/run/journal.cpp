@@ -68,7 +68,8 @@ static void Read_Journal_File(const QString& path, Journal_Results& results)
                  .Hash = line[u"hash"_s].toString(),
                  .Outputs = {},
                  .Output_Bytes = line[u"output_bytes"_s].toInteger(),
-                 .Warned = !line[u"warnings"_s].toArray().isEmpty()};
+                 .Warned = !line[u"warnings"_s].toArray().isEmpty(),
+                 .Reason = line[u"reason"_s].toString()};
         for (const QJsonValue output : line[u"outputs"_s].toArray())
             entry.Outputs += output.toString();
     }
@@ -106,11 +107,18 @@ static QStringList Options_In_Force(const Program& program)
     QStringList options;
     for (const Settings_Row& row : Settings_Rows()) {
         const bool of_the_log = row.Number == Row::Append_Logs || row.Number == Row::Verbosity;
-        if (of_windows.contains(row.Section) || row.Key.contains("Window Size"_L1) || of_the_log)
+        const bool of_the_list = row.Key.startsWith("Video List"_L1);
+        if (of_windows.contains(row.Section) || row.Key.contains("Window Size"_L1) || of_the_log || of_the_list)
             continue;
         options += row.Section + u'/' + row.Key.trimmed() + u'=' + Value_In_Force(row, program);
     }
     return options;
+}
+
+QString Options_Text(const Program& program)
+{
+    const QString split = program.Options.chk_SplitVideos.Value == 1 ? u"split"_s : u"whole"_s;
+    return Options_In_Force(program).join(u'\n') + split;
 }
 
 QString Note_Start(const Program& program, const QStringList& names)
@@ -211,8 +219,7 @@ QString Hash_Of_Video(const Program& program, const QString& source)
     if (program.Run.Dry_Run && !program.Run.Choice.Resume)
         return {};
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(Options_In_Force(program).join(u'\n').toUtf8());
-    hash.addData(program.Options.chk_SplitVideos.Value == 1 ? "split" : "whole");
+    hash.addData(Options_Text(program).toUtf8());
     Add_File(hash, source);
     for (const QString& file : Files_That_Go_With(program, source))
         Add_File(hash, file);

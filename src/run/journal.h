@@ -21,6 +21,7 @@ struct Journal_Entry
     QStringList Outputs;
     std::int64_t Output_Bytes = 0; ///< of all outputs
     bool Warned = false;
+    QString Reason; ///< in words
 };
 
 /// All that the journal files of this machine say, by source path: the newest line of each counts.
@@ -40,6 +41,9 @@ QString Note_Result(const Program& program, const File_Outcome& outcome, const Q
 
 /// The same for a video of a classic run, whose journal nobody waits for.
 void Note_Result(const Program& program, const File_Outcome& outcome, const QString& hash);
+
+/// The options that decide what becomes of a video, one text: another text, another outcome.
+QString Options_Text(const Program& program);
 
 /// What a result depends on, without looking into any file: the options in force, and name, size and time of change of
 /// the source and of every file that may be added to it. Empty in a dry run that asks for nothing of the journal.

@@ -4,8 +4,11 @@
 #include "logs/process_log.h"
 #include "rules/folders.h"
 #include "rules/option_rules.h"
+#include "rules/video_list.h"
+#include "run/batch_steps.h"
 #include "run/careful_batch.h"
 #include "run/careful_hint.h"
+#include "run/earlier_results.h"
 #include "run/journal.h"
 #include "run/output_guard.h"
 #include "run/split_run.h"
@@ -67,6 +70,11 @@ static bool Find_Work(Program& program)
         return false;
     }
     if (program.Run.Careful) {
+        if (program.Run.Choice.Names && program.Run.Choice.Names->isEmpty()) {
+            program.Form.lbl_VideoPathFault.Caption = u"NO VIDEO IS TICKED!"_s;
+            Refuse(program, u"        -- No video is ticked in the list."_s);
+            return false;
+        }
         const QString why_not = Find_Careful_Videos(program);
         if (!why_not.isEmpty())
             Refuse(program, u"        -- "_s + why_not);
@@ -82,28 +90,17 @@ static bool Find_Work(Program& program)
     return true;
 }
 
-/// These hold for the whole run as they are at the press.
-static void Sample_Options(Program& program)
-{
-    const auto on = [](const Check_Box& box) { return box.Enabled && box.Value == 1; };
-    program.Run.Strip_Audio_Titles = on(program.Options.chk_StripOrigAudioTitle);
-    program.Run.Strip_Subtitle_Titles = on(program.Options.chk_StripOrigSubsTitle);
-    program.Run.Add_Attachments_On = on(program.Options.chk_AddAttachments);
-    program.Run.Sensible_Bases.clear();
-    if (program.Settings.Extensions.Sensible_Names_And_Sizes)
-        for (const QString& name : program.Run.Video_File_List)
-            program.Run.Sensible_Bases += Get_Base_Name(name).toLower();
-}
-
-/// HALT stands in Run's place from the press on: the tools that are tried ahead of the run may hang.
+/// HALT stands in Run's place from the press on: the tools that are tried ahead of the run may hang. A check leaves Run
+/// where it is.
 static void Offer_Halt(Program& program)
 {
     Main_Form& form = program.Form;
     program.Run.Halt_Requested = false;
-    form.btn_RunVantorra.Visible = false;
+    form.btn_RunVantorra.Visible = program.Run.Checking;
     form.btn_Halt.Caption = u"HALT"_s;
-    form.btn_Halt.Visible = true;
+    form.btn_Halt.Visible = !program.Run.Checking;
     form.btn_Halt.Enabled = true;
+    Set_List_Buttons(program);
     // A driver whose halt has come already says so again.
     program.Person.Pump_Events();
 }
@@ -209,13 +206,15 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
         return Press_Result::Refused;
     }
 
-    Sample_Options(program);
+    Sample_Options(program, program.Run.Video_File_List);
     Show_Running(program);
     Run_Mode(program);
 
     const bool halted = program.Run.Halt_Requested;
     program.Run.Run_In_Progress = false;
-    if (halted) {
+    if (program.Run.Checking) {
+        Forget_Last_Run(program.Form);
+    } else if (halted) {
         // Who halts wants to go on or away, and a signal mustn't wait for a click.
         program.Run.Failed_Videos.clear();
         Show_Interrupted(program);
@@ -224,6 +223,8 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     }
 
     Write_Process_Log(program);
+    if (program.Run.Careful && !program.Videos.Folder.isEmpty())
+        Forget_Outputs(program.Run); // the list has told it
     Unlock_Main_Form(program.Form);
     Show_Idle(program);
     return halted ? Press_Result::Interrupted : Press_Result::Finished;

@@ -306,6 +306,23 @@ Settings_Row Extension_Row(const QString& key, bool Extension_Switches::*flag)
             }};
 }
 
+Settings_Row Extension_Number_Row(const QString& key, int Extension_Switches::*number)
+{
+    const int at_rest = Extension_Switches{}.*number;
+    return {
+        .Section = u"Extensions"_s,
+        .Key = key,
+        .Default = QString::number(at_rest),
+        .Written = [number](const Program& program) { return QString::number(program.Settings.Extensions.*number); },
+        .Take =
+            [number, at_rest](Program& program, const QString& text, const QString&) {
+                constexpr int most = 100'000;
+                bool is_number = false;
+                const int value = text.trimmed().toInt(&is_number);
+                program.Settings.Extensions.*number = is_number && value >= 0 && value <= most ? value : at_rest;
+            }};
+}
+
 Settings_Row Output_Exists_Row(const QString& key)
 {
     static const QStringList words = {u"Replace"_s, u"Skip"_s, u"Number"_s};

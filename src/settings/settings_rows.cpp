@@ -232,6 +232,8 @@ static std::vector<Settings_Row> Closing_Rows()
         Extension_Row(u"Run Button Follows Folders"_s, &Extension_Switches::Run_Button_Follows_Folders),
         Extension_Row(u"Delete Source Only After Success"_s, &Extension_Switches::Delete_Source_Only_After_Success),
         Extension_Row(u"Identify With Any mkvmerge"_s, &Extension_Switches::Identify_With_Any_Mkvmerge),
+        Extension_Row(u"Video List Open"_s, &Extension_Switches::Video_List_Open),
+        Extension_Number_Row(u"Video List Height"_s, &Extension_Switches::Video_List_Height),
     };
 }
 

@@ -33,6 +33,9 @@ struct Main_Form
     // Buttons and pictures
     Button btn_RunVantorra{.Caption = QStringLiteral("Run Vantorra")};
     Button btn_Halt{.Caption = QStringLiteral("HALT"), .Visible = false};
+    Button btn_Check{.Caption = QStringLiteral("Check")};
+    Button btn_RunFailed{.Caption = QStringLiteral("Run failed again"), .Visible = false};
+    Button btn_Continue{.Caption = QStringLiteral("Continue"), .Visible = false};
     Button btn_ViewVidInfo{.Caption = QStringLiteral("View Video File Info"), .Enabled = false};
     Panel pic_QuitButton;
     Panel pic_ProcessFailed{.Caption = {}, .Visible = false};

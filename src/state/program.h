@@ -12,6 +12,7 @@
 #include "state/run_state.h"
 #include "state/settings_state.h"
 #include "state/tool_paths.h"
+#include "state/video_list.h"
 #include "support/operator.h"
 
 #include <QDateTime>
@@ -40,6 +41,7 @@ struct Program
     Media_State Media;
     ::Companions Companions;
     Run_State Run;
+    Video_List Videos;
     Log_Buffers Logs;
     LanguageTable Language_Table;
     Option_Editor Option_Files;       ///< frm_OptionsFiles

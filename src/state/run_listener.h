@@ -32,7 +32,8 @@ struct File_Outcome
     QString Name() const { return Sub_Path + File_Name_Of(Source); }
 };
 
-/// What a driver may want to hear while a run goes on. The headless driver prints it; the window needs none of it.
+/// What a driver may want to hear while a run goes on. The headless driver prints it; the window
+/// keeps its list of videos by it.
 class Run_Listener
 {
   public:
@@ -43,6 +44,9 @@ class Run_Listener
 
     /// The loop begins; `files` accepted videos were found.
     virtual void Run_Started(int /*files*/) {}
+
+    /// A careful batch takes these in work, one after the other; paths of the sources.
+    virtual void Videos_Chosen(const QStringList& /*sources*/) {}
 
     /// `index` counts from 1.
     virtual void File_Started(int /*index*/, const QString& /*source*/) {}

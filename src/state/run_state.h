@@ -2,6 +2,7 @@
 
 #include "support/command_line.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -10,10 +11,11 @@
 /// Which of a folder's videos a careful batch takes in work.
 struct Run_Choice
 {
-    bool Resume = false;      ///< not those that the journal has as done, if nothing has changed since
-    bool Only_Failed = false; ///< only those whose last result in the journal is a failure
-    QStringList Only;         ///< wild-card patterns of names; empty: all
-    QStringList Leave_Out;    ///< wild-card patterns of names
+    bool Resume = false;                     ///< not those that the journal has as done, if nothing has changed since
+    bool Only_Failed = false;                ///< only those whose last result in the journal is a failure
+    QStringList Only = {};                   ///< wild-card patterns of names; empty: all
+    QStringList Leave_Out = {};              ///< wild-card patterns of names
+    std::optional<QSet<QString>> Names = {}; ///< these only, as the list has them ticked; nothing: all
 };
 
 /// What a careful batch tells the parts that it shares with the classic one.
@@ -67,6 +69,9 @@ struct Run_State
 
     bool Kill_By_Name = true; ///< a halt kills every mkvmerge of this user; false: the run's own child only
     bool Dry_Run = false;     ///< inspect and assemble only: nothing is run, written, converted or trashed
+
+    bool Checking = false;   ///< a dry run of the window that fills the list
+    bool Run_Wanted = false; ///< the run button was pressed in a check: once that is over
 
     std::optional<bool> Careful_Asked = {}; ///< careful or classic for this run, whatever the settings say
     bool Careful = false;                   ///< the run that goes on is a careful one

@@ -51,6 +51,8 @@ struct Extension_Switches
     bool Run_Button_Follows_Folders = true;
     bool Delete_Source_Only_After_Success = false;
     bool Identify_With_Any_Mkvmerge = true;
+    bool Video_List_Open = true;
+    int Video_List_Height = 0; ///< in pixels; 0: as much as it takes at first
 };
 
 /// All settings that are no options of a run, and where the settings are.

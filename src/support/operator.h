@@ -68,6 +68,9 @@ class Operator
     /// Opens a document with whatever the desktop uses for it; false if it can't.
     virtual bool Open_Document(const QString& path) = 0;
 
+    /// Puts a text where the desktop pastes from, if there is such a place.
+    virtual void Copy_Text(const QString& /*text*/) {}
+
     /// True once the program was asked to end from outside: whatever waits gives up. A halt button isn't such a call.
     virtual bool Is_Asked_To_Stop() { return false; }
 

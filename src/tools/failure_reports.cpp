@@ -117,6 +117,12 @@ bool Holds(const int (&codes)[Size], int code)
     return std::find(std::begin(codes), std::end(codes), code) != std::end(codes);
 }
 
+/// A run that nobody watches, and a check, wait for nobody: what they meet stands in the list.
+bool Waits_For_Nobody(const Program& program)
+{
+    return program.Listener && program.Run.Run_In_Progress && (program.Run.Checking || program.Run.Careful);
+}
+
 } // namespace
 
 int Report_Run_Failure(Program& program, int code, const QString& text_1, const QString& text_2, const QString& beside)
@@ -143,8 +149,11 @@ int Report_Run_Failure(Program& program, int code, const QString& text_1, const 
     if (program.Listener)
         program.Listener->Reported(code);
     const QString about = beside.isEmpty() ? QString() : u"\r\n\r\nFile: "_s + As_One_Line(beside);
-    program.Person.Show_Message(
-        {.Code = code, .Title = fill(report->Title), .Text = fill(report->Text) + about, .Icon = report->Icon});
+    if (Waits_For_Nobody(program))
+        program.Listener->Warned(fill(report->Title), fill(report->Title) + about.simplified());
+    else
+        program.Person.Show_Message(
+            {.Code = code, .Title = fill(report->Title), .Text = fill(report->Text) + about, .Icon = report->Icon});
     if (Holds(Codes_That_Log_Text_2, code) && !text_2.isEmpty())
         program.Logs.Log_Faults.AppendLine(As_One_Line(text_2));
     program.Logs.Log_Faults.AppendLine(fill(report->Log_Line));

@@ -6,6 +6,7 @@
 #include "support/paths.h"
 #include "support/plain_file.h"
 #include "support/run_time_error.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 #include "workbenches/viewer_place.h"
 #include "workbenches/viewer_text_size.h"
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -117,6 +119,26 @@ void Load_vProcessLog(Program& program, frm_ProcessLog& form, int limit, bool& l
     loaded = true;
 }
 
+/// The first line of the log that names a file, which is the newest, is chosen; the full log is loaded if it takes
+/// that.
+static void Show_Lines_Of(Program& program, frm_ProcessLog& form, const QString& path)
+{
+    const auto find = [&form, name = As_One_Line(path)] {
+        const auto at = std::find_if(form.lst_ProcessLog.begin(), form.lst_ProcessLog.end(),
+                                     [&name](const QString& line) { return line.contains(name); });
+        return at == form.lst_ProcessLog.end() ? -1 : static_cast<int>(at - form.lst_ProcessLog.begin());
+    };
+    int row = find();
+    if (row < 0 && !form.Full_Log_Loaded && form.lst_ProcessLog.size() > First_Lines) {
+        ProcessLog_btn_LoadFullLog(program, form);
+        row = find();
+    }
+    if (row >= 0)
+        form.Selected_Row = row;
+    else
+        program.Videos.Notes = {u"The log has no line about it; from verbosity 1 on it has."_s};
+}
+
 void ProcessLog_Activate(Program& program, frm_ProcessLog& form)
 {
     form.Visible = true;
@@ -128,6 +150,8 @@ void ProcessLog_Activate(Program& program, frm_ProcessLog& form)
     bool loaded = false;
     Load_vProcessLog(program, form, form.Line_Limit, loaded);
     Show_Text_Size(settings.ProcessLog_Font_Size, form.lbl_FontSize);
+    if (const QString path = std::exchange(program.Videos.To_Show, {}); !path.isEmpty())
+        Show_Lines_Of(program, form, path);
 }
 
 void ProcessLog_btn_LoadFullLog(Program& program, frm_ProcessLog& form)

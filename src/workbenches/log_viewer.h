@@ -28,7 +28,8 @@ struct frm_ProcessLog
     Label lbl_FontSize;
 };
 
-/// The form is shown. Only the first call after btn_Done places it and loads the log.
+/// The form is shown. Only the first call after btn_Done places it and loads the log; the lines of a video that the
+/// list of videos asks for are looked for.
 void ProcessLog_Activate(Program& program, frm_ProcessLog& form);
 /// Reads the log up to the line of index `limit` into the list; `loaded` is true at the end. A missing log is an empty
 /// list. The lines are counted in 16 bits: the 32,768th is error 6.

@@ -13,6 +13,8 @@
 #include "workbenches/viewer_place.h"
 #include "workbenches/viewer_text_size.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 QString Video_Info_Text(const QStringList& lines)
@@ -74,6 +76,14 @@ void ViewVFI_Activate(Program& program, frm_ViewVFI& form)
         form.lst_VideoFiles = program.Run.Video_File_List;
     Show_Text_Size(settings.ViewVFI_Font_Size, form.lbl_FontSize);
     form.Focus = u"btn_Done"_s;
+    const QString to_show = std::exchange(program.Videos.To_Show, {});
+    const qsizetype row = form.lst_VideoFiles.indexOf(to_show.mid(program.Options.Path_Videos.size()));
+    if (to_show.isEmpty())
+        return;
+    if (row >= 0)
+        ViewVFI_lst_VideoFiles_Click(program, form, static_cast<int>(row));
+    else // it lies in a folder below
+        ViewVFI_txt_VideoInfo_Drop(program, form, {.Has_File_List = true, .Paths = {to_show}});
 }
 
 void ViewVFI_lst_VideoFiles_Click(Program& program, frm_ViewVFI& form, int index)

@@ -32,7 +32,8 @@ struct frm_ViewVFI
 
 /// The form is made: nothing is shown, codec-private values are hidden.
 void ViewVFI_Load(Program& program, frm_ViewVFI& form);
-/// The form is shown. Only the first call after btn_Done places it and lists the source folder.
+/// The form is shown. Only the first call after btn_Done places it and lists the source folder; a video that the list
+/// of videos asks for is shown at once.
 void ViewVFI_Activate(Program& program, frm_ViewVFI& form);
 /// A click on a row of the list; -1 or an empty name shows nothing new.
 void ViewVFI_lst_VideoFiles_Click(Program& program, frm_ViewVFI& form, int index);
