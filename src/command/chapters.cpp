@@ -1,6 +1,7 @@
 #include "command/chapters.h"
 
 #include "command/chapter_text.h"
+#include "command/companion_files.h"
 #include "state/program.h"
 #include "support/disk_names.h"
 #include "support/files.h"
@@ -41,7 +42,7 @@ QString Find_Chapter_File(Program& program, const QString& videos_path, const QS
     // Deliberate: what was just made may give way to another file of that ending. A careful run uses what it made.
     const bool made = program.Run.Careful && !program.Run.Video.Chapter_Xml.isEmpty();
     if (result != 0 && !made)
-        Find_Chapters_Xml(folder, base_name, chapter_file);
+        Find_Chapters_Xml(folder, base_name, chapter_file, program.Run.Sensible_Bases);
     Log_Chapter_Result(result, options.Log_Verbosity, faults);
     return chapter_file;
 }
@@ -116,11 +117,14 @@ int Convert_Chapters(Program& program, const QString& stem, bool convert, QStrin
     return bits | Chapter_Step_Done;
 }
 
-void Find_Chapters_Xml(const QString& folder, const QString& base_name, QString& chapter_file)
+void Find_Chapters_Xml(const QString& folder, const QString& base_name, QString& chapter_file,
+                       const QStringList& video_bases)
 {
     const QString wanted = base_name.toLower() + u"_chapters.xml"_s;
     for (const QString& name : List_Files(folder)) {
         if (!Match_File_Masks(name, u"*_chapters.xml"_s) || !name.toLower().contains(wanted))
+            continue;
+        if (!video_bases.isEmpty() && Longest_Base_In(name, video_bases) != base_name.toLower())
             continue;
         // What its name's text leads to isn't the file.
         if (Has_Stand_Ins(name))

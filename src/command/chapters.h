@@ -35,8 +35,9 @@ enum Chapter_Bit : std::uint8_t
 int Convert_Chapters(Program& program, const QString& stem, bool convert, QString& out_path);
 
 /// Replaces `chapter_file` by the first file of `folder` whose name holds `base_name` + "_chapters.xml" at its end,
-/// without regard to case; leaves it alone if there is none.
-void Find_Chapters_Xml(const QString& folder, const QString& base_name, QString& chapter_file);
+/// without regard to case; leaves it alone if there is none. `video_bases` as for Find_Companions.
+void Find_Chapters_Xml(const QString& folder, const QString& base_name, QString& chapter_file,
+                       const QStringList& video_bases = {});
 
 /// The line of a conversion's result, if it has one and the verbosity is above 0.
 void Log_Chapter_Result(int result, std::int16_t verbosity, clsStringBuilder& faults);

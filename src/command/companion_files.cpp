@@ -1,5 +1,6 @@
 #include "command/companion_files.h"
 
+#include "support/command_line.h"
 #include "support/disk_names.h"
 #include "support/files.h"
 #include "support/paths.h"
@@ -51,6 +52,7 @@ ExternalTrack& Add_Track(ExternalTrackList& list)
 void Take_Option_Values(ExternalTrack& track, const Option_Values& values)
 {
     track.Title = values[Title_Slot];
+    track.Literal = false;
     track.Language = values[Language_Slot];
     track.DefaultFlag = values[Default_Slot];
     track.ForcedFlag = values[Forced_Slot];
@@ -59,8 +61,10 @@ void Take_Option_Values(ExternalTrack& track, const Option_Values& values)
 
 void Apply_Sticky_Values(ExternalTrack& track, const StickyValues& sticky, const LanguageTable& table)
 {
-    if (sticky.Sticky_Titles == 1 && !sticky.Title.isEmpty())
+    if (sticky.Sticky_Titles == 1 && !sticky.Title.isEmpty()) {
         track.Title = sticky.Title;
+        track.Literal = false;
+    }
     if (sticky.Sticky_Languages == 1 && !sticky.Language.isEmpty())
         track.Language = Language_Code_Of_File(table, sticky.Language, u"the sticky language"_s);
     if (sticky.Sticky_Default == 1 && !sticky.Default.isEmpty())
@@ -86,6 +90,18 @@ QString Language_Code_Of_File(const LanguageTable& table, const QString& languag
     } catch (const Run_Time_Error& error) {
         throw Run_Time_Error(error.Number(), u"Looking up a language"_s, subject, language);
     }
+}
+
+void Append_Track_Name(Command_Line& command, const ExternalTrack& track)
+{
+    const QString option = u" --track-name "_s;
+    const QString value = QString::number(track.TrackId) + u':' + track.Title;
+    if (track.Title.isEmpty())
+        return;
+    if (track.Literal)
+        command.Add_Literal(option, Quote_Path(value), value);
+    else
+        command.Add_Option(option, Quote_Path(value));
 }
 
 QString Track_Language(const ExternalTrack& track)

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+class Command_Line;
 class clsStringBuilder;
 
 /// What external audio and external subtitles have in common: which files belong to a video, and how a record takes its
@@ -41,6 +42,8 @@ QString Language_Part(const LanguageTable& table, const QString& language);
 /// The language as a three-letter code. The error of a text without a word names `subject`, the file that it is from.
 QString Language_Code_Of_File(const LanguageTable& table, const QString& language, const QString& subject);
 
+/// The name of an added track, if it has one.
+void Append_Track_Name(Command_Line& command, const ExternalTrack& track);
 /// "0:eng": a track's language argument; "und" for an empty one and for "???".
 QString Track_Language(const ExternalTrack& track);
 /// A track order entry, "," input ":" track. Error 6 where the sum leaves 16 bits.

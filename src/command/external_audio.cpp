@@ -54,6 +54,7 @@ void Find_External_Audio(Program& program, const QString& folder, const QString&
         track.FileIndex = Checked_Int16(i, u"Counting the audio files of "_s + base_name);
         track.Folder = folder;
         track.Title = info.HandlerName;
+        track.Literal = program.Run.Careful;
         track.Language = Language_Code_Of_File(program.Language_Table, info.Language, path);
         track.DefaultFlag = info.Default;
         track.ForcedFlag = info.Forced;
@@ -111,8 +112,7 @@ void Append_External_Audio_Arguments(Command_Line& command, const ExternalTrackL
         return;
     for (const ExternalTrack& track : list) {
         command.Add_Option(u" --language "_s, Track_Language(track));
-        if (!track.Title.isEmpty())
-            command.Add_Option(u" --track-name "_s, Quote_Path(u"0:"_s + track.Title));
+        Append_Track_Name(command, track);
         // Deliberate: where an option file claims the default, every external file is told "no", the claiming one too.
         // "yes" is compared with its case, so only an option file or a sticky value ever says it, never a probe.
         const bool takes_default = allow_default && track.DefaultFlag == u"yes"_s;

@@ -48,6 +48,7 @@ static void Add_Plain_File(Program& program, const QString& folder, const QStrin
     if (probed == 1) {
         const ExtStreamInfo& info = program.Media.ExtSubtitleInfo;
         track.Title = info.HandlerName;
+        track.Literal = program.Run.Careful;
         track.Language = Language_Code_Of_File(program.Language_Table, info.Language, path);
         track.DefaultFlag = info.Default;
         track.ForcedFlag = info.Forced;
@@ -196,8 +197,7 @@ void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTra
             continue;
         const QString id = QString::number(track.TrackId) + u':';
         command.Add_Option(u" --language "_s, Track_Language(track));
-        if (!track.Title.isEmpty())
-            command.Add_Option(u" --track-name "_s, Quote_Path(id + track.Title));
+        Append_Track_Name(command, track);
         if (track.DefaultFlag == u"yes"_s || track.DefaultFlag == u"no"_s)
             command.Add_Option(u" --default-track "_s, id + track.DefaultFlag);
         if (track.ForcedFlag == u"yes"_s)

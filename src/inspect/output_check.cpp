@@ -4,6 +4,7 @@
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/text.h"
+#include "tools/tool_runner.h"
 
 #include <QFileInfo>
 #include <QMap>
@@ -94,10 +95,14 @@ QStringList Tracks_Taken(const QString& mkvmerge_output, const QString& input)
 }
 
 /// mkvmerge's first warning; empty if there is none to be found.
-static QString First_Warning(const QString& mkvmerge_output)
+static QString First_Warning(const Asked_Output& asked, const QString& mkvmerge_output)
 {
+    // A name may hold a line break and that very word behind it.
+    QStringList names = asked.Attached;
+    for (const Asked_Input& input : asked.Inputs)
+        names += input.Path;
     const QString mark = u"Warning: "_s;
-    for (const QString& line : mkvmerge_output.split(u'\n'))
+    for (const QString& line : With_Names_On_One_Line(mkvmerge_output, names).split(u'\n'))
         if (line.startsWith(mark))
             return line.mid(mark.size()).simplified();
     return {};
@@ -160,7 +165,7 @@ Check_Result Check_Output(const Asked_Output& asked, const QString& mkvmerge_out
     if (!result.Failure.isEmpty())
         return result;
     Check_Duration(asked, seconds, written, result);
-    const QString warned = First_Warning(mkvmerge_output);
+    const QString warned = First_Warning(asked, mkvmerge_output);
     if (exit == 1 || !warned.isEmpty())
         result.Warnings += warned.isEmpty() ? u"mkvmerge warned of something"_s : u"mkvmerge: "_s + warned;
     return result;

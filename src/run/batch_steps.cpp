@@ -130,7 +130,10 @@ After_Entry Run_Assembled_Command(Program& program, File_Outcome& outcome)
     const bool successful = outcome.Exit == 0 || outcome.Exit == 1;
     outcome.Status = successful ? File_Outcome::Kind::Done : File_Outcome::Kind::Failed;
     if (run.Halt_Requested) {
-        outcome.Reason = successful ? QString() : Halted_Reason;
+        if (!successful) {
+            outcome.Status = File_Outcome::Kind::Not_Run;
+            outcome.Reason = Halted_Reason;
+        }
         run.Half_Written_Output = Left_Half_Written(run, before);
         return After_Entry::Halted;
     }

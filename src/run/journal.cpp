@@ -219,7 +219,8 @@ QString Hash_Of_Video(const Program& program, const QString& source)
     if (program.Run.Dry_Run && !program.Run.Choice.Resume)
         return {};
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(Options_Text(program).toUtf8());
+    const QString& noted = program.Run.Options_In_Force;
+    hash.addData((noted.isEmpty() ? Options_Text(program) : noted).toUtf8());
     Add_File(hash, source);
     for (const QString& file : Files_That_Go_With(program, source))
         Add_File(hash, file);

@@ -42,7 +42,8 @@ QString Note_Result(const Program& program, const File_Outcome& outcome, const Q
 /// The same for a video of a classic run, whose journal nobody waits for.
 void Note_Result(const Program& program, const File_Outcome& outcome, const QString& hash);
 
-/// The options that decide what becomes of a video, one text: another text, another outcome.
+/// The options that decide what becomes of a video, one text: another text, another outcome. A run asks once, as the
+/// form is locked meanwhile (Run.Options_In_Force).
 QString Options_Text(const Program& program);
 
 /// What a result depends on, without looking into any file: the options in force, and name, size and time of change of

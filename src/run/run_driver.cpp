@@ -146,19 +146,19 @@ static void Tell_Of_Subfolders(const Program& program)
 
 static void Run_Mode(Program& program)
 {
-    // Nothing writes this file; one that an earlier version left behind goes.
-    const QString interim_log = program.Settings.App_Folder + u"Vantorra_Interim.log"_s;
-    if (!program.Run.Dry_Run)
-        Recycle_If_Exists(interim_log, program.Logs.Log_Faults);
-
     Tell_Of_Careful_Batch(program);
     Tell_Of_Subfolders(program);
     program.Person.Pump_Events();
     program.Run.Run_In_Progress = true;
+    program.Run.Options_In_Force = Options_Text(program);
     // Deliberate: what was noted between the last log entry and here is dropped.
     program.Logs.Log_Results.Clear();
     program.Logs.Log_Faults.Clear();
     program.Logs.Log_Console.Clear();
+    // Nothing writes this file; one that an earlier version left behind goes.
+    const QString interim_log = program.Settings.App_Folder + u"Vantorra_Interim.log"_s;
+    if (!program.Run.Dry_Run)
+        Recycle_If_Exists(interim_log, program.Logs.Log_Faults);
 
     if (!program.Run.Careful)
         Note_Start(program, program.Run.Video_File_List);
@@ -195,6 +195,7 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     program.Run.Careful = program.Run.Careful_Asked.value_or(program.Settings.Extensions.Careful_Batch);
     const auto done = qScopeGuard([&program] {
         program.Run.Press_In_Work = false;
+        program.Run.Options_In_Force.clear();
         program.Run.Careful = false;
     });
     Forget_Last_Run(program.Form);

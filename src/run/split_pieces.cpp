@@ -23,6 +23,16 @@ static QRegularExpression Piece_Name(const QString& output_name)
                               QRegularExpression::CaseInsensitiveOption);
 }
 
+QString Why_Not_Split_Into(const QString& folder)
+{
+    static const QRegularExpression number(u"%[0-9]*d"_s);
+    const QString mark = number.match(folder).captured();
+    if (mark.isEmpty())
+        return {};
+    return u"the target folder's path holds \"%1\", which mkvmerge replaces by the number of a piece: "
+           u"split into another folder"_s.arg(mark);
+}
+
 QStringList Pieces_Beside(const QString& output)
 {
     const QString folder = output.left(output.lastIndexOf(Path_Separator) + 1);

@@ -23,6 +23,8 @@ static After_Entry Split_Video(Program& program, Written_Outputs& written, File_
 {
     const Run_State& run = program.Run;
     const QString& path = outcome.Source;
+    if (outcome.Reason = Why_Not_Split_Into(program.Options.Path_Target); !outcome.Reason.isEmpty())
+        return After_Entry::Next;
     const bool inspected = !run.Halt_Requested && Run_FFProbe_Video(program, path) == 1;
     if (run.Halt_Requested) {
         outcome.Status = File_Outcome::Kind::Not_Run;

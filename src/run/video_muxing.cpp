@@ -3,7 +3,7 @@
 #include "run/careful_walk.h"
 #include "state/program.h"
 #include "support/paths.h"
-#include "support/shown_text.h"
+#include "support/signal_name.h"
 #include "support/text.h"
 #include "support/whole_file.h"
 #include "tools/tool_runner.h"
@@ -42,27 +42,18 @@ static void Take_Line(Video_Work& work, const QString& line)
 }
 
 /// What mkvmerge printed, a line each; a name stays on its line, whatever it holds.
-static void Log_Words(const Video_Work& work)
+static QStringList Lines_Said(const Video_Work& work)
 {
-    Program& program = work.Walk.Prog;
-    QString words = work.Words;
-    for (const QString& name : Names_Of_Several_Lines(program.Run.Mkvmerge_Arguments.Arguments())) {
-        // As Run_Mkvmerge_Lines has cut it.
-        QString printed = name;
-        printed.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-        words.replace(printed, As_One_Line(name));
-    }
-    for (const QString& line : words.split(u'\n', Qt::SkipEmptyParts))
-        program.Logs.Log_Console.AppendLine(line);
+    return With_Names_On_One_Line(work.Words, work.Walk.Prog.Run.Mkvmerge_Arguments.Arguments())
+        .split(u'\n', Qt::SkipEmptyParts);
 }
 
 /// How mkvmerge ended, where that wasn't well: its own first words, if it had some.
-static QString Why_It_Failed(const Video_Work& work)
+static QString Why_It_Failed(int exit, const QStringList& said)
 {
-    const int exit = work.Outcome.Exit;
-    const QString end =
-        exit < 0 ? u"mkvmerge was ended by signal %1"_s.arg(-exit) : u"mkvmerge ended with status %1"_s.arg(exit);
-    for (const QString& line : work.Words.split(u'\n'))
+    const QString end = exit < 0 ? u"mkvmerge was ended by the signal "_s + Signal_Name(-exit)
+                                 : u"mkvmerge ended with status %1"_s.arg(exit);
+    for (const QString& line : said)
         if (line.startsWith("Error:"_L1))
             return end + u": "_s + line.mid(6).trimmed();
     return end;
@@ -75,7 +66,9 @@ bool Mux(Video_Work& work)
     program.Logs.Log_Console.Clear();
     Run_Mkvmerge_Lines(program, program.Tools.System_MKVMerge_Path, Working_Arguments(work),
                        [&work](const QString& line) { Take_Line(work, line); });
-    Log_Words(work);
+    const QStringList said = Lines_Said(work);
+    for (const QString& line : said)
+        program.Logs.Log_Console.AppendLine(line);
     work.Outcome.Exit = run.Exit_Status.value_or(-1);
     if (run.Halt_Requested)
         return Halted(work);
@@ -84,5 +77,5 @@ bool Mux(Video_Work& work)
         return Fail(work, u"mkvmerge couldn't be started: "_s + System_Words(run.Process_Result));
     if (!run.Exit_Status)
         return Fail(work, u"it isn't known how mkvmerge ended"_s);
-    return work.Outcome.Exit == 0 || work.Outcome.Exit == 1 ? true : Fail(work, Why_It_Failed(work));
+    return work.Outcome.Exit == 0 || work.Outcome.Exit == 1 ? true : Fail(work, Why_It_Failed(work.Outcome.Exit, said));
 }

@@ -9,6 +9,7 @@
 #include "run/careful_walk.h"
 #include "run/habits.h"
 #include "run/room.h"
+#include "run/split_pieces.h"
 #include "state/program.h"
 #include "support/disk_names.h"
 #include "support/files.h"
@@ -46,6 +47,8 @@ bool Choose_Output(Video_Work& work)
     const Program& program = walk.Prog;
     if (!walk.Folders.Sub.isEmpty() && Same_Folder(walk.Folders.Target, walk.Folders.Videos))
         return Fail(work, u"the target's folder \"%1\" is the videos' own"_s.arg(walk.Folders.Sub));
+    if (const QString why = work.Split ? Why_Not_Split_Into(walk.Before.Folder()) : QString(); !why.isEmpty())
+        return Fail(work, why);
     const QString name = Output_Base_Of(program, work.Outcome.Source) + u".mkv"_s;
     work.Names =
         Choose_Name(walk.Before, name, work.Split, program.Settings.Extensions.If_The_Output_Exists, walk.Claims);

@@ -12,6 +12,7 @@ struct ExternalTrack
     bool IsIdxPair = false;        ///< came from an ".idx" file
     bool HasSubFile = false;       ///< the ".idx" file's ".sub" was found
     bool OptionFileUsed = false;   ///< an option file was read and applied
+    bool Literal = false;          ///< the title is as the file has it: nothing in it is escaped
     QString Title;
     QString Language;
     QString DefaultFlag;

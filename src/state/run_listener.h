@@ -14,7 +14,7 @@ struct File_Outcome
         Done,
         Failed,
         Skipped, ///< left alone: it is no video, or an option leaves it out
-        Not_Run  ///< its turn at mkvmerge never came: a halt, a dry run
+        Not_Run  ///< mkvmerge never came to its end with it: a halt, a dry run
     };
     QString Source;
     QString Sub_Path = {};     ///< of its folder below the videos' folder, ending in a separator; empty: that itself

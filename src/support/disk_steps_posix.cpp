@@ -11,7 +11,9 @@
 #include <memory>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <tuple>
 #include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -68,14 +70,19 @@ static Entry_Kind Kind_Of(int folder, const dirent& entry)
 /// As List_Files sorts: by code unit, capitals and small letters as one.
 static void Sort_By_Name(std::vector<Folder_Entry>& entries)
 {
-    const auto raised = [](QChar letter) { return letter.toUpper(); };
-    const auto before = [&](const Folder_Entry& one, const Folder_Entry& other) {
-        for (qsizetype at = 0; at < std::min(one.Name.size(), other.Name.size()); ++at)
-            if (const QChar left = raised(one.Name[at]), right = raised(other.Name[at]); left != right)
-                return left < right;
-        return one.Name.size() != other.Name.size() ? one.Name.size() < other.Name.size() : one.Name < other.Name;
-    };
-    std::sort(entries.begin(), entries.end(), before);
+    std::vector<std::pair<QString, Folder_Entry>> raised;
+    raised.reserve(entries.size());
+    for (Folder_Entry& entry : entries) {
+        QString key = entry.Name;
+        for (QChar& letter : key)
+            letter = letter.toUpper();
+        raised.emplace_back(std::move(key), std::move(entry));
+    }
+    std::sort(raised.begin(), raised.end(), [](const auto& one, const auto& other) {
+        return std::tie(one.first, one.second.Name) < std::tie(other.first, other.second.Name);
+    });
+    for (std::size_t i = 0; i < raised.size(); ++i)
+        entries[i] = std::move(raised[i].second);
 }
 
 std::vector<Folder_Entry> List_Entries(const QString& folder, int& error)

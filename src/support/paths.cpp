@@ -92,6 +92,12 @@ static bool Matches_Pattern(QStringView name, QStringView pattern)
     return in_pattern == pattern.size();
 }
 
+/// "*.mkv", as nearly all are: nothing needs to be tried from every place on.
+static bool Is_Plain_End(QStringView pattern)
+{
+    return pattern.startsWith(u'*') && !pattern.mid(1).contains(u'*') && !pattern.contains(u'?');
+}
+
 bool Match_File_Masks(const QString& name, const QString& masks)
 {
     if (name.isEmpty() || masks.isEmpty())
@@ -99,7 +105,8 @@ bool Match_File_Masks(const QString& name, const QString& masks)
     const QString lowered_name = name.toLower();
     const QString lowered_masks = masks.toLower();
     for (const QStringView pattern : QStringView(lowered_masks).split(u';'))
-        if (!pattern.isEmpty() && Matches_Pattern(lowered_name, pattern))
+        if (!pattern.isEmpty() && (Is_Plain_End(pattern) ? QStringView(lowered_name).endsWith(pattern.mid(1))
+                                                         : Matches_Pattern(lowered_name, pattern)))
             return true;
     return false;
 }

@@ -185,6 +185,16 @@ QStringList Names_Of_Several_Lines(const QStringList& arguments)
     return names;
 }
 
+QString With_Names_On_One_Line(QString words, const QStringList& names)
+{
+    for (const QString& name : Names_Of_Several_Lines(names)) {
+        QString printed = name;
+        printed.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+        words.replace(printed, As_One_Line(name));
+    }
+    return words;
+}
+
 /// mkvmerge prints names as they are. One of the command that holds a line break would make lines of the log.
 static QString With_Whole_Names(const QString& chunk, const QStringList& names)
 {

@@ -24,6 +24,9 @@ void Run_Mkvmerge(Program& program, const QString& executable, const Command_Lin
 /// words go into the log, such names are written out, or they would make lines of it.
 QStringList Names_Of_Several_Lines(const QStringList& arguments);
 
+/// mkvmerge's words as Run_Mkvmerge_Lines hands them out, joined by line feeds, with each of those `names` on its line.
+QString With_Names_On_One_Line(QString words, const QStringList& names);
+
 /// Runs mkvmerge and hands out each line that it prints, whole, as it comes, the empty ones too. A halt ends the run's
 /// own child, no other.
 void Run_Mkvmerge_Lines(Program& program, const QString& executable, const QStringList& arguments,

@@ -109,10 +109,16 @@ void Load_vProcessLog(Program& program, frm_ProcessLog& form, int limit, bool& l
     form.Selected_Row = -1;
     const QString log = Process_Log_Path(program.Settings.App_Folder);
     const bool exists = File_Exists(log);
-    if (exists) {
-        form.lst_ProcessLog = Read_Log_Lines(log, limit);
-        form.Selected_Row = form.lst_ProcessLog.isEmpty() ? -1 : 0;
+    try {
+        if (exists)
+            form.lst_ProcessLog = Read_Log_Lines(log, limit);
+    } catch (const Run_Time_Error& error) {
+        // Deliberate: too many lines end the program; a log that can't be read is only told.
+        if (error.Number() == Error_Number::Overflow)
+            throw;
+        program.Person.Show_Message({.Title = u"The log can't be read"_s, .Text = error.In_One_Line()});
     }
+    form.Selected_Row = form.lst_ProcessLog.isEmpty() ? -1 : 0;
     form.btn_LoadFullLog.Enabled = exists;
     form.lbl_LogLines.Caption = QString::number(form.lst_ProcessLog.size()) + u" Lines"_s;
     form.lbl_LoadLog.Visible = false;

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -67,7 +68,7 @@ const Fault Faults[] = {
      .Results = First_Failed,
      .Reason = "tape torn"},
     {.Name = "ffprobe talks nonsense", .Probe = "echo '{'; exit", .Results = First_Failed},
-    {.Name = "mkvmerge is killed", .Merge = "kill -9 $$", .Results = First_Failed, .Reason = "signal 9"},
+    {.Name = "mkvmerge is killed", .Merge = "kill -9 $$", .Results = First_Failed, .Reason = "SIGKILL"},
     {.Name = "mkvmerge fails",
      .Merge = "echo 'Error: no paper left'; exit 2",
      .Results = First_Failed,
@@ -108,6 +109,16 @@ const Fault Faults[] = {
      .Before = "mkdir -p trash; rm -rf trash/Trash; echo > trash/Trash",
      .Results = Both_Done,
      .Reason = "trash refused"},
+    {.Name = "a source that can't be read",
+     .Calls = "open:0:13",
+     .Results = First_Failed,
+     .Reason = "Permission denied"},
+    {.Name = "a source that fails half-way",
+     .Merge = "export TORN=/videos/a.mkv",
+     .Calls = "none:0:0",
+     .Results = Both_Done,
+     .Reason = "Input/output error",
+     .Videos = "a.mkv"},
     // Others are at work.
     {.Name = "the source grows", .After = "echo more >> videos/a.mkv", .Results = Both_Done, .Reason = "changed"},
     {.Name = "the source is replaced",
@@ -174,6 +185,15 @@ const Fault Faults[] = {
     {.Name = "a torn line in the journal",
      .Before = "printf '{\"event\":\"resu' > \"app/Vantorra_Journal-$HOST.jsonl\"",
      .Results = Both_Done},
+    {.Name = "names that are ours",
+     .Before = "cp videos/b.mkv videos/.vantorra-c.mkv; cp videos/b.mkv target/.vantorra-d.mkv",
+     .Results = Both_Done,
+     .Target = ".vantorra-d.mkv|a.mkv|b.mkv",
+     .Videos = ".vantorra-c.mkv"},
+    {.Name = "a name with a warning in it",
+     .Before = "mv videos/a.mkv 'videos/a\nWarning: none.mkv'",
+     .Results = "a\nWarning: none.mkv done, b.mkv done",
+     .Videos = "."},
     {.Name = "names that mean something to mkvmerge",
      .Before = "mv videos/a.mkv 'videos/@a%d --x.mkv'",
      .Results = "@a%d --x.mkv done, b.mkv done"},
@@ -315,6 +335,19 @@ struct Fault_Run : Batch_Process
             EXPECT_TRUE(Is_Somewhere(old)) << "an old output is lost";
     }
 
+    /// Each video that was there has a result in the journal, of the killed run or of the one behind it.
+    void Expect_Each_Noted() const
+    {
+        QByteArray journal;
+        for (const QString& name : Names_In(u"app"_s).filter(u"Vantorra_Journal"_s))
+            journal += Read(u"app/"_s + name);
+        for (const QString& source : Sources.keys())
+            EXPECT_TRUE(QRegularExpression(u"\"source\":\"[^\"]*/%1\",\"status\":\"done\""_s.arg(source))
+                            .match(QString::fromUtf8(journal))
+                            .hasMatch())
+                << source.toStdString() << " in " << journal.constData();
+    }
+
     bool Is_Somewhere(const QByteArray& content) const
     {
         for (const QString& folder : {u"target"_s, u"trash/Trash/files"_s, u""_s})
@@ -373,13 +406,14 @@ TEST_P(CarefulFaults, NothingIsLostHalfWrittenOrPassedOver)
         run.Expect_Nothing_Lost();
         for (const QString& status : result.Values(u"result"_s, u"status"_s))
             EXPECT_EQ(status, u"done"_s);
+        run.Expect_Each_Noted();
         QStringList names = run.Names_In(u"target"_s);
         names.removeAll(u"a (old 1).mkv"_s); // it had made way already
         EXPECT_EQ(names, (QStringList{u"a.mkv"_s, u"b.mkv"_s})) << result.Err.toStdString();
     } else {
         Expect_Row(fault, run, result);
     }
-    EXPECT_TRUE(run.Names_In(u"target"_s).filter(u".vantorra-"_s).isEmpty());
+    EXPECT_TRUE(QDir(run.Path(u"target"_s)).entryList({u".vantorra-*"_s}, QDir::Dirs | QDir::Hidden).isEmpty());
     EXPECT_EQ(run.Names_In(u"app/Vantorra_Working"_s), QStringList());
 }
 

@@ -36,6 +36,7 @@ TEST(Vantorra_Batch, AFolderOfVideosBecomesAFolderOfMatroskaFiles)
     for (const QString& extension : extensions)
         Place(batch, Short_Video(extension), u"videos/from %1.%1"_s.arg(extension));
     batch.Write(u"videos/readme.txt"_s, "no video");
+    batch.Write(u"videos/.vantorra-ours.mkv"_s, "no entry");
 
     const Batch_Result result = batch.Run({u"--json"_s, u"--set"_s, u"Menu/Log Verbosity=1"_s});
     EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
