@@ -34,9 +34,11 @@ TEST(Habits, AreLeftWithSensibleNamesAndSizesAndElseToldOf)
     Place(batch, Media_File(u"wide.mkv"_s, {u"-i"_s, Short_Video(), u"-vf"_s, u"setsar=16/15"_s}),
           u"videos/wide.mkv"_s);
     batch.Write(u"videos/Show E1.srt"_s, "1\n00:00:00,000 --> 00:00:00,200\nHello\n");
-    batch.Write(u"videos/Show E1_Chapters.xml"_s,
-                "<Chapters><EditionEntry><ChapterAtom><ChapterTimeStart>0:00:00</ChapterTimeStart></ChapterAtom>"
-                "</EditionEntry></Chapters>");
+    batch.Write(
+        u"videos/Show E1_Chapters.xml"_s,
+        "<?xml "
+        "version=\"1.0\"?>\n<Chapters><EditionEntry><ChapterAtom><ChapterTimeStart>00:00:00.000</ChapterTimeStart>"
+        "<ChapterDisplay><ChapterString>One</ChapterString></ChapterDisplay></ChapterAtom></EditionEntry></Chapters>");
     const QString show = u"Show E1.mkv|Show E1.srt|Show E1_Chapters.xml|0"_s;
     const QStringList sensible{u"E1.mkv||kept|0"_s, u"GOPR01.mkv||kept|0"_s, show, u"wide.mkv||kept|0"_s,
                                u"left alone"_s};
