@@ -132,6 +132,7 @@ static void Enter(const Careful_Walk& walk)
 {
     Program& program = walk.Prog;
     Use_Folders(walk.Folders, program.Options);
+    program.Run.Options_In_Force = Options_Text(program);
     program.Run.Sensible_Bases =
         program.Settings.Extensions.Sensible_Names_And_Sizes ? walk.Bases : program.Run.Sensible_Bases;
 }

@@ -63,7 +63,11 @@ void Look_Into_Journal(Program& program)
     Sample_Options(program, names);
     // What belongs to a video is looked for where its own folder's walk would.
     const Run_Folders root = Folders_Of(program.Options);
-    const auto restored = qScopeGuard([&] { Use_Folders(root, program.Options); });
+    const auto restored = qScopeGuard([&] {
+        Use_Folders(root, program.Options);
+        program.Run.Options_In_Force.clear();
+    });
+    program.Run.Options_In_Force = list.Options_Seen;
     QString sub;
     int done = 0;
     int never_ended = 0;
@@ -75,6 +79,7 @@ void Look_Into_Journal(Program& program)
         if (sub != row.Sub_Path) {
             sub = row.Sub_Path;
             Use_Folders(sub.isEmpty() ? root : Folders_Below(root, sub), program.Options);
+            program.Run.Options_In_Force = Options_Text(program);
         }
         const bool failed = known != results.constEnd() && known->Status == "failed"_L1;
         const bool is_done = known != results.constEnd() && known->Status == "done"_L1 &&

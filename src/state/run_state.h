@@ -79,5 +79,5 @@ struct Run_State
     int Videos_Chosen = 0; ///< careful: how many videos the run takes in work
     int Videos_Done = 0;   ///< careful: how many had their turn
     Careful_Video Video;
-    QString Options_In_Force; ///< of the run that goes on, for the hashes of its videos; empty: no run
+    QString Options_In_Force; ///< of the folder in work, for the hashes of its videos; empty: none is
 };
