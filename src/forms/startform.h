@@ -69,7 +69,7 @@ class Startform : public QMainWindow, public Form_View
     /// Where the list may stand beside the options, and not in their place.
     bool Has_Room_For_List() const;
     void Open_List(bool open);
-    /// The buttons beside Run, or in a row of their own where the window is too narrow.
+    /// The buttons beside Run, or in a row of their own where the screen is too narrow.
     void Place_More_Runs();
     /// Colours and pictures of the palette in force, then Measure.
     void Set_Looks();
@@ -96,6 +96,7 @@ class Startform : public QMainWindow, public Form_View
     Options_Layout* options_ = nullptr;
     Video_List_View* list_ = nullptr;
     std::vector<Number_Box_View*> number_boxes_;
+    QString more_runs_;       ///< what the buttons beside Run say
     Form_Place shown_place_;  ///< what the window was last told, or last told us
     QWidget* left_ = nullptr; ///< where Tab goes on from after the focus was parked
     bool by_key_ = false;     ///< the last input was a key

@@ -85,12 +85,20 @@ void Startform::Open_List(bool open)
 void Startform::Place_More_Runs()
 {
     QWidget& more = *ui_->pic_MoreRuns;
+    QString shown;
+    for (const QPushButton* button : {ui_->btn_Check, ui_->btn_Continue, ui_->btn_RunFailed})
+        shown += button->isHidden() ? QString() : button->text();
+    if (shown == more_runs_)
+        return;
+    more_runs_ = shown;
+    // Layouts remember what they held; a window that has grown for that doesn't shrink again.
+    ui_->lay_MoreRuns->invalidate();
+    ui_->lay_Run->invalidate();
     const int beside = more.sizeHint().width() + ui_->lay_Run->spacing();
     const bool is_beside = ui_->lay_Run->indexOf(&more) >= 0;
     const QMargins edges = ui_->lay_Central->contentsMargins();
     const int needed = ui_->lay_Run->minimumSize().width() + (is_beside ? 0 : beside) + edges.left() + edges.right();
-    const int most = isVisible() ? std::max(width(), minimumWidth()) : program_.Form.Screen.Width;
-    const bool fits = needed <= most || !more.isVisibleTo(this);
+    const bool fits = needed <= program_.Form.Screen.Width;
     if (fits == is_beside)
         return;
     if (fits)

@@ -74,8 +74,7 @@ void Video_List_View::Connect()
     connect(ui_->tbl_Videos->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Video_List_View::Note_Selection);
     connect(ui_->tbl_Videos, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
-        // Two clicks on the box are two ticks.
-        if (static_cast<Video_Column>(index.column()) != Video_Column::Video || !program_.Videos.Takes_Ticks)
+        if (!Is_On_Box(index)) // two clicks there are two ticks
             guard_.Call([this] { Show_Video_Info(program_); });
     });
     connect(ui_->tbl_Videos->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
@@ -161,6 +160,17 @@ QList<QWidget*> Video_List_View::In_Tab_Order() const
     return order + QList<QWidget*>{ui_->txt_VideoFilter, ui_->tbl_Videos};
 }
 
+/// The pointer is on the tick box of a cell.
+bool Video_List_View::Is_On_Box(const QModelIndex& index) const
+{
+    if (static_cast<Video_Column>(index.column()) != Video_Column::Video || !program_.Videos.Takes_Ticks)
+        return false;
+    const QTableView& table = *ui_->tbl_Videos;
+    constexpr int around = 8;
+    const int at = table.viewport()->mapFromGlobal(QCursor::pos()).x() - table.visualRect(index).left();
+    return at < table.style()->pixelMetric(QStyle::PM_IndicatorWidth) + around;
+}
+
 bool Video_List_View::Is_In_View(int row) const
 {
     const QTableView& table = *ui_->tbl_Videos;
@@ -204,6 +214,7 @@ void Video_List_View::Follow_Work()
 {
     const int number = program_.Videos.In_Work;
     if (number < 0) {
+        followed_ = -1;
         follows_ = follows_ || !program_.Run.Press_In_Work;
         return;
     }

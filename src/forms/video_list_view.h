@@ -57,6 +57,7 @@ class Video_List_View : public QWidget
     void Follow_Work();
     void Render_Head();
     bool Is_In_View(int row) const;
+    bool Is_On_Box(const QModelIndex& index) const;
 
     Program& program_;
     Slot_Guard& guard_;

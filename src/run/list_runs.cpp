@@ -106,8 +106,10 @@ void btn_Check_Click(Program& program)
         Run_Choice_Of(program, {.Names = Ticked(program)}, {});
     }
     Look_After_Run(program);
-    if (std::exchange(run.Run_Wanted, false))
+    if (std::exchange(run.Run_Wanted, false)) {
         Run_Ticked(program, {});
+        Show_Run_Warnings(program);
+    }
 }
 
 void Keep_List_In_Step(Program& program)
