@@ -1,3 +1,4 @@
+#include "bench/nobody.h"
 #include "fuzz.h"
 #include "settings/ini_file.h"
 #include "settings/settings_store.h"
@@ -8,35 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Nobody: reading and writing settings asks nothing.
-class No_Operator : public Operator
-{
-  public:
-    Message_Answer Show_Message(const Message_Box& box) override
-    {
-        Claim(false, "reading settings shows no box", box.Text);
-        return Message_Answer::Ok;
-    }
-
-    void Show_Modal(const QString&) override {}
-
-    void Show_Form(const QString&) override {}
-
-    QString Pick_Folder(const QString&, const QString&) override { return {}; }
-
-    QStringList Pick_File(const File_Question&) override { return {}; }
-
-    void Pump_Events() override {}
-
-    void Wait_With_Events(int) override {}
-
-    bool Open_Document(const QString&) override { return false; }
-};
-
 /// The text that is written after `document` was read; nothing if reading or writing stops at a value.
 std::optional<QByteArray> Read_And_Written(Ini_Document document)
 {
-    No_Operator nobody;
+    Nobody nobody;
     Program program(nobody);
     program.Now = [] { return QDateTime(QDate(2026, 3, 7), QTime(13, 5)); };
     try {

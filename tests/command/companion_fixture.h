@@ -4,7 +4,6 @@
 #include "support/text.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 /// A program with its language table and an ffprobe that says the same of every file: German, default, "Handler". It
 /// says nothing of a file whose name holds "silent".

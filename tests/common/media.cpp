@@ -8,8 +8,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-using namespace Qt::StringLiterals;
-
 QString Tool_In_Path(const QString& name)
 {
     const QString path = QStandardPaths::findExecutable(name);

@@ -4,8 +4,6 @@
 #include <QFile>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 QString Write_Stand_In(const Test_Program& test, const QString& relative, const QByteArray& body)
 {
     const QString path = test.Write(relative, "#!/bin/sh\n" + body);

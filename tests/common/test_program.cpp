@@ -10,8 +10,6 @@
 #include <ostream>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 Message_Answer Test_Operator::Show_Message(const Message_Box& box)
 {
     Messages.push_back(box);

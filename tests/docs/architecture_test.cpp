@@ -4,8 +4,6 @@
 #include <gmock/gmock.h>
 #include <map>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString Room_Of(const QString& path)

@@ -6,8 +6,6 @@
 #include <QRegularExpression>
 #include <gmock/gmock.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The program that the completions ask for its lists.

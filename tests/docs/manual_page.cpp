@@ -2,9 +2,6 @@
 
 #include <QDirIterator>
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 QString Source_Text(const QString& path)
 {

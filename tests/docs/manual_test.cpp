@@ -11,8 +11,6 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Manual : testing::Test

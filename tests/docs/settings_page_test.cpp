@@ -3,10 +3,6 @@
 #include "settings/settings_rows.h"
 #include "settings/settings_store.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// A key as docs/formats/vantorra-ini.md tells it.
 struct Documented_Key
 {

@@ -8,9 +8,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QJsonDocument>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 QList<QJsonObject> Batch_Result::Events() const
 {

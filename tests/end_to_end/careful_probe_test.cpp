@@ -1,10 +1,6 @@
 #include "end_to_end/batch_process.h"
 #include "end_to_end/library.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// Source, output and the command's text of each video, as a dry run tells them.
 static QStringList Commands_Of(Batch_Process& batch, const QString& kind, const QStringList& options)
 {

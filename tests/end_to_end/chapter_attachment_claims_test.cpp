@@ -6,8 +6,6 @@
 #include <QFile>
 #include <gmock/gmock.h>
 
-using namespace Qt::StringLiterals;
-
 /// What chapter files and attachments become, with the real tools; and a run with everything switched on.
 
 static const QString Film_Picture = u"video MPEG-4p2 und default"_s;

@@ -3,8 +3,6 @@
 
 #include <QFile>
 
-using namespace Qt::StringLiterals;
-
 /// What external audio and subtitle files become, with the real tools.
 
 static const QString Plain_Video = u"video MPEG-4p2 und default"_s;

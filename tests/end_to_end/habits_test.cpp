@@ -4,9 +4,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// "output|added|chapters|number of problems" for each video, as a check tells it, and whether wide.mkv's size is
 /// pinned.

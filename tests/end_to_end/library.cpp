@@ -10,9 +10,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 QByteArray Bytes_Of_File(const QString& path)
 {

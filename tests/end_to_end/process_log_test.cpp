@@ -2,9 +2,6 @@
 #include "end_to_end/library.h"
 
 #include <QRegularExpression>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

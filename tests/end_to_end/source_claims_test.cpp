@@ -1,7 +1,5 @@
 #include "end_to_end/track_claim.h"
 
-using namespace Qt::StringLiterals;
-
 /// What the options make of a source's own tracks, with the real tools.
 
 static const QString Picture = u"video MPEG-4p2 und [Picture] default"_s;

@@ -5,9 +5,6 @@
 
 #include <QDir>
 #include <QJsonArray>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// Seven seconds with a key picture each second, English sound and one of no language.
 static QString Seven_Seconds()
@@ -67,16 +64,9 @@ TEST(Split, PiecesHaveTheSetLengthAndAllTracks)
     EXPECT_TRUE(Split(test, u"10"_s));
     EXPECT_EQ(heard.Last.Pieces, QStringList{film + u"-001.mkv"_s});
     EXPECT_TRUE(QFile::exists(source));
-}
 
-TEST(Split, AVideoShorterThanTheSplitTimeStaysWhole)
-{
-    Test_Program test;
-    Place(test, Seven_Seconds(), u"videos/a.mkv"_s);
-    Place(test, Rich_Video(), u"videos/b.MKV"_s);
-    EXPECT_TRUE(Split(test, u"10"_s));
-    EXPECT_EQ(Pieces_Of(test), (QStringList{u"MKV-001.mkv 1"_s, u"a-001.mkv 7"_s}));
-    EXPECT_EQ(Tracks_Of(test.Path(u"target/MKV-001.mkv"_s)).size(), 4) << "subtitles are copied too";
-    EXPECT_EQ(Identify(test.Path(u"target/MKV-001.mkv"_s))[u"container"_s][u"properties"_s][u"title"_s].toString(),
-              u"A rich film"_s);
+    Test_Program rich;
+    Place(rich, Rich_Video(), u"videos/b.MKV"_s);
+    EXPECT_TRUE(Split(rich, u"10"_s));
+    EXPECT_EQ(Tracks_Of(rich.Path(u"target/MKV-001.mkv"_s)).size(), 4) << "subtitles are copied too";
 }

@@ -2,9 +2,6 @@
 #include "end_to_end/batch_process.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// A shelf of two seasons with what must not be walked, the target among it, and subtitles beside a video and
 /// elsewhere.

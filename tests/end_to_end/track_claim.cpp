@@ -2,8 +2,6 @@
 
 #include "support/paths.h"
 
-using namespace Qt::StringLiterals;
-
 TEST_P(Track_Claims, Hold)
 {
     const Track_Claim& claim = GetParam();

@@ -2,7 +2,6 @@
 
 #include "end_to_end/library.h"
 
-#include <gtest/gtest.h>
 #include <ostream>
 
 /// One row of a table of claims: a video of the library, what is done to it, and the tracks that come out as Movie.mkv.

@@ -7,10 +7,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <csignal>
-#include <gtest/gtest.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 /// The command line that a --dry-run gives for the only video of the folder.
 static QStringList Command_Of(Batch_Process& batch, const QString& more)

@@ -9,8 +9,6 @@
 #include <QFileDialog>
 #include <QTextBrowser>
 
-using namespace Qt::StringLiterals;
-
 /// Each command of the menu bar, each button that opens something, and the words on them.
 struct Commands : Form_Test
 {

@@ -7,9 +7,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QListWidget>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// What a person does in the small forms.
 struct Dialogs : Form_Test

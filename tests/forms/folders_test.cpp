@@ -6,9 +6,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 struct Folder_Panels : testing::Test
 {

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <gtest/gtest.h>
 
 /// A window whose forms a test opens and works in.
 struct Form_Test : testing::Test

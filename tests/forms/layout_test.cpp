@@ -5,9 +5,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QScrollArea>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// Fonts and palettes of the whole application, put back after each test.
 struct Layout : testing::Test

@@ -8,9 +8,6 @@
 #include <QCheckBox>
 #include <QScreen>
 #include <climits>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(Window_Life, StartChangeQuitStartAgain)
 {

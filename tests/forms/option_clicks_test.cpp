@@ -9,9 +9,6 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QToolButton>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// The window, and a program without one that is handed the same clicks.
 struct Option_Clicks : testing::Test

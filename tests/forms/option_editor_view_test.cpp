@@ -14,8 +14,6 @@
 #include <QTableView>
 #include <QWheelEvent>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The editor of option files over the test's video folder.

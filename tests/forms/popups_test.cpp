@@ -5,9 +5,6 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 struct Popup_Menus : testing::Test
 {

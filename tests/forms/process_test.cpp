@@ -2,10 +2,7 @@
 
 #include <QProcess>
 #include <csignal>
-#include <gtest/gtest.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 /// The program itself, on a screen that nobody sees.
 TEST(Window_Process, ASignalToGoSavesTheSettings)

@@ -5,9 +5,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// Runs from the button to their end, with events from the person while they go on.
 struct Window_Run : testing::Test

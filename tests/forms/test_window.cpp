@@ -11,8 +11,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 
-using namespace Qt::StringLiterals;
-
 Test_Person::Test_Person()
 {
     connect(&look_, &QTimer::timeout, this, &Test_Person::Look);

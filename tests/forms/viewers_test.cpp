@@ -12,8 +12,6 @@
 #include <QFile>
 #include <QScrollBar>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Log_Form : Form_Test

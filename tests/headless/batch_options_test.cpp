@@ -4,9 +4,6 @@
 
 #include <QDir>
 #include <QProcess>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 /// The line as a shell splits it: double quotes hold words together, '' is an empty one.
 static Batch_Line Parse(const QString& line)

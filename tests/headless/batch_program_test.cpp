@@ -4,10 +4,6 @@
 #include "headless/exit_status.h"
 #include "headless/memory_stream.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(Batch_Program, AnAnswerThatDoesNotGetThroughIsNeverASuccess)
 {
     const struct

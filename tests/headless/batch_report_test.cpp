@@ -4,10 +4,6 @@
 #include "headless/batch_report.h"
 #include "headless/memory_stream.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 /// A report of the kind that the options ask for, over a program whose run is played to it.
 struct Played_Run
 {

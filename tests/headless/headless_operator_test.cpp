@@ -5,10 +5,6 @@
 #include "headless/headless_operator.h"
 #include "headless/memory_stream.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 struct Unattended
 {
     Memory_Stream Out;

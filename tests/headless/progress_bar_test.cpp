@@ -5,11 +5,8 @@
 
 #include <cstdlib>
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 static Bar_Facts Facts(int percent, const QString& name)
 {

@@ -3,10 +3,6 @@
 #include "common/test_program.h"
 #include "headless/batch_options.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(Refusal, NamesWhatTheMessageBoxesHaveNotSaid)
 {
     Test_Program test;

@@ -8,10 +8,7 @@
 #include "support/run_time_error.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
 #include <new>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -4,10 +4,6 @@
 #include "life/popups.h"
 #include "settings/verbosity_levels.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 struct MenuCommands : testing::Test, Test_Program
 {};
 

@@ -8,11 +8,8 @@
 
 #include <QDir>
 #include <QFile>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(AppFolder, TheFirstPlaceThatIsGivenCounts)
 {

@@ -4,8 +4,6 @@
 #include "rules/video_order.h"
 #include "rules/video_texts.h"
 
-#include <gtest/gtest.h>
-
 /// A list of one row for each path; "-" ahead leaves it out, a state behind "=" is set.
 static Video_List List_Of(const QStringList& rows)
 {

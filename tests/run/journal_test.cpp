@@ -3,9 +3,6 @@
 #include "common/test_program.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(Journal, AFullFileIsLeftAsItIsAndAllAreRead)
 {

@@ -79,70 +79,56 @@ TEST(OptionEditor, TheAlternateFolderIsScannedOrElseNothingOpens)
 
 TEST(OptionEditor, AppliesToOneRowAllBoxesAndToSeveralTheSetOnes)
 {
+    const QByteArray title = "Title=One\r\n";
+    const QByteArray german = "Language=German (ger)\r\n";
+    const QByteArray delay = "Delay=7\r\n";
+
     struct Claim
     {
+        std::vector<int> Rows;
+        QString Typed;   ///< "box=text|box=text"
         QByteArray A, B; ///< option files before and after; null: none
-        std::vector<std::pair<Option_Slot, QString>> Typed;
         QByteArray A_After, B_After;
         QString Listed; ///< whose option files are in the list afterwards
     };
 
-    const QString german = u"German (ger)"_s;
-    const std::vector<std::pair<Option_Slot, QString>> three = {
-        {Title_Slot, u"One\nand\r\nmore"_s}, {Forced_Slot, u"YES"_s}, {Delay_Slot, u"-5"_s}};
-    const Claim one_row[] = {
-        {{}, {}, {}, {}, {}, u""_s},
-        {{}, {}, three, "Title=One and more\r\nForced=YES\r\nDelay=-5\r\n", {}, u"a"_s},
-        {"Title=One\r\n", {}, {{Title_Slot, {}}}, {}, {}, u""_s}, // emptied: the file goes to the trash
-        {"Title=a\r\n# note\r\nStretch=1\r\n",
+    const Claim claims[] = {
+        {{0}, {}, {}, {}, {}, {}, u""_s},
+        {{0},
+         u"0=One\nand\r\nmore|3=YES|4=-5"_s,
          {},
-         {{Language_Slot, german}},
-         "Title=a\r\nLanguage=German (ger)\r\n",
+         {},
+         "Title=One and more\r\nForced=YES\r\nDelay=-5\r\n",
          {},
          u"a"_s},
-        {{}, {}, {{Default_Slot, u"perhaps"_s}}, {}, {}, u""_s}, // only yes and no are taken for a flag
+        {{0}, u"0="_s, title, {}, {}, {}, u""_s}, // emptied: the file goes to the trash
+        {{0}, u"1=German (ger)"_s, title + "# note\r\nStretch=1\r\n", {}, title + german, {}, u"a"_s},
+        {{0}, u"2=perhaps"_s, {}, {}, {}, {}, u""_s}, // only yes and no are taken for a flag
+        {{0, 1}, u"1=German (ger)"_s, title, delay, title + german, german + delay, u"ab"_s},
+        {{0, 1}, u"0=|4=7"_s, title, title, title + delay, title + delay, u"ab"_s}, // an empty set box keeps the old
+                                                                                    // value
+        {{0, 1}, u"0=One"_s, {}, delay, title, title + delay, u"ab"_s},
+        {{0, 1}, {}, {}, delay, {}, delay, u"ab"_s}, // all grey: a name in the list and no file
     };
-    const Claim two_rows[] = {
-        {"Title=One\r\n",
-         "Title=Two\r\n",
-         {{Language_Slot, german}},
-         "Title=One\r\nLanguage=German (ger)\r\n",
-         "Title=Two\r\nLanguage=German (ger)\r\n",
-         u"ab"_s},
-        {"Title=One\r\n",
-         "Title=One\r\n",
-         {{Title_Slot, {}}, {Delay_Slot, u"7"_s}},
-         "Title=One\r\nDelay=7\r\n",
-         "Title=One\r\nDelay=7\r\n",
-         u"ab"_s}, // an empty set box keeps the old value
-        {{}, "Delay=7\r\n", {{Title_Slot, u"Both"_s}}, "Title=Both\r\n", "Title=Both\r\nDelay=7\r\n", u"ab"_s},
-        {{}, "Delay=7\r\n", {}, {}, "Delay=7\r\n", u"ab"_s}, // all grey: a name in the list and no file
-    };
-    const auto hold = [](const Claim& claim, const std::vector<int>& rows) {
+    for (const Claim& claim : claims) {
         Editor_Test test;
+        QStringList listed;
         for (const auto& [name, content] : {std::pair(u"a"_s, claim.A), {u"b"_s, claim.B}}) {
             test.Write(u"videos/%1.mp3"_s.arg(name));
             if (!content.isNull())
                 test.Write(u"videos/%1.mp3.opt"_s.arg(name), content);
+            listed += name + u".mp3|"_s + (claim.Listed.contains(name) ? name + u".mp3.opt"_s : QString());
         }
         test.Edit([&] {
-            test.Select(rows);
-            for (const auto& [slot, text] : claim.Typed)
-                test.Type(slot, text);
+            test.Select(claim.Rows);
+            for (const QString& typed : claim.Typed.split(u'|', Qt::SkipEmptyParts))
+                test.Type(static_cast<Option_Slot>(typed.left(1).toInt()), typed.mid(2));
             btn_Apply_Click(test.Prog);
-            for (int row = 0; row < 2; ++row) {
-                const QString name = row == 0 ? u"a"_s : u"b"_s;
-                EXPECT_EQ(test.Listed()[row],
-                          name + u".mp3|"_s + (claim.Listed.contains(name) ? name + u".mp3.opt"_s : u""_s));
-            }
+            EXPECT_EQ(test.Listed().first(2), listed);
         });
-        EXPECT_EQ(test.Read(u"videos/a.mp3.opt"_s), claim.A_After);
-        EXPECT_EQ(test.Read(u"videos/b.mp3.opt"_s), claim.B_After);
-    };
-    for (const Claim& claim : one_row)
-        hold(claim, {0});
-    for (const Claim& claim : two_rows)
-        hold(claim, {0, 1});
+        EXPECT_EQ(test.Read(u"videos/a.mp3.opt"_s), claim.A_After) << claim.Typed.toStdString();
+        EXPECT_EQ(test.Read(u"videos/b.mp3.opt"_s), claim.B_After) << claim.Typed.toStdString();
+    }
 }
 
 TEST(OptionEditor, LeavingABoxGreysItWhereItHoldsNothingUsable)
