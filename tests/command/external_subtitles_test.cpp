@@ -1,10 +1,8 @@
 #include "command/external_subtitles.h"
 
 #include "command/companion_fixture.h"
-#include "command/joined_names.h"
 
 #include <filesystem>
-#include <random>
 
 struct External_Subtitles : Companion_Test
 {
@@ -155,27 +153,4 @@ TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
     List = {Named(u"m.idx"_s, 0)};
     List.front().IsIdxPair = true;
     EXPECT_EQ(Command() + Order, u""_s);
-}
-
-TEST(Joined_Names, AnswerAsASearchOfTheJoinedTextWould)
-{
-    std::mt19937 generator(7);
-    const auto random_text = [&](std::size_t longest) {
-        QString text;
-        for (std::size_t i = generator() % longest + 1; i > 0; --i)
-            text += QChar(static_cast<char16_t>(u"abA."[generator() % 4]));
-        return text;
-    };
-    for (int round = 0; round < 50; ++round) {
-        Joined_Names names;
-        QString joined;
-        EXPECT_TRUE(names.Contains(u""_s));
-        for (int i = 0; i < 40; ++i) {
-            const QString asked = random_text(8);
-            EXPECT_EQ(names.Contains(asked), joined.contains(asked, Qt::CaseInsensitive)) << joined.toStdString();
-            const QString added = random_text(6);
-            names.Add(added);
-            joined += added;
-        }
-    }
 }

@@ -48,7 +48,8 @@ TEST(Split, PiecesHaveTheSetLengthAndAllTracks)
     Split_Listener heard;
     test.Prog.Listener = &heard;
     const QString source = Place(test, Seven_Seconds(), u"videos/My Film.mkv"_s);
-    test.Prog.Options.Delete_Video_After = true;
+    test.Prog.Options.Delete_Video_After = test.Prog.Options.Delete_Sundry_Files = true;
+    const QString companion = test.Write(u"videos/My Film_Track1.srt"_s);
     test.Prog.Options.AudioFilterMode = 1;
     EXPECT_TRUE(Split(test, u"0.05"_s));
     EXPECT_EQ(Pieces_Of(test), (QStringList{u"My Film-001.mkv 3"_s, u"My Film-002.mkv 3"_s, u"My Film-003.mkv 1"_s}));
@@ -60,11 +61,9 @@ TEST(Split, PiecesHaveTheSetLengthAndAllTracks)
     const QString film = test.Path(u"target/My Film"_s);
     EXPECT_EQ(heard.Last.Output, film + u"-001.mkv"_s);
     EXPECT_EQ(heard.Last.Pieces, (QStringList{film + u"-001.mkv"_s, film + u"-002.mkv"_s, film + u"-003.mkv"_s}));
-    // Fewer pieces: what an earlier run left isn't this one's.
-    EXPECT_TRUE(Split(test, u"10"_s));
+    EXPECT_TRUE(Split(test, u"10"_s)); // fewer pieces: what an earlier run left isn't this one's
     EXPECT_EQ(heard.Last.Pieces, QStringList{film + u"-001.mkv"_s});
-    EXPECT_TRUE(QFile::exists(source));
-
+    EXPECT_TRUE(QFile::exists(source) && QFile::exists(companion));
     Test_Program rich;
     Place(rich, Rich_Video(), u"videos/b.MKV"_s);
     EXPECT_TRUE(Split(rich, u"10"_s));

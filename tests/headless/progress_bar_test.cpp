@@ -28,17 +28,6 @@ TEST(Progress_Bar, TextFitsTheColumns)
     EXPECT_EQ(Bar_Text(Facts(1000, {}), 300).count(u'#'), 60);
 }
 
-TEST(Progress_Bar, SizesAndTimesAreShort)
-{
-    EXPECT_EQ(Size_Text(0), u"0 B"_s);
-    EXPECT_EQ(Size_Text(12.4e9), u"12.4 GB"_s);
-    EXPECT_EQ(Size_Text(999'600), u"1.0 MB"_s);
-    EXPECT_EQ(Size_Text(4e17), u"400000 TB"_s);
-    EXPECT_EQ(Time_Text(190), u"3:10"_s);
-    EXPECT_EQ(Time_Text(36000), u"10:00:00"_s);
-    EXPECT_EQ(Time_Text(190, true), u"0:03:10"_s);
-}
-
 TEST(Progress_Bar, DrawsOnATerminalOnlyAndOnlyWhatChanged)
 {
     const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);

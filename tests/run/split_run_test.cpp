@@ -65,18 +65,6 @@ TEST_F(SplitRun, TheBoxesCountWithoutTheLeadingBlankAndTheTargetOnlyFromTheFirst
     EXPECT_TRUE(Prog.Run.Mkvmerge_Arguments.Text().endsWith(u"--split duration:1800s --track-order 0:0"_s));
 }
 
-TEST_F(SplitRun, NothingIsDeletedWhateverTheOptionsSay)
-{
-    const QStringList files = {u"a.mkv"_s, u"a_Track1.srt"_s};
-    for (const QString& name : files)
-        Test.Write(u"videos/"_s + name, "x");
-    Prog.Options.Delete_Video_After = Prog.Options.Delete_Sundry_Files = true;
-    Prog.Run.Add_Attachments_On = true;
-    EXPECT_TRUE(Run());
-    EXPECT_EQ(QDir(Test.Path(u"videos"_s)).entryList(QDir::Files, QDir::Name), files);
-    EXPECT_FALSE(Test.Results().join(u'\n').contains(u"ttachment"_s));
-}
-
 TEST_F(SplitRun, ADeletionNoteOfTheRunBeforeIsRepeatedForEachFile)
 {
     Test.Write(u"videos/a.mkv"_s, "x");
