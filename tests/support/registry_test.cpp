@@ -25,12 +25,9 @@ TEST(Registry, AValueIsFoundByItsNameWithoutRegardToCaseAndCutAtItsFirstZero)
 TEST(Registry, BadRootsAndBadKeysLeaveTheSameErrorAndAGoodKeyIsNotFoundHere)
 {
     const std::tuple<std::uint32_t, QString, std::uint32_t> cases[] = {
-        {0x7fffffff, u"SOFTWARE"_s, 0x80040001},
-        {0x80000007, u"SOFTWARE"_s, 0x80040001},
-        {Reg_Local_Machine, u"  "_s, 0x80040001},
-        {Reg_Local_Machine, QString(257, u'k'), 0x80040001},
-        {Reg_Local_Machine, QString(256, u'k'), 0},
-        {Reg_First_Root, u" k "_s, 0},
+        {0x7fffffff, u"SOFTWARE"_s, 0x80040001},    {0x80000007, u"SOFTWARE"_s, 0x80040001},
+        {Reg_Local_Machine, u"  "_s, 0x80040001},   {Reg_Local_Machine, QString(257, u'k'), 0x80040001},
+        {Reg_Local_Machine, QString(256, u'k'), 0}, {Reg_First_Root, u" k "_s, 0},
     };
     Registry_State state{.Reg_Error = 1, .Reg_Error_Text = u"old"_s, .Reg_Error_Extra = 2};
     for (const auto& [root, key, error] : cases) {
