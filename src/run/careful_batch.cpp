@@ -88,6 +88,7 @@ static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Do
 {
     const Program& program = walk.Prog;
     const Run_Choice& choice = program.Run.Choice;
+    Known_Listings known;
     for (const Folder_Entry& video : walk.Videos) {
         if (choice.Names && !choice.Names->contains(walk.Folders.Sub + video.Name))
             continue;
@@ -98,7 +99,7 @@ static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Do
         if (choice.Only_Failed && results.value(source).Status != "failed"_L1)
             continue;
         const bool was_done = results.value(source).Status == "done"_L1; // the hash takes a while
-        if (choice.Resume && was_done && Is_Done_Before(results, source, Hash_Of_Video(program, source))) {
+        if (choice.Resume && was_done && Is_Done_Before(results, source, Hash_Of_Video(program, source, known))) {
             ++before.Files;
             if (results.value(source).Warned)
                 before.With_Warnings += walk.Folders.Sub + video.Name;

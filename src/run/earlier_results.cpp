@@ -69,6 +69,7 @@ void Look_Into_Journal(Program& program)
     });
     program.Run.Options_In_Force = list.Options_Seen;
     QString sub;
+    Known_Listings listed;
     int done = 0;
     int never_ended = 0;
     for (int number = 0; number < static_cast<int>(list.Rows.size()); ++number) {
@@ -83,7 +84,7 @@ void Look_Into_Journal(Program& program)
         }
         const bool failed = known != results.constEnd() && known->Status == "failed"_L1;
         const bool is_done = known != results.constEnd() && known->Status == "done"_L1 &&
-                             Is_Done_Before(results, source, Hash_Of_Video(program, source));
+                             Is_Done_Before(results, source, Hash_Of_Video(program, source, listed));
         if (row.State == Video_State::Waiting && is_done)
             Show_Earlier_Result(list, number, known->Warned ? Video_State::Warning : Video_State::Done, *known);
         else if (row.State == Video_State::Waiting && failed)

@@ -17,6 +17,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -178,8 +179,25 @@ static void Add_File(QCryptographicHash& hash, const QString& path)
                      QByteArray::number(qint64{identity->Written_At}) + '\0');
 }
 
+/// Adds the paths of the folder's files that fit the masks and hold the base name, as companions are found.
+static void Add_Companions(const QString& folder, const QString& base, const QString& masks, Known_Listings& known,
+                           QStringList& files)
+{
+    const QString key = folder + u'\n' + masks;
+    if (!known.contains(key)) {
+        clsStringBuilder unused;
+        auto& listed = known[key];
+        for (const QString& name : Find_Companions(folder, {}, masks, unused))
+            listed.emplace_back(name, name.toLower());
+    }
+    const QString lowered_base = base.toLower();
+    for (const auto& [name, lowered] : std::as_const(known)[key])
+        if (lowered.contains(lowered_base))
+            files += folder + name;
+}
+
 /// Every file that the command of a video may read beside it, option files and chapters included.
-static QStringList Files_That_Go_With(const Program& program, const QString& source)
+static QStringList Files_That_Go_With(const Program& program, const QString& source, Known_Listings& known)
 {
     const JobOptions& options = program.Options;
     const QString base = Output_Base_Of(program, source);
@@ -194,15 +212,12 @@ static QStringList Files_That_Go_With(const Program& program, const QString& sou
 
     const QString masks = Audio_File_Masks + u';' + Subtitle_File_Masks + u";*.idx;*.sub;*.opt;*_chapters.*"_s;
     QStringList files;
-    clsStringBuilder unused;
     for (const QString& folder : folders)
-        for (const QString& name : Find_Companions(folder, base, masks, unused))
-            files += folder + name;
+        Add_Companions(folder, base, masks, known, files);
     if (program.Run.Add_Attachments_On)
         for (const QString& folder :
              {options.Path_Attachments, options.Path_Attachments + Get_Base_Name(source) + u"_Attachments/"_s})
-            for (const QString& name : Find_Companions(folder, {}, u"*"_s, unused))
-                files += folder + name;
+            Add_Companions(folder, {}, u"*"_s, known, files);
     // A classic run makes these anew of the text beside them.
     files.removeIf([](const QString& file) {
         const QString end = u"_Chapters.xml"_s;
@@ -216,13 +231,19 @@ static QStringList Files_That_Go_With(const Program& program, const QString& sou
 
 QString Hash_Of_Video(const Program& program, const QString& source)
 {
+    Known_Listings once;
+    return Hash_Of_Video(program, source, once);
+}
+
+QString Hash_Of_Video(const Program& program, const QString& source, Known_Listings& known)
+{
     if (program.Run.Dry_Run && !program.Run.Choice.Resume)
         return {};
     QCryptographicHash hash(QCryptographicHash::Sha256);
     const QString& noted = program.Run.Options_In_Force;
     hash.addData((noted.isEmpty() ? Options_Text(program) : noted).toUtf8());
     Add_File(hash, source);
-    for (const QString& file : Files_That_Go_With(program, source))
+    for (const QString& file : Files_That_Go_With(program, source, known))
         Add_File(hash, file);
     return QString::fromLatin1(hash.result().toHex());
 }

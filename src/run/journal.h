@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <optional>
+#include <utility>
 
 struct Program;
 
@@ -49,6 +50,11 @@ QString Options_Text(const Program& program);
 /// What a result depends on, without looking into any file: the options in force, and name, size and time of change of
 /// the source and of every file that may be added to it. Empty in a dry run that asks for nothing of the journal.
 QString Hash_Of_Video(const Program& program, const QString& source);
+
+/// What was listed of a folder for hashes, by folder and masks: each name that may go with a video, and the name in
+/// lower case. Who hashes many videos at one moment keeps one, so that no folder is listed for each of them anew.
+using Known_Listings = QHash<QString, QList<std::pair<QString, QString>>>;
+QString Hash_Of_Video(const Program& program, const QString& source, Known_Listings& known);
 
 /// True if the journal has this video as done by the same options and files, and the output is still there as it was.
 bool Is_Done_Before(const Journal_Results& results, const QString& source, const QString& hash);
