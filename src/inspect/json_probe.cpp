@@ -62,7 +62,7 @@ static FileInfo File_Record(const Tool_Json& format, const QString& path)
 /// The kind of record that a stream makes; empty: none.
 static QString Kind_Of(const Tool_Json& stream)
 {
-    const QString type = Value_Of(stream, "codec_type");
+    QString type = Value_Of(stream, "codec_type");
     if (type == "audio"_L1 || type == "subtitle"_L1 || type == "attachment"_L1)
         return type;
     if (type == "video"_L1)

@@ -39,8 +39,8 @@ void Count_Video(Program& program, int files_done)
 /// Why mkvmerge failed, in its own words where it has any.
 static QString Mkvmerge_Failure(const Run_State& run, int exit)
 {
-    const QString how = exit < 0 ? u"mkvmerge was ended by the signal "_s + Signal_Name(-exit)
-                                 : u"mkvmerge ended with status %1"_s.arg(exit);
+    QString how = exit < 0 ? u"mkvmerge was ended by the signal "_s + Signal_Name(-exit)
+                           : u"mkvmerge ended with status %1"_s.arg(exit);
     if (!run.Tool_Error.isEmpty())
         return exit < 0 ? how + u": "_s + run.Tool_Error : u"mkvmerge says: "_s + run.Tool_Error;
     if (exit < 0)

@@ -111,9 +111,9 @@ class Renames
     QStringList Undo()
     {
         QStringList left;
-        for (auto rename = done_.rbegin(); rename != done_.rend(); ++rename)
-            if (Rename_To_Free_Name(rename->second, rename->first, ways_).Error != 0)
-                left += rename->second;
+        for (; !done_.empty(); done_.pop_back())
+            if (Rename_To_Free_Name(done_.back().second, done_.back().first, ways_).Error != 0)
+                left += done_.back().second;
         return left;
     }
 
