@@ -10,7 +10,7 @@
 
 QString Tool_In_Path(const QString& name)
 {
-    const QString path = QStandardPaths::findExecutable(name);
+    QString path = QStandardPaths::findExecutable(name);
     if (path.isEmpty())
         qFatal("%s isn't installed: run scripts/setup", qPrintable(name));
     return path;
@@ -25,7 +25,7 @@ void Use_Real_Tools(Test_Program& test)
 QString Media_File(const QString& name, const QStringList& ffmpeg_arguments)
 {
     static const QTemporaryDir folder;
-    const QString path = folder.filePath(name);
+    QString path = folder.filePath(name);
     if (QFileInfo::exists(path))
         return path;
     QProcess ffmpeg;
@@ -76,7 +76,7 @@ QString Rich_Video()
 
 QString Place(const Test_Program& test, const QString& media, const QString& relative)
 {
-    const QString path = test.Path(relative);
+    QString path = test.Path(relative);
     QDir().mkpath(QFileInfo(path).path());
     if (!QFile::copy(media, path))
         qFatal("A test's file can't be copied: %s", qPrintable(path));

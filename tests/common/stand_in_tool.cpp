@@ -6,7 +6,7 @@
 
 QString Write_Stand_In(const Test_Program& test, const QString& relative, const QByteArray& body)
 {
-    const QString path = test.Write(relative, "#!/bin/sh\n" + body);
+    QString path = test.Write(relative, "#!/bin/sh\n" + body);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return path;
 }

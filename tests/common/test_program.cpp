@@ -89,7 +89,7 @@ QString Test_Program::Path(const QString& relative) const
 
 QString Test_Program::Write(const QString& relative, const QByteArray& content) const
 {
-    const QString path = Path(relative);
+    QString path = Path(relative);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
