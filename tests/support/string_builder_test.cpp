@@ -16,7 +16,7 @@ static clsStringBuilder Builder_With(const QString& text)
 /// The text, after checking that what lies in memory is the same and ends in a zero.
 static QString Text_Of(const clsStringBuilder& builder)
 {
-    const QString text = builder.ToString();
+    QString text = builder.ToString();
     EXPECT_EQ(builder.Length(), text.size());
     EXPECT_EQ(builder.Is_Empty(), text.isEmpty());
     if (text.isEmpty()) {
