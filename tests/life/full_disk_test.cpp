@@ -62,7 +62,7 @@ TEST(Full_Disk, WhoeverWritesTellsAndTheOldFileStands)
         int Told;
     };
 
-    const auto edit = [](std::vector<int> rows) {
+    const auto edit = [](const std::vector<int>& rows) {
         return [rows](Program& program) {
             Option_Editor& editor = program.Option_Files;
             editor.Folder = program.Options.Path_Videos;
