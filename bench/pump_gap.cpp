@@ -1,5 +1,6 @@
 #include "forms/desktop.h"
 #include "forms/release_button.h"
+#include "rules/video_list.h"
 #include "support/input.h"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ int main(int argc, char** argv)
     program.Tools.System_MKVMerge_Path = base + u"silent"_s;
     program.Settings.Extensions.Careful_Batch = false; // the stand-in only stays silent
     program.Run.Kill_By_Name = false;
+    Follow_Videos_Folder(program);
 
     QElapsedTimer since_turn;
     qint64 longest = 0;

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSet>
 #include <QTableView>
 #include <QToolButton>
 
@@ -252,22 +253,18 @@ void Video_List_View::Watch_Folder()
     if (watched_ == list.Filled)
         return;
     watched_ = list.Filled;
-    QStringList folders;
+    QSet<QString> folders;
     if (!list.Folder.isEmpty())
         folders += list.Folder;
     for (const Video_Row& row : list.Rows)
-        if (!row.Sub_Path.isEmpty() && folders.constLast() != list.Folder + row.Sub_Path)
+        if (!row.Sub_Path.isEmpty())
             folders += list.Folder + row.Sub_Path;
-    const QStringList known = watcher_.directories();
-    QStringList gone;
-    for (const QString& folder : known)
-        if (!folders.contains(folder))
-            gone += folder;
-    folders.removeIf([&known](const QString& folder) { return known.contains(folder); });
-    if (!gone.isEmpty())
-        watcher_.removePaths(gone);
-    if (!folders.isEmpty())
-        watcher_.addPaths(folders);
+    const QStringList directories = watcher_.directories();
+    const QSet<QString> known(directories.cbegin(), directories.cend());
+    if (const QSet<QString> gone = known - folders; !gone.isEmpty())
+        watcher_.removePaths(gone.values());
+    if (const QSet<QString> fresh = folders - known; !fresh.isEmpty())
+        watcher_.addPaths(fresh.values());
 }
 
 void Video_List_View::Render()
