@@ -40,8 +40,11 @@ static int Rows_Taken(const QGridLayout& grid)
 /// A box whose caption changes has room for the widest, so that no change of a caption moves anything.
 static void Reserve(QCheckBox& box, const QString& widest)
 {
-    const int more = box.fontMetrics().horizontalAdvance(widest) - box.fontMetrics().horizontalAdvance(box.text());
-    box.setMinimumWidth(box.sizeHint().width() + std::max(0, more));
+    const QString shown = box.text();
+    const int width = box.sizeHint().width();
+    box.setText(widest);
+    box.setMinimumWidth(std::max(width, box.sizeHint().width()));
+    box.setText(shown);
 }
 
 Options_Layout::Options_Layout(Ui::Startform& ui, QObject* parent) : QObject(parent), ui_(ui)

@@ -1,8 +1,10 @@
 #include "command/external_subtitles.h"
 
 #include "command/companion_fixture.h"
+#include "command/joined_names.h"
 
 #include <filesystem>
+#include <random>
 
 struct External_Subtitles : Companion_Test
 {
@@ -153,4 +155,49 @@ TEST_F(External_Subtitles, ANameThatIsAPartOfTheNamesAddedSoFarIsSkipped)
     List = {Named(u"m.idx"_s, 0)};
     List.front().IsIdxPair = true;
     EXPECT_EQ(Command() + Order, u""_s);
+}
+
+TEST_F(External_Subtitles, TheLogTellsWhatIsAddedAndInTwoWordingsWhatMissesItsSub)
+{
+    const QString lone = u"   *** Cannot add subtitle; \"u.idx\". The %1'*.sub' file was not found."_s;
+    const QString plain = u"-- Adding subtitle track - \"m.srt\" ;Undetermined (und)"_s;
+    const QString ignored = u" Subtitle Options selection ignored."_s;
+    const std::tuple<int, int, bool, QStringList> claims[] = {
+        {0, 1, false, {}},
+        {1, 1, false, {u"-- Adding subtitle track(s), but none were found."_s + ignored, lone.arg(u""_s)}},
+        {1, 1, true, {lone.arg(u""_s)}},
+        {2, 0, true, {plain, lone.arg(u"acompanying "_s)}},
+        {2, 1, true, {plain, u"   *** Subtitle option file NOT found."_s + ignored, lone.arg(u"acompanying "_s)}},
+    };
+    Unpaired = {Named(u"u.idx"_s, 0)};
+    for (const auto& [verbosity, with_options, found, lines] : claims) {
+        List.assign(1, found ? Named(u"m.srt"_s, 0) : ExternalTrack());
+        Prog.Options.Log_Verbosity = static_cast<std::int16_t>(verbosity);
+        Prog.Options.chk_UseSubOpts.Value = with_options;
+        Prog.Logs.Log_Faults.Clear();
+        Log_External_Subtitles(List, Unpaired, Prog.Options, Prog.Language_Table, Prog.Logs.Log_Faults);
+        EXPECT_EQ(Faults(), lines) << verbosity;
+    }
+}
+
+TEST(Joined_Names, AnswerAsASearchOfTheJoinedTextWould)
+{
+    std::mt19937 generator(7);
+    const auto random_text = [&](std::size_t longest) {
+        QString text;
+        for (std::size_t i = generator() % longest + 1; i > 0; --i)
+            text += QChar(static_cast<char16_t>(u"abA."[generator() % 4]));
+        return text;
+    };
+    for (int round = 0; round < 50; ++round) {
+        Joined_Names names;
+        QString joined;
+        for (int i = 0; i < 40; ++i) {
+            const QString asked = random_text(8);
+            EXPECT_EQ(names.Contains(asked), joined.contains(asked, Qt::CaseInsensitive)) << joined.toStdString();
+            const QString added = random_text(6);
+            names.Add(added);
+            joined += added;
+        }
+    }
 }

@@ -225,3 +225,15 @@ TEST_F(Commands, TheAttachmentFolderIsPickedByItsButtonAndItsPopup)
         menu->close();
     });
 }
+
+TEST_F(Commands, AnotherMkvmergeIsPickedAsAFileAndAFileThatIsNoneIsLeft)
+{
+    const QString mkvmerge = Window.Prog().Tools.System_MKVMerge_Path;
+    const QString other = Window.Files.Write(u"other/tool"_s);
+    Open("mnu_ExecutablePaths", "frm_Locations", [&](QWidget& form) {
+        EXPECT_EQ(Answer_Picker(other, [&] { Click_On(In(form, "btn_BrowseMKVMerge")); }),
+                  u"Find and select the mkvmerge.exe file.");
+        EXPECT_EQ(Window.Prog().Tools.System_MKVMerge_Path, mkvmerge);
+        Press(form, Qt::Key_Escape);
+    });
+}

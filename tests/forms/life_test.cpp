@@ -139,6 +139,12 @@ TEST(Window_Life, AfterAStartWithoutAWindowTheFirstOneIsCentredAtItsOwnSize)
     EXPECT_EQ(window.Form().size(), window.Form().sizeHint());
     EXPECT_NEAR(window.Form().geometry().center().x(), area.center().x(), 1);
     EXPECT_NEAR(window.Form().geometry().center().y(), area.center().y(), 1);
+
+    const QPoint centre = window.Form().geometry().center();
+    window.Form().move(0, 0);
+    QCoreApplication::processEvents();
+    Press(window.Form(), Qt::Key_F12);
+    EXPECT_EQ(window.Form().geometry().center(), centre);
 }
 
 TEST(Window_Life, AnErrorThatCantBeGoneOnFromIsLoggedToldOnceAndEndsTheProgram)

@@ -120,6 +120,8 @@ TEST_F(Option_Clicks, ARightClickOrTheMenuKeyFlipsTheWordOfTheFlagBoxes)
     QCoreApplication::sendEvent(&box, &menu_key);
     EXPECT_EQ(Window.Prog().Options.chk_SubDefaults.Tag, first);
     Window.Choose("mnu_FlipSubForces");
+    const QWidget& longer = Window.Get("chk_SubForces");
+    EXPECT_GE(longer.minimumWidth(), longer.sizeHint().width()) << "no change of a caption moves anything";
     EXPECT_EQ(Window.Get<QCheckBox>("chk_SubForces").text(),
               u"Set All Subtitles forces to \"%1\""_s.arg(Window.Prog().Options.chk_SubForces.Tag));
 }

@@ -28,6 +28,8 @@ TEST_F(Folders, PathErrorsShowTheirOwnWordsAndClearTheCode)
     const std::tuple<int, QString, QString> claims[] = {
         {1, u"Error #1 - A Source Path cannot be a Destination Path"_s,
          u"The Target path can not be the same as the Video Files Path."_s + simple},
+        {15, u"Error #15 - mkvmerge.exe not found"_s,
+         u"mkvmerge.exe cannot be found at the given path\r\n \r\nOperation is aborted.\r\n"_s},
         {25, u"Error #25 - ffprobe.exe and mkvmerge.exe paths not set"_s,
          u"The Destination Path cannot be from a lower path level\r\nto an existing source path.\r\n \r\n"
          "The chosen Destination Path will be ignored.\r\n"_s},

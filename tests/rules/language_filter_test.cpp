@@ -48,4 +48,5 @@ TEST_F(LanguageFilter, CancelKeepsTheLanguagesButNotTheCountNorTheChoice)
     EXPECT_EQ(Filter.Count, 3);
     EXPECT_EQ(Filter.KeepOrCut, 1);
     EXPECT_TRUE(Filter.HasBox);
+    EXPECT_FALSE(Form.Visible);
 }

@@ -98,6 +98,10 @@ TEST_F(NumberBoxes, KeysOfTheDelayBoxStoreAndRestore)
 TEST_F(NumberBoxes, TheSplitBoxNeverComesToStandBelowTenMinutes)
 {
     Text_Box& box = Prog.Form.txt_SplitVideosValue;
+    Prog.Options.Split_Minutes = u"45"_s;
+    box.Text = u"45x"_s;
+    txt_SplitVideosValue_Change(Prog);
+    EXPECT_EQ(box.Text, u"45"_s) << "a bad first key returns to what was loaded";
     for (const QString& text : {u""_s, u"7"_s, u"-"_s, u"-50"_s, u"10"_s, u"999"_s}) {
         const bool is_enough = text.toInt() >= 10;
         box.Text = text;

@@ -89,6 +89,9 @@ TEST_F(RecentFolders, ChoosingSwapsWithTheCurrentPathSoThatChoosingAgainReturns)
     Person.On_Form[u"frm_SourceMRU"_s] = [&] { Choose_Recent_Source(Prog, 9); };
     img_SourceMRU_Click(Prog);
     EXPECT_EQ(Prog.Options.Path_Videos, Folder(0));
+    Prog.Settings.Target_MRU = Folders(3, 3);
+    Choose_Recent_Target(Prog, 0);
+    EXPECT_EQ(Prog.Options.Path_Target, Folder(3));
     Prog.Settings.Source_MRU.clear();
     Person.On_Form[u"frm_SourceMRU"_s] = [] { ADD_FAILURE() << "there is nothing to choose"; };
     img_SourceMRU_MouseDown(Prog);
