@@ -79,6 +79,22 @@ int Video_List_Model::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : Columns;
 }
 
+static bool Is_Figure(Video_Column column)
+{
+    return column == Video_Column::Length || column == Video_Column::Size;
+}
+
+static QVariant Alignment_Of(Video_Column column)
+{
+    return Is_Figure(column) ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+}
+
+/// Figures at the right of their column would touch the words of the next one.
+static QString Beside_Words(const QString& text, Video_Column column)
+{
+    return Is_Figure(column) && !text.isEmpty() ? text + QString(2, QChar::Nbsp) : text;
+}
+
 QVariant Video_List_Model::data(const QModelIndex& index, int role) const
 {
     if (static_cast<std::size_t>(Number_Of(index.row())) >= list_.Rows.size())
@@ -88,7 +104,7 @@ QVariant Video_List_Model::data(const QModelIndex& index, int role) const
     const Video_State state = Shown_State(row, list_.Takes_Ticks);
     switch (role) {
     case Qt::DisplayRole:
-        return Cell_Text(row, column, list_.Takes_Ticks);
+        return Beside_Words(Cell_Text(row, column, list_.Takes_Ticks), column);
     case Qt::ToolTipRole:
         return Literal_Tool_Tip(Cell_Hint(row, column)).replace(u'\n', u"<br>"_s);
     case Qt::DecorationRole:
@@ -97,9 +113,7 @@ QVariant Video_List_Model::data(const QModelIndex& index, int role) const
         return column == Video_Column::Video && list_.Takes_Ticks ? (row.Ticked ? Qt::Checked : Qt::Unchecked)
                                                                   : QVariant();
     case Qt::TextAlignmentRole:
-        return column == Video_Column::Length || column == Video_Column::Size
-                   ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                   : QVariant();
+        return Alignment_Of(column);
     case Qt::ForegroundRole:
         if (column != Video_Column::State && column != Video_Column::Result)
             return {};
@@ -123,9 +137,10 @@ bool Video_List_Model::setData(const QModelIndex& index, const QVariant&, int ro
 
 QVariant Video_List_Model::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::TextAlignmentRole))
         return {};
-    return Column_Head(static_cast<Video_Column>(section));
+    const auto column = static_cast<Video_Column>(section);
+    return role == Qt::TextAlignmentRole ? Alignment_Of(column) : Beside_Words(Column_Head(column), column);
 }
 
 Qt::ItemFlags Video_List_Model::flags(const QModelIndex& index) const

@@ -18,6 +18,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSet>
+#include <QShortcut>
 #include <QTableView>
 #include <QToolButton>
 
@@ -85,6 +86,12 @@ void Video_List_View::Connect()
     connect(ui_->btn_Videos, &QToolButton::clicked, this, [this](bool open) {
         Set_Open(open);
         emit Opened(open);
+    });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        if (!Is_Open())
+            ui_->btn_Videos->click();
+        ui_->txt_VideoFilter->setFocus(Qt::ShortcutFocusReason);
+        ui_->txt_VideoFilter->selectAll();
     });
     connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
         // What a run moves there itself is no news.

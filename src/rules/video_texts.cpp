@@ -57,12 +57,13 @@ static QString First_Of(const QStringList& lines)
     return lines.size() < 2 ? lines.value(0) : u"%1 (and %2 more)"_s.arg(lines.constFirst()).arg(lines.size() - 1);
 }
 
-/// The reason, else what was warned of or spoke against a run, else the output's name; and the time that it took.
+/// The reason, else what was warned of or spoke against a run, else the output's name; and the time that it took. A
+/// forecast speaks of the next run.
 static QString Result_Text(const Video_Row& row)
 {
     QString text = !row.Reason.isEmpty() ? row.Reason : First_Of(row.Warnings + row.Problems);
-    if (text.isEmpty())
-        text = row.Forecast;
+    if (row.State == Video_State::Working || (text.isEmpty() && !row.Forecast.isEmpty()))
+        return text.isEmpty() ? row.Forecast : text;
     if (text.isEmpty() && Has_Output(row))
         text = File_Name_Of(row.Output);
     if (row.Seconds_Taken <= 0)
