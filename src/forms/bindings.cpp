@@ -29,6 +29,7 @@ const QList<Binding<Label>>& Label_Bindings()
         {"lbl_SubsPathEmpty", &Main_Form::lbl_SubsPathEmpty},
         {"lbl_ChapsPathEmpty", &Main_Form::lbl_ChapsPathEmpty},
         {"lbl_ProgressFinished", &Main_Form::lbl_ProgressFinished},
+        {"lbl_RunSummary", &Main_Form::lbl_RunSummary},
     };
     return table;
 }

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QStyle>
 
-Elided_Label::Elided_Label(QWidget* parent) : QLabel(parent)
+Elided_Label::Elided_Label(QWidget* parent, Qt::TextElideMode cut) : QLabel(parent), cut_(cut)
 {
     setTextFormat(Qt::PlainText);
 }
@@ -23,7 +23,7 @@ QString Elided_Label::Shown_Text() const
 {
     QString line = text();
     line.replace(u'\n', u' ').replace(u'\r', u' ');
-    return fontMetrics().elidedText(line, Qt::ElideMiddle, contentsRect().width());
+    return fontMetrics().elidedText(line, cut_, contentsRect().width());
 }
 
 QSize Elided_Label::minimumSizeHint() const

@@ -2,7 +2,7 @@
 
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
-#include "run/run_driver.h"
+#include "run/halt.h"
 #include "settings/settings_store.h"
 #include "state/program.h"
 #include "workbenches/last_entry.h"

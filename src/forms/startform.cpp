@@ -8,14 +8,11 @@
 #include "forms/popup_menus.h"
 #include "forms/slot_guard.h"
 #include "forms/video_list_view.h"
-#include "life/menu_commands.h"
-#include "life/start_up.h"
-#include "logs/results_digest.h"
 #include "rules/click_rules.h"
 #include "rules/folder_changes.h"
 #include "rules/option_rules.h"
 #include "rules/recent_folders.h"
-#include "run/list_runs.h"
+#include "run/run_summary.h"
 #include "state/program.h"
 #include "ui_startform.h"
 
@@ -111,23 +108,6 @@ void Startform::Connect_Folders()
     arrow(ui_->img_TargetMRU, img_TargetMRU_MouseDown, img_TargetMRU_MouseUp, img_TargetMRU_Click);
 }
 
-void Startform::Connect_Run()
-{
-    connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this, [this](const Mouse_Release& release) {
-        guard_.Call([&] {
-            Run_Ticked(program_, release);
-            Show_Run_Warnings(program_);
-        });
-    });
-    connect(ui_->img_Quit, &QPushButton::clicked, this, [this] { guard_.Call([this] { img_Quit_Click(program_); }); });
-    connect(ui_->btn_ViewVidInfo, &QPushButton::clicked, this,
-            [this] { guard_.Call([this] { btn_ViewVidInfo_Click(program_); }); });
-    connect(ui_->img_ProcessFailed, &QToolButton::clicked, this,
-            [this] { guard_.Call([this] { Flash_Process_Failed(program_); }); });
-    connect(ui_->btn_Halt, &Release_Button::Released_At, this,
-            [this](const Mouse_Release& release) { guard_.Call([&] { btn_Halt_MouseUp(program_, release); }); });
-}
-
 void Startform::Set_Looks()
 {
     const QPalette& colours = palette();
@@ -148,6 +128,7 @@ void Startform::Set_Looks()
     ui_->btn_RunVantorra->Set_Colour(Under_White_Text(colours.color(QPalette::Active, QPalette::Highlight)));
     ui_->btn_Halt->Set_Colour(QColor(0xb7, 0x1c, 0x1c));
     list_->Set_Looks();
+    Render_Progress();
     Measure();
 }
 
@@ -209,7 +190,7 @@ QList<QLabel*> Startform::Fault_Labels() const
 void Startform::Render()
 {
     const Main_Form& form = program_.Form;
-    setWindowTitle(form.Caption);
+    setWindowTitle(Window_Title(program_));
     for (const Click_Rule& rule : Click_Rules())
         if (auto* box = findChild<QCheckBox*>(rule.Name))
             Show_Check_Box(*box, program_.Options.*rule.Box);
@@ -286,14 +267,6 @@ void Startform::Render_Folders()
     ui_->lbl_TargetPathCount->setVisible(!done.isEmpty());
     ui_->img_SourceMRU->setDown(program_.Source_MRU_Form.Arrow_Pressed);
     ui_->img_TargetMRU->setDown(program_.Target_MRU_Form.Arrow_Pressed);
-}
-
-void Startform::Render_Progress()
-{
-    const Main_Form& form = program_.Form;
-    ui_->ulbl_Title1->setVisible(form.ulbl_Title1.Visible && !form.ulbl_Title1.Caption.isEmpty());
-    ui_->pic_Progress->Set_Progress(form.Progress_Fraction, form.Progress);
-    ui_->img_ProcessFailed->setIconSize(form.img_ProcessFailed_Out ? QSize(1, 1) : QSize(32, 32));
 }
 
 void Startform::Render_Focus()

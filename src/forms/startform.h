@@ -7,12 +7,14 @@
 #include <memory>
 #include <vector>
 
+class Halt_Question_View;
 class Number_Box_View;
 class QFrame;
 class QLabel;
 class QToolButton;
 class Options_Layout;
 class Slot_Guard;
+class Summary_Label;
 class Video_List_View;
 struct Program;
 
@@ -95,6 +97,8 @@ class Startform : public QMainWindow, public Form_View
     std::unique_ptr<Ui::Startform> ui_;
     Options_Layout* options_ = nullptr;
     Video_List_View* list_ = nullptr;
+    Summary_Label* summary_ = nullptr;
+    Halt_Question_View* question_ = nullptr;
     std::vector<Number_Box_View*> number_boxes_;
     QString more_runs_;       ///< what the buttons beside Run say
     Form_Place shown_place_;  ///< what the window was last told, or last told us

@@ -1,5 +1,6 @@
 #include "forms/window_operator.h"
 
+#include "forms/desktop_notice.h"
 #include "forms/form_registry.h"
 #include "forms/program_dialog.h"
 #include "forms/slot_guard.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDBusConnection>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -227,6 +229,12 @@ bool Window_Operator::Open_Document(const QString& path)
 void Window_Operator::Copy_Text(const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
+}
+
+void Window_Operator::Tell_If_Away(const QString& title, const QString& text)
+{
+    if (QGuiApplication::applicationState() != Qt::ApplicationActive)
+        Show_Desktop_Notice(QDBusConnection::sessionBus(), *form_, title, text);
 }
 
 void Window_Operator::Raise_Main_Form()

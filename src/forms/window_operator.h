@@ -34,6 +34,7 @@ class Window_Operator : public Operator
     void Wait_With_Events(int milliseconds) override;
     bool Open_Document(const QString& path) override;
     void Copy_Text(const QString& text) override;
+    void Tell_If_Away(const QString& title, const QString& text) override;
     void Raise_Main_Form() override;
     void Set_Topmost(bool on) override;
     void Unload_Main_Form() override;

@@ -5,8 +5,8 @@
 #include "headless/json_report.h"
 #include "headless/plain_report.h"
 #include "headless/print.h"
-#include "headless/progress_bar.h"
 #include "run/check_facts.h"
+#include "run/run_summary.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
@@ -94,24 +94,6 @@ void Batch_Report::Warned(const QString& title, const QString& text)
     Warn(title, text);
 }
 
-static void Count(const File_Outcome& outcome, Outcome_Counts& counts)
-{
-    switch (outcome.Status) {
-    case File_Outcome::Kind::Done:
-        ++(outcome.Warnings.isEmpty() ? counts.Done : counts.Warnings);
-        break;
-    case File_Outcome::Kind::Failed:
-        ++counts.Failed;
-        break;
-    case File_Outcome::Kind::Skipped:
-        ++counts.Skipped;
-        break;
-    case File_Outcome::Kind::Not_Run:
-        ++counts.Not_Run;
-        break;
-    }
-}
-
 /// A warning about a habit of the classic run without what differs from video to video; empty for any other.
 static QString Habit_Of(const QString& warning)
 {
@@ -149,11 +131,7 @@ void Batch_Report::Say_Reasons(const File_Outcome& outcome)
 
 void Batch_Report::File_Finished(const File_Outcome& outcome)
 {
-    Count(outcome, counts_);
-    if (outcome.Status == File_Outcome::Kind::Done)
-        counts_.Bytes += source_bytes_;
-    if (outcome.Source_Kept)
-        ++counts_.Kept;
+    Count_Outcome(outcome, source_bytes_, counts_);
     if (program_->Run.Dry_Run && !Problems_Of(outcome).isEmpty())
         ++counts_.Problems;
     Say_Reasons(outcome);
@@ -161,14 +139,6 @@ void Batch_Report::File_Finished(const File_Outcome& outcome)
     source_bytes_ = 0;
     warned_.clear();
     Say_Boxes();
-}
-
-QString Summary_Of(const Outcome_Counts& counts, qint64 milliseconds)
-{
-    return u"%1 done, %2 with warnings, %3 failed, %4 skipped, %5 not run - %6 in %7"_s.arg(
-        QString::number(counts.Done), QString::number(counts.Warnings), QString::number(counts.Failed),
-        QString::number(counts.Skipped), QString::number(counts.Not_Run), Size_Text(static_cast<double>(counts.Bytes)),
-        Time_Text(milliseconds / 1000));
 }
 
 void Batch_Report::Done_Before(int files, const QStringList& with_warnings)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/run_listener.h"
+#include "state/run_tally.h"
 #include "support/operator.h"
 #include "support/run_time_error.h"
 
@@ -21,23 +22,6 @@ enum class Batch_End
     Refused,
     Error
 };
-
-/// How many files of a run ended how; each counts once.
-struct Outcome_Counts
-{
-    int Done = 0;     ///< without a warning
-    int Warnings = 0; ///< done, with warnings
-    int Failed = 0;
-    int Skipped = 0;
-    int Not_Run = 0;
-
-    int Kept = 0;     ///< of those with warnings: whose source should have gone to the trash and stays
-    int Problems = 0; ///< videos of a dry run of which Problems_Of has something to say
-    qint64 Bytes = 0; ///< sizes of the sources that are done
-};
-
-/// "36 done, 1 with warnings, 2 failed, 1 skipped, 0 not run - 12.4 GB in 3:10".
-QString Summary_Of(const Outcome_Counts& counts, qint64 milliseconds);
 
 /// What vantorra-batch says while it works: keeps count of the files and leaves the words to its two kinds, one for
 /// people and one for programs.

@@ -1,7 +1,7 @@
 #include "headless/headless_operator.h"
 
 #include "headless/batch_report.h"
-#include "run/run_driver.h"
+#include "run/halt.h"
 #include "state/program.h"
 
 #include <algorithm>

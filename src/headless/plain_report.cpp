@@ -1,6 +1,7 @@
 #include "headless/plain_report.h"
 
 #include "headless/print.h"
+#include "run/run_summary.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/shown_text.h"

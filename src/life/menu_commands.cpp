@@ -232,6 +232,27 @@ void mnu_IdentifyWithAnyMkvmerge_Click(Program& program)
     Enable_Video_Info_Button(program);
 }
 
+void mnu_TellAtTheEnd_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Tell_At_The_End);
+}
+
+static void Choose_When_Done(Program& program, bool quit)
+{
+    program.Form.Quit_When_Done = quit;
+    Default_Run(program);
+}
+
+void mnu_WhenDoneNothing_Click(Program& program)
+{
+    Choose_When_Done(program, false);
+}
+
+void mnu_WhenDoneQuit_Click(Program& program)
+{
+    Choose_When_Done(program, true);
+}
+
 void mnu_ClearLog_Click(Program& program)
 {
     Rotate_Process_Logs(program);
@@ -270,6 +291,8 @@ const std::vector<Menu_Tick>& Menu_Ticks()
         {u"mnu_IdentifyWithAnyMkvmerge"_s, u"Identify With Any mkvmerge"_s,
          [](const Program& program) { return program.Settings.Extensions.Identify_With_Any_Mkvmerge; },
          mnu_IdentifyWithAnyMkvmerge_Click},
+        {u"mnu_TellAtTheEnd"_s, u"Tell At The End"_s,
+         [](const Program& program) { return program.Settings.Extensions.Tell_At_The_End; }, mnu_TellAtTheEnd_Click},
     };
     return ticks;
 }
@@ -290,6 +313,10 @@ const std::vector<Menu_Tick>& Menu_Choices()
              return program.Settings.Extensions.If_The_Output_Exists == Output_Exists::Number;
          },
          mnu_OutputExistsNumber_Click},
+        {u"mnu_WhenDoneNothing"_s, u"Do Nothing"_s, [](const Program& program) { return !program.Form.Quit_When_Done; },
+         mnu_WhenDoneNothing_Click},
+        {u"mnu_WhenDoneQuit"_s, u"Quit"_s, [](const Program& program) { return program.Form.Quit_When_Done; },
+         mnu_WhenDoneQuit_Click},
     };
     return choices;
 }

@@ -44,6 +44,11 @@ void mnu_SensibleNamesAndSizes_Click(Program& program);
 void mnu_RunButtonFollowsFolders_Click(Program& program);
 void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program);
 void mnu_IdentifyWithAnyMkvmerge_Click(Program& program);
+void mnu_TellAtTheEnd_Click(Program& program);
+
+/// What a run that came to its end is followed by: one of two items has the tick, for this session.
+void mnu_WhenDoneNothing_Click(Program& program);
+void mnu_WhenDoneQuit_Click(Program& program);
 
 /// Moves the log out of its place, asks nothing.
 void mnu_ClearLog_Click(Program& program);
@@ -59,5 +64,5 @@ struct Menu_Tick
 
 /// The menu items with a tick, for the forms.
 const std::vector<Menu_Tick>& Menu_Ticks();
-/// Those of which one has the tick; choosing it again changes nothing.
+/// Those of which one of each menu has the tick; choosing it again changes nothing.
 const std::vector<Menu_Tick>& Menu_Choices();

@@ -5,7 +5,7 @@
 #include "options/language_table.h"
 #include "rules/folders.h"
 #include "rules/option_rules.h"
-#include "run/run_driver.h"
+#include "run/halt.h"
 #include "settings/settings_store.h"
 #include "state/program.h"
 #include "support/paths.h"
@@ -62,8 +62,9 @@ static void Load_Or_Make_Settings(Program& program)
         return;
     }
     settings.First_Run = true;
-    // A missing key means the classic run, so that an installation of years goes on as it was.
+    // Missing keys mean that an installation of years goes on as it was.
     settings.Extensions.Careful_Batch = true;
+    settings.Extensions.Tell_At_The_End = true;
     Ini_Document first;
     Write_Settings_To(program, true, first);
     if (!program.Run.Dry_Run)

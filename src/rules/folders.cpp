@@ -132,4 +132,6 @@ void Forget_Last_Run(Main_Form& form)
     form.Progress_Fraction = 0;
     form.Progress = Progress_Look::Idle;
     form.ulbl_Title1.Caption.clear();
+    form.lbl_RunSummary.Caption.clear();
+    form.Summary = Summary_Look::Plain;
 }

@@ -31,5 +31,5 @@ void Follow_Folders(Program& program);
 void Show_Path_Error(Program& program, int& code);
 
 /// A folder changed, or the run button was pressed: what the form still shows of the run before, its counts, progress,
-/// end and last name, goes.
+/// end, summary and last name, goes.
 void Forget_Last_Run(Main_Form& form);

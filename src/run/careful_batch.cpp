@@ -226,9 +226,10 @@ static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
 /// The chosen videos of one folder.
 static void Walk_Folder(Careful_Walk& walk)
 {
-    const Run_State& run = walk.Prog.Run;
+    Run_State& run = walk.Prog.Run;
     Enter(walk);
     for (const Folder_Entry& video : walk.Chosen) {
+        run.Halt_Requested = run.Halt_Requested || run.Halt_After_Video;
         if (run.Halt_Requested)
             Tell_Not_Run(walk, video, Halted_Reason);
         else if (walk.Run.Unstarted_In_A_Row >= Most_Unstarted)

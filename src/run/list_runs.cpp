@@ -33,12 +33,21 @@ static Press_Result Run_Choice_Of(Program& program, const Run_Choice& choice, co
     return btn_RunVantorra_MouseUp(program, release);
 }
 
-/// A run is over, whichever: the list says what it has left.
+/// A run or a check is over, whichever: the list says what it has left.
 static void Look_After_Run(Program& program)
 {
     if (!program.Run.Press_In_Work)
         Look_Into_Journal(program);
     Set_List_Buttons(program);
+}
+
+/// Behind a run come the boxes of a classic one; and one that came to its end may take the program with it.
+static void Close_Run(Program& program, Press_Result result)
+{
+    Look_After_Run(program);
+    Show_Run_Warnings(program);
+    if (result == Press_Result::Finished && program.Form.Quit_When_Done)
+        program.Person.Unload_Main_Form();
 }
 
 Press_Result Run_Ticked(Program& program, const Mouse_Release& release)
@@ -54,7 +63,7 @@ Press_Result Run_Ticked(Program& program, const Mouse_Release& release)
     Clear_List_For_Run(program);
     const Press_Result result = Run_Choice_Of(program, {.Names = Ticked(program)}, release);
     if (result != Press_Result::Ignored)
-        Look_After_Run(program);
+        Close_Run(program, result);
     return result;
 }
 
@@ -63,8 +72,7 @@ static void Run_Chosen(Program& program, const Run_Choice& choice)
     if (program.Run.Press_In_Work)
         return;
     Clear_List_For_Run(program);
-    Run_Choice_Of(program, choice, {});
-    Look_After_Run(program);
+    Close_Run(program, Run_Choice_Of(program, choice, {}));
 }
 
 void btn_RunFailed_Click(Program& program)
@@ -106,10 +114,8 @@ void btn_Check_Click(Program& program)
         Run_Choice_Of(program, {.Names = Ticked(program)}, {});
     }
     Look_After_Run(program);
-    if (std::exchange(run.Run_Wanted, false)) {
+    if (std::exchange(run.Run_Wanted, false))
         Run_Ticked(program, {});
-        Show_Run_Warnings(program);
-    }
 }
 
 void Keep_List_In_Step(Program& program)

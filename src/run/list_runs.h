@@ -3,7 +3,8 @@
 #include "run/run_driver.h"
 
 /// What the buttons of the window start: runs over what is ticked in the list, and the check. Each returns when its run
-/// has ended; pressed while another is at work they do nothing, but for what is said here.
+/// has ended and its boxes were answered; the program ends with it if the person wants that (Form.Quit_When_Done) and
+/// it wasn't halted. Pressed while another is at work they do nothing, but for what is said here.
 
 /// btn_RunVantorra: all that is ticked. In a check: the check stops, and then the run begins.
 Press_Result Run_Ticked(Program& program, const Mouse_Release& release);

@@ -9,8 +9,10 @@
 #include "run/careful_batch.h"
 #include "run/careful_hint.h"
 #include "run/earlier_results.h"
+#include "run/halt.h"
 #include "run/journal.h"
 #include "run/output_guard.h"
+#include "run/run_summary.h"
 #include "run/split_run.h"
 #include "run/video_batch.h"
 #include "state/program.h"
@@ -150,6 +152,10 @@ static void Run_Mode(Program& program)
     Tell_Of_Subfolders(program);
     program.Person.Pump_Events();
     program.Run.Run_In_Progress = true;
+    program.Run.Started = program.Now();
+    program.Run.Tally = {};
+    program.Run.Halt_Asked = false;
+    program.Run.Halt_After_Video = false;
     program.Run.Options_In_Force = Options_Text(program);
     // Deliberate: what was noted between the last log entry and here is dropped.
     program.Logs.Log_Results.Clear();
@@ -171,11 +177,23 @@ static void Run_Mode(Program& program)
         Process_Video_Files(program);
 }
 
-/// The second release of a double click on the run button: it ends over whatever stands there by then.
-static bool Ends_Double_Click(const Program& program, const Mouse_Release& release)
+/// How the run went.
+static void Show_End(Program& program, bool halted)
 {
-    const std::int64_t since = release.Time - program.Run.Press_Time;
-    return release.Time != 0 && program.Run.Press_Time != 0 && since >= 0 && since < program.Form.Double_Click_Ms;
+    program.Run.Run_In_Progress = false;
+    program.Form.Halt_Question.clear();
+    if (program.Run.Checking) {
+        Forget_Last_Run(program.Form);
+        return;
+    }
+    if (halted) {
+        // Who halts wants to go on or away, and a signal mustn't wait for a click.
+        program.Run.Failed_Videos.clear();
+        Show_Interrupted(program);
+    } else {
+        Show_Finished(program);
+    }
+    Show_Last_Summary(program);
 }
 
 Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& release)
@@ -212,22 +230,14 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
     Run_Mode(program);
 
     const bool halted = program.Run.Halt_Requested;
-    program.Run.Run_In_Progress = false;
-    if (program.Run.Checking) {
-        Forget_Last_Run(program.Form);
-    } else if (halted) {
-        // Who halts wants to go on or away, and a signal mustn't wait for a click.
-        program.Run.Failed_Videos.clear();
-        Show_Interrupted(program);
-    } else {
-        Show_Finished(program);
-    }
-
+    Show_End(program, halted);
     Write_Process_Log(program);
     if (program.Run.Careful && !program.Videos.Folder.isEmpty())
         Forget_Outputs(program.Run); // the list has told it
     Unlock_Main_Form(program.Form);
     Show_Idle(program);
+    if (!program.Run.Checking)
+        Tell_At_The_End(program);
     return halted ? Press_Result::Interrupted : Press_Result::Finished;
 }
 
@@ -249,29 +259,6 @@ void Show_Run_Warnings(Program& program)
     if (!warnings.isEmpty())
         program.Person.Show_Message({.Title = Shared_Output_Title, .Text = warnings.join(u"\r\n"_s)});
     Show_Failed_Videos(program);
-}
-
-void btn_Halt_MouseUp(Program& program, const Mouse_Release& release)
-{
-    // The button stands where the run button stood: a double click there starts, and halts nothing.
-    if (!Ends_Double_Click(program, release))
-        btn_Halt_MouseUp(program);
-}
-
-void btn_Halt_MouseUp(Program& program)
-{
-    program.Run.Halt_Requested = true;
-    program.Form.btn_Halt.Caption = u"HALTING"_s;
-    program.Form.btn_Halt.Enabled = false;
-}
-
-void Halt_Key(Program& program)
-{
-    const Run_State& run = program.Run;
-    if (!(run.Run_In_Progress || run.Press_In_Work) || run.Halt_Requested)
-        return;
-    program.Run.Halt_Requested = true;
-    program.Form.btn_Halt.Caption = u"HALTING"_s;
 }
 
 void Reset_Progress(Program& program)

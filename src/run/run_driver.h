@@ -4,7 +4,7 @@
 
 struct Program;
 
-/// The head of a run: what the run button and the halt button do. State only; a view renders it.
+/// The head of a run: what the run button does. State only; a view renders it.
 
 /// What became of a press of the run button.
 enum class Press_Result
@@ -23,15 +23,6 @@ Press_Result btn_RunVantorra_MouseUp(Program& program, const Mouse_Release& rele
 /// A box with what the last run has warned of, and one with the videos that failed and why, for a driver that doesn't
 /// tell while it goes on. None where there is nothing to tell; a run that was halted names no failed videos.
 void Show_Run_Warnings(Program& program);
-
-/// Asks the run to stop, for btn_Halt and whatever stands for it (a signal). Only a flag is set and the button's look
-/// changes; the loops see the flag and do the rest.
-void btn_Halt_MouseUp(Program& program);
-/// A mouse button was let go over btn_Halt: the same, unless it ends a double click on the run button.
-void btn_Halt_MouseUp(Program& program, const Mouse_Release& release);
-
-/// Esc without a modifier on the main form: asks the run to stop if one goes on that wasn't asked yet.
-void Halt_Key(Program& program);
 
 /// Empties the progress bar and hides its label.
 void Reset_Progress(Program& program);

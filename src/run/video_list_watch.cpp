@@ -2,6 +2,7 @@
 
 #include "rules/video_list.h"
 #include "run/check_facts.h"
+#include "run/run_summary.h"
 #include "state/program.h"
 #include "support/file_identity.h"
 
@@ -41,10 +42,13 @@ static void Wait_Anew(Video_List& list, int number)
     Touch(list, number);
 }
 
-void Video_List_Watch::Run_Started(int)
+void Video_List_Watch::Run_Started(int files)
 {
+    if (program_.Run.Checking)
+        return;
+    Tally_Run_Started(program_, files);
     // A careful batch tells which ones it takes.
-    if (program_.Run.Careful || program_.Run.Checking)
+    if (program_.Run.Careful)
         return;
     for (int number = 0; number < static_cast<int>(program_.Videos.Rows.size()); ++number)
         Wait_Anew(program_.Videos, number);
@@ -52,13 +56,17 @@ void Video_List_Watch::Run_Started(int)
 
 void Video_List_Watch::Videos_Chosen(const QStringList& sources)
 {
-    if (!program_.Run.Checking)
-        for (const QString& source : sources)
-            Wait_Anew(program_.Videos, Number_Of(source));
+    if (program_.Run.Checking)
+        return;
+    Tally_Sources(program_.Run.Tally, sources);
+    for (const QString& source : sources)
+        Wait_Anew(program_.Videos, Number_Of(source));
 }
 
-void Video_List_Watch::File_Started(int, const QString& source)
+void Video_List_Watch::File_Started(int index, const QString& source)
 {
+    if (!program_.Run.Checking)
+        Tally_File_Started(program_, index, source);
     const int number = Number_Of(source);
     Video_Row& row = Row(number);
     before_check_ = row.State;
@@ -87,6 +95,7 @@ void Video_List_Watch::Command_Ready(const QString& source, const QString& outpu
 
 void Video_List_Watch::Progress(int percent, int)
 {
+    Tally_Progress(program_, percent);
     Set_Percent(program_.Videos, percent);
 }
 
@@ -144,6 +153,8 @@ void Video_List_Watch::File_Finished(const File_Outcome& outcome)
         Take_In_Check(number, outcome);
     else
         Take_Result(number, outcome);
+    if (!program_.Run.Checking)
+        Tally_File_Finished(program_, outcome);
     program_.Videos.In_Work = -1;
     Touch(program_.Videos, number);
 }

@@ -5,7 +5,8 @@
 
 struct Program;
 
-/// Keeps the rows of the list in step with a run, classic or careful, and with a check.
+/// Keeps the rows of the list in step with a run, classic or careful, and with a check; and in step with a run the line
+/// below the bar.
 class Video_List_Watch : public Run_Listener
 {
   public:

@@ -234,6 +234,7 @@ static std::vector<Settings_Row> Closing_Rows()
         Extension_Row(u"Identify With Any mkvmerge"_s, &Extension_Switches::Identify_With_Any_Mkvmerge),
         Extension_Row(u"Video List Open"_s, &Extension_Switches::Video_List_Open),
         Extension_Number_Row(u"Video List Height"_s, &Extension_Switches::Video_List_Height),
+        Extension_Row(u"Tell At The End"_s, &Extension_Switches::Tell_At_The_End),
     };
 }
 

@@ -14,6 +14,14 @@ enum class Progress_Look
     Interrupted
 };
 
+/// What the line below the bar has to tell.
+enum class Summary_Look
+{
+    Plain,
+    Warnings,
+    Failures
+};
+
 /// Startform as a record: what it shows beside the options themselves. Rules change it, the window renders it.
 struct Main_Form
 {
@@ -46,6 +54,10 @@ struct Main_Form
     Progress_Look Progress = Progress_Look::Idle;
     double Progress_Fraction = 0; ///< of the whole batch, 0 to 1
     Label ulbl_Title1;            ///< name of the file in work
+    Label lbl_RunSummary;         ///< how the run goes, or how the last one went; empty: there was none
+    Summary_Look Summary = Summary_Look::Plain;
+    QString Halt_Question;       ///< what the person is asked while the run goes on; empty: nothing
+    bool Quit_When_Done = false; ///< the program ends behind a run that finished; for this session
 
     // Folder panels: the box with its headline, the path, the fault, the mark "Empty"
     Panel pic_VideosPath{.Caption = QStringLiteral("Video Files Path (drag 'n drop)")};

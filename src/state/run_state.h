@@ -1,7 +1,9 @@
 #pragma once
 
+#include "state/run_tally.h"
 #include "support/command_line.h"
 
+#include <QDateTime>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -32,6 +34,10 @@ struct Run_State
     bool Halt_Requested = false;
     bool Run_In_Progress = false;
     bool Press_In_Work = false;             ///< the run button's handler is at work: before, in and behind a run
+    QDateTime Started;                      ///< by the program's clock; invalid: nothing has run yet
+    Run_Tally Tally;                        ///< of the run that goes on, else of the last one
+    bool Halt_Asked = false;                ///< the person was asked in this run what a halt is to stop
+    bool Halt_After_Video = false;          ///< careful: the run ends behind the video in work
     std::int64_t Press_Time = 0;            ///< when the mouse pressed the run button last; 0: a key did
     QStringList Video_File_List{QString()}; ///< accepted names; an empty first entry: nothing found
 

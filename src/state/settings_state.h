@@ -52,7 +52,8 @@ struct Extension_Switches
     bool Delete_Source_Only_After_Success = false;
     bool Identify_With_Any_Mkvmerge = true;
     bool Video_List_Open = true;
-    int Video_List_Height = 0; ///< in pixels; 0: as much as it takes at first
+    bool Tell_At_The_End = false; ///< a new installation begins with it on
+    int Video_List_Height = 0;    ///< in pixels; 0: as much as it takes at first
 };
 
 /// All settings that are no options of a run, and where the settings are.

@@ -71,6 +71,10 @@ class Operator
     /// Puts a text where the desktop pastes from, if there is such a place.
     virtual void Copy_Text(const QString& /*text*/) {}
 
+    /// Tells a person who isn't looking at the main form, and doesn't wait; does nothing where the form is in front or
+    /// there is none. Plain text, whatever names it holds.
+    virtual void Tell_If_Away(const QString& /*title*/, const QString& /*text*/) {}
+
     /// True once the program was asked to end from outside: whatever waits gives up. A halt button isn't such a call.
     virtual bool Is_Asked_To_Stop() { return false; }
 

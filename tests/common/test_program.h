@@ -31,6 +31,7 @@ class Test_Operator : public Operator
     std::function<void()> On_Pump;
     bool Topmost = false;
     int Unloads = 0;
+    QStringList Told_Away; ///< title and text, in lines
 
     Message_Answer Show_Message(const Message_Box& box) override;
     void Show_Modal(const QString& form) override;
@@ -46,6 +47,8 @@ class Test_Operator : public Operator
     void Set_Topmost(bool on) override { Topmost = on; }
 
     void Unload_Main_Form() override { ++Unloads; }
+
+    void Tell_If_Away(const QString& title, const QString& text) override { Told_Away += title + u'\n' + text; }
 };
 
 /// A program of a test's own, with an App_Folder, a video folder and a target folder on disk, and a trash of its own.

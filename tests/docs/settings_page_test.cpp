@@ -79,7 +79,8 @@ TEST(Settings_Page, TellsWhatTheFirstFileSaysAndWhatAMissingKeyReadsAs)
     for (const Documented_Key& key : Documented_Keys()) {
         if (key.Section == u"MainWindow"_s && key.Key != u"Save Settings on Exit"_s)
             continue;
-        if (key.Key == u"Careful Batch"_s) // on in a new installation, and that isn't the rows' doing
+        // On in a new installation, and that isn't the rows' doing.
+        if (key.Key == u"Careful Batch"_s || key.Key == u"Tell At The End"_s)
             continue;
         SCOPED_TRACE(key.Section.toStdString() + "/" + key.Key.toStdString());
         EXPECT_EQ(first.Value(key.Section, key.Key), key.First);

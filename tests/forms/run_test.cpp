@@ -2,9 +2,18 @@
 #include "common/stand_in_tool.h"
 #include "forms/progress_box.h"
 #include "forms/test_window.h"
+#include "rules/video_texts.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+
+static void Choose_In(const QWidget& question, const QString& words)
+{
+    for (auto* button : question.findChildren<QAbstractButton*>())
+        if (button->text() == words)
+            return Click_On(*button);
+    ADD_FAILURE() << words.toStdString();
+}
 
 /// Runs from the button to their end, with events from the person while they go on.
 struct Window_Run : testing::Test
@@ -42,6 +51,37 @@ struct Window_Run : testing::Test
                            "echo \"mkvmerge v74.0.0 ('You Oughta Know') 64-bit\"\n"
                            "[ \"$1\" = -V ] && exit 0\necho 'Progress: 10%'\nsleep 30\n");
     }
+
+    /// Three videos, each of which waits in its muxing for Let_One_Through; the run is soon an hour old.
+    void Place_Waiting_Videos()
+    {
+        for (const char* name : {"1.mkv", "2.mkv", "3.mkv"})
+            Place(Window.Files, Short_Video(), u"videos/"_s + QLatin1StringView(name));
+        Window.Prog().Run.Kill_By_Name = false;
+        const QByteArray tool = Window.Prog().Tools.System_MKVMerge_Path.toUtf8();
+        const QByteArray go = Window.Files.Path(u"go"_s).toUtf8();
+        Window.Prog().Tools.System_MKVMerge_Path =
+            Write_Stand_In(Window.Files, u"waiting/mkvmerge"_s,
+                           "case \"$*\" in *--output*) echo 'Progress: 10%'; while [ ! -e '" + go +
+                               "' ]; do sleep 0.02; done; rm '" + go + "';; esac\nexec '" + tool + "' \"$@\"\n");
+    }
+
+    void Let_One_Through() { Window.Files.Write(u"go"_s); }
+
+    /// Lets the run become an hour old, and presses Escape.
+    void Halt_Late()
+    {
+        Window.Prog().Now = [] { return QDateTime::currentDateTime().addSecs(3600); };
+        Press(Window.Form(), Qt::Key_Escape);
+    }
+
+    QString States()
+    {
+        QString states;
+        for (const Video_Row& row : Window.Prog().Videos.Rows)
+            states += State_Word(row, true) + u'|';
+        return states;
+    }
 };
 
 TEST_F(Window_Run, AWholeRunFromTheButtonToFinished)
@@ -50,15 +90,21 @@ TEST_F(Window_Run, AWholeRunFromTheButtonToFinished)
     Place(Window.Files, Short_Video(), u"videos/one.mkv"_s);
     Place(Window.Files, Short_Video(u"mp4"_s), u"videos/two.mp4"_s);
     const QPoint run_at = Window.Get("btn_RunVantorra").mapToGlobal(QPoint());
+    const QString title = Window.Form().windowTitle();
+    const auto& summary = Window.Get<QLabel>("lbl_RunSummary");
     bool locked = false;
     bool halt_stood_there = false;
     Run_And([&] {
+        EXPECT_TRUE(QRegularExpression(u"^\\d+% - "_s).match(Window.Form().windowTitle()).hasMatch());
+        EXPECT_TRUE(summary.text().contains(u" of 2"_s)) << summary.text().toStdString();
         locked = !Window.Get("fram_WholeForm").isEnabled() &&
                  !Window.Get<QMenu>("mnu_File").menuAction()->isEnabled() && !Window.Get("img_Quit").isVisible();
         const QWidget& halt = Window.Get("btn_Halt");
         halt_stood_there = halt.isVisible() && halt.mapToGlobal(QPoint()).x() == run_at.x();
     });
     EXPECT_TRUE(locked && halt_stood_there);
+    EXPECT_EQ(Window.Form().windowTitle(), title);
+    EXPECT_TRUE(summary.text().startsWith(u"2 done, 0 with warnings, 0 failed, 0 skipped, 0 not run - "_s));
     EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"FINISHED");
     EXPECT_EQ(Window.Get<Progress_Box>("pic_Progress").Look(), Progress_Look::Finished);
     EXPECT_TRUE(Window.Get("btn_RunVantorra").isVisible());
@@ -125,6 +171,53 @@ TEST_F(Window_Run, WhileAChildIsSilentTheWindowRefusesToCloseTakesNoDropAndObeys
     EXPECT_EQ(Window.Get<QLabel>("ulbl_VideosPath").text(), Window.Files.Path(u"videos/"_s));
     EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"INTERRUPTED");
     EXPECT_LT(since_escape.elapsed(), 10'000) << "the child would have slept for thirty seconds";
+}
+
+TEST_F(Window_Run, AQuestionAboutAHaltHoldsNothingUpAndTheRunMayEndBehindTheVideo)
+{
+    Prepare();
+    Place_Waiting_Videos();
+    Window.Person.Left_Open = u"frm_HaltQuestion"_s;
+    Window.Person.On_Form[u"frm_HaltQuestion"_s] = [this, first = true](QWidget& question) mutable {
+        if (std::exchange(first, false))
+            Let_One_Through();
+        if (Window.Prog().Run.Videos_Done == 0)
+            return;
+        Choose_In(question, u"&After this video"_s);
+        EXPECT_TRUE(Window.Get<QLabel>("lbl_RunSummary").text().contains(u"stops after this video"_s));
+        Let_One_Through();
+    };
+    Run_And([this] { Halt_Late(); });
+    EXPECT_EQ(States(), u"Done|Done|Not run|"_s);
+    EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"INTERRUPTED");
+    EXPECT_TRUE(Window.Get("btn_Continue").isVisible());
+}
+
+TEST_F(Window_Run, AHaltAsksOnceAndOnlyInACarefulRun)
+{
+    Prepare();
+    Place_Waiting_Videos();
+    const std::pair<const char*, std::function<void(QWidget&)>> answers[] = {
+        {"stop now", [](QWidget& question) { Choose_In(question, u"&Stop now"_s); }},
+        {"go on, and then a second halt",
+         [this](QWidget& question) {
+             Press(question, Qt::Key_Escape);
+             EXPECT_FALSE(Window.Prog().Run.Halt_Requested);
+             Press(Window.Form(), Qt::Key_Escape);
+         }},
+        {"classic", nullptr}};
+    for (const auto& [name, answer] : answers) {
+        if (!answer)
+            Window.Choose("mnu_CarefulBatch");
+        Window.Person.Forms.clear();
+        Window.Person.On_Form[u"frm_HaltQuestion"_s] = answer;
+        Window.Prog().Now = [] { return QDateTime::currentDateTime(); };
+        Run_And([this] { Halt_Late(); });
+        EXPECT_EQ(Window.Person.Forms.size(), answer ? 1 : 0) << name;
+        EXPECT_EQ(Window.Get<QLabel>("lbl_ProgressFinished").text(), u"INTERRUPTED") << name;
+        EXPECT_TRUE(States().startsWith(u"Not run|"_s)) << name;
+    }
+    EXPECT_EQ(Children_Left(), 0);
 }
 
 TEST_F(Window_Run, AnErrorInTheMiddleOfARunReapsTheChildAndEndsTheProgram)

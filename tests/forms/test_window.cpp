@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 
 Test_Person::Test_Person()
 {
@@ -19,10 +20,10 @@ Test_Person::Test_Person()
 
 void Test_Person::Look()
 {
-    QWidget* modal = QApplication::activeModalWidget();
+    const QPointer<QWidget> modal = QApplication::activeModalWidget();
     if (!modal || modal == met_ || QGuiApplication::overrideCursor())
         return; // a person waits while the pointer is busy
-    if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+    if (auto* box = qobject_cast<QMessageBox*>(modal); box && box->button(QMessageBox::Ok)) {
         Boxes.push_back({box->windowTitle(), box->text()});
         box->button(QMessageBox::Ok)->click();
         return;
@@ -35,7 +36,7 @@ void Test_Person::Look()
     met_ = modal;
     if (const auto action = On_Form.find(name); action != On_Form.end())
         action->second(*modal);
-    if (modal->isVisible() && QApplication::activeModalWidget() == modal)
+    if (name != Left_Open && modal && modal->isVisible() && QApplication::activeModalWidget() == modal)
         modal->close();
     met_ = const_cast<QWidget*>(before);
 }

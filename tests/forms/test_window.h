@@ -36,6 +36,7 @@ class Test_Person : public QObject
     std::vector<Box> Boxes;
     QStringList Forms; ///< names, in the order in which they were met
     std::map<QString, std::function<void(QWidget&)>> On_Form;
+    QString Left_Open; ///< name of a form that isn't closed but met again
 
   private:
     void Look();

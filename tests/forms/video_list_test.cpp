@@ -1,6 +1,7 @@
 #include "common/media.h"
 #include "common/stand_in_tool.h"
 #include "forms/form_test.h"
+#include "forms/looks.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -69,6 +70,9 @@ TEST_F(Window_List, ACheckARunAndWhatFailedAgain)
     Click_On(Window.Get("btn_RunVantorra"));
     EXPECT_EQ(Rows(), u"Done one.mkv|Left out three.mkv|Failed two.mp4");
     EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/three.mkv"_s)));
+    const auto& summary = Window.Get<QLabel>("lbl_RunSummary");
+    EXPECT_TRUE(summary.text().startsWith(u"1 done, 0 with warnings, 1 failed, "_s)) << summary.text().toStdString();
+    EXPECT_EQ(summary.palette().color(QPalette::WindowText), Fault_Colour(QApplication::palette()));
     EXPECT_TRUE(Window.Person.Boxes.empty()) << "a careful batch waits for nobody";
 
     EXPECT_EQ(Window.Get<QAbstractButton>("btn_RunFailed").text().remove(u'&'), u"Run failed again (1)");

@@ -7,13 +7,13 @@
 struct MenuCommands : testing::Test, Test_Program
 {};
 
-TEST_F(MenuCommands, WhatBecomesOfAnOutputThatExistsIsOneOfThree)
+TEST_F(MenuCommands, OfTheChoicesOfAMenuOneHasTheTick)
 {
     for (const Menu_Tick& item : Menu_Choices()) {
         for (int times = 0; times < 2; ++times)
             item.Command(Prog);
         for (const Menu_Tick& other : Menu_Choices())
-            EXPECT_EQ(other.Ticked(Prog), other.Name == item.Name);
+            EXPECT_TRUE(other.Name.first(8) != item.Name.first(8) || other.Ticked(Prog) == (other.Name == item.Name));
     }
 }
 

@@ -1,0 +1,22 @@
+#include "forms/summary_label.h"
+
+#include "forms/looks.h"
+
+#include <QApplication>
+
+Summary_Label::Summary_Label(QWidget* parent) : Elided_Label(parent, Qt::ElideRight) {}
+
+void Summary_Label::Set_Look(Summary_Look look)
+{
+    const QPalette colours = QApplication::palette(this);
+    const QColor colour = look == Summary_Look::Failures   ? Fault_Colour(colours)
+                          : look == Summary_Look::Warnings ? Mark_Colour(colours)
+                                                           : colours.color(QPalette::WindowText);
+    if (palette().color(QPalette::WindowText) != colour)
+        Tint(*this, colour);
+}
+
+QSize Summary_Label::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(text()), fontMetrics().height()};
+}
