@@ -2,8 +2,10 @@
 
 #include "forms/bindings.h"
 #include "forms/looks.h"
+#include "forms/path_edit.h"
 #include "forms/popup_menus.h"
 #include "rules/attachments_dialog.h"
+#include "rules/typed_folders.h"
 #include "state/program.h"
 #include "ui_attachments_view.h"
 
@@ -24,6 +26,18 @@ Attachments_View::Attachments_View(Program& program, Slot_Guard& guard, QWidget*
     On_Click(ui_->btn_Restore, [this] { btn_Attachments_Restore_Click(program_); });
     On_Click(ui_->cmd_Done, [this] { cmd_Attachments_Done_Click(program_); });
     ui_->lbl_UseSubfolders->installEventFilter(this);
+    edit_ = new Path_Edit(
+        guard, *ui_->lbl_AttachmentsPath,
+        {.Look = [this](const QString& text) { Look_At_Attachment_Path(program_, text); },
+         .Enter = [this](const QString& text) { return Enter_Attachment_Path(program_, text); },
+         .Leave = [this](const QString& text) { Leave_Attachment_Path(program_, text); },
+         .Give_Up = [this] { Give_Up_Attachment_Path(program_); },
+         .Offers = [this](const QString& text) { return Offers_For_Typing(text, program_.Options.Path_Attachments); }});
+    edit_->setObjectName("txt_AttachmentsPath");
+    edit_->setAccessibleName(u"Attachment folder"_s);
+    setTabOrder(ui_->btn_BrowseAttachments, edit_);
+    setTabOrder(edit_, ui_->btn_BrowseAttachments);
+    ui_->btn_BrowseAttachments->setFocus();
     Set_Looks();
 }
 
@@ -69,7 +83,7 @@ void Attachments_View::Render()
     Show_Label(*ui_->lbl_AttachmentsPathBox, form.lbl_AttachmentsPathBox);
     Show_Label(*ui_->lbl_AttachmentsPath, form.lbl_AttachmentsPath);
     Show_Label(*ui_->lbl_AttachmentsPathFault, form.lbl_AttachmentsPathFault);
-    ui_->lbl_AttachmentsPath->setVisible(!form.lbl_AttachmentsPath.Caption.isEmpty());
+    edit_->Share_Box(*ui_->lbl_AttachmentsPathFault);
     Show_Label(*ui_->lbl_UseSubfolders, form.lbl_UseSubfolders);
     Check_Box box = program_.Options.chk_UseSubfolders;
     box.Caption.clear();

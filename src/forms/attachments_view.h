@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class Path_Edit;
+
 namespace Ui {
 class frm_Attachments;
 }
@@ -28,4 +30,5 @@ class Attachments_View : public Program_Dialog
     void Use_Subfolders_Clicked();
 
     std::unique_ptr<Ui::frm_Attachments> ui_;
+    Path_Edit* edit_;
 };

@@ -13,6 +13,9 @@ class Drop_Panel : public QFrame
   public:
     explicit Drop_Panel(QWidget* parent = nullptr);
 
+    /// The frame that it shows while something hangs over it.
+    void Show_Hover(bool on);
+
   signals:
     void Dropped(const Drop_Data& data);
 
@@ -23,7 +26,5 @@ class Drop_Panel : public QFrame
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void Show_Hover(bool on);
-
     bool hovered_ = false;
 };

@@ -10,6 +10,7 @@
 #include "rules/option_rules.h"
 #include "rules/recent_folders.h"
 #include "rules/verbosity.h"
+#include "run/list_runs.h"
 #include "settings/settings_store.h"
 #include "settings/verbosity_levels.h"
 #include "state/program.h"
@@ -37,6 +38,13 @@ struct Menu_Command
     void (*Rule)(Program&);
 };
 
+/// As the button, while it can be pressed.
+void Check_Videos(Program& program)
+{
+    if (program.Form.btn_Check.Enabled)
+        btn_Check_Click(program);
+}
+
 /// The items without a tick; those with one stand in Menu_Ticks.
 const Menu_Command Commands[] = {
     {"mnu_BrowseVideos", mnu_PopupVideoBrowse1_Click},
@@ -46,6 +54,8 @@ const Menu_Command Commands[] = {
     {"mnu_BrowseChapters", mnu_PopupChapsBrowse1_Click},
     {"mnu_RecentSources", img_SourceMRU_Click},
     {"mnu_RecentTargets", img_TargetMRU_Click},
+    {"mnu_RunVantorra", mnu_RunVantorra_Click},
+    {"mnu_Check", Check_Videos},
     {"mnu_ViewVidInfo", View_Video_File_Info},
     {"mnu_SaveNow", mnu_SaveNow_Click},
     {"mnu_Quit", mnu_Quit_Click},
@@ -74,7 +84,11 @@ void Connect_Menus(Startform& form, Program& program, Slot_Guard& guard)
         // Queued: the menu has closed before a form opens.
         if (auto* action = form.findChild<QAction*>(name))
             QObject::connect(
-                action, &QAction::triggered, &form, [&, rule] { guard.Call([&] { rule(program); }); },
+                action, &QAction::triggered, &form,
+                [&, rule] {
+                    form.Leave_Boxes(); // a key of the menu takes no focus from them
+                    guard.Call([&] { rule(program); });
+                },
                 Qt::QueuedConnection);
     };
     for (const Menu_Command& command : Commands)
@@ -98,6 +112,11 @@ void Render_Menus(Startform& form, const Program& program)
 {
     // As a whole: a bar with titles that are all off would still take the focus, and Escape with it.
     form.menuBar()->setEnabled(program.Form.fram_WholeForm.Enabled);
+    const std::pair<const char*, const Button&> buttons[] = {{"mnu_RunVantorra", program.Form.btn_RunVantorra},
+                                                             {"mnu_Check", program.Form.btn_Check}};
+    for (const auto& [name, button] : buttons)
+        if (auto* action = form.findChild<QAction*>(QLatin1StringView(name)))
+            action->setEnabled(button.Enabled);
     for (const auto* items : {&Menu_Ticks(), &Menu_Choices()})
         for (const Menu_Tick& item : *items)
             if (auto* action = form.findChild<QAction*>(item.Name))

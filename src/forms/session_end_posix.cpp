@@ -82,7 +82,7 @@ Session_End::Session_End(Program& program, Slot_Guard& guard, Startform& form)
     : program_(program), guard_(guard), form_(form)
 {
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
-        form_.Leave_Number_Boxes();
+        form_.Leave_Boxes();
         guard_.Call([this] { Write_Settings(program_, false); });
     });
     program_to_save = &program;

@@ -5,13 +5,15 @@
 #include "forms/menu_bar.h"
 #include "forms/number_box_view.h"
 #include "forms/options_layout.h"
+#include "forms/path_edit.h"
 #include "forms/popup_menus.h"
 #include "forms/slot_guard.h"
+#include "forms/status_line.h"
 #include "forms/video_list_view.h"
+#include "forms/window_drop_target.h"
+#include "life/hand_clicks.h"
 #include "rules/click_rules.h"
-#include "rules/folder_changes.h"
 #include "rules/option_rules.h"
-#include "rules/recent_folders.h"
 #include "run/run_summary.h"
 #include "state/program.h"
 #include "ui_startform.h"
@@ -55,6 +57,9 @@ Startform::Startform(Program& program, Slot_Guard& guard)
         panel->setSizePolicy(kept);
     }
     program_.Form.Double_Click_Ms = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    // For all controls that there are by now.
+    status_ = new Status_Line(*this);
+    new Window_Drop_Target(*this, *ui_->pic_VideosPath, program_, guard_);
     Set_Looks();
     qApp->installEventFilter(this);
 }
@@ -68,7 +73,8 @@ void Startform::Connect_Options()
 {
     for (const Click_Rule& rule : Click_Rules())
         if (auto* box = findChild<QCheckBox*>(rule.Name))
-            connect(box, &QCheckBox::clicked, this, [this, &rule] { guard_.Call([&] { Click(program_, rule); }); });
+            connect(box, &QCheckBox::clicked, this,
+                    [this, &rule] { guard_.Call([&] { Click_By_Hand(program_, rule); }); });
 
     const auto connect_pair = [this](QRadioButton* first, QRadioButton* second, void (*rule)(Program&, int)) {
         connect(first, &QRadioButton::clicked, this, [=, this] { guard_.Call([&] { rule(program_, 1); }); });
@@ -84,28 +90,6 @@ void Startform::Connect_Options()
                             {txt_AudioDelayValue_Change, txt_AudioDelayValue_Key, txt_AudioDelayValue_LostFocus}),
         new Number_Box_View(program_, guard_, *ui_->txt_SplitVideosValue, program_.Form.txt_SplitVideosValue,
                             {txt_SplitVideosValue_Change, txt_SplitVideosValue_Key, txt_SplitVideosValue_LostFocus})};
-}
-
-void Startform::Connect_Folders()
-{
-    const auto panel = [this](Drop_Panel* pane, QToolButton* browse, auto drop, auto pick) {
-        connect(pane, &Drop_Panel::Dropped, this,
-                [=, this](const Drop_Data& dropped) { guard_.Call([&] { drop(program_, dropped); }); });
-        connect(browse, &QToolButton::clicked, this, [=, this] { guard_.Call([&] { pick(program_); }); });
-    };
-    panel(ui_->pic_VideosPath, ui_->btn_BrowseVideos, Drop_On_Videos_Panel, mnu_PopupVideoBrowse1_Click);
-    panel(ui_->pic_AudioPath, ui_->btn_BrowseAudio, Drop_On_Audio_Panel, mnu_PopupAudioBrowse1_Click);
-    panel(ui_->pic_SubsPath, ui_->btn_BrowseSubs, Drop_On_Subs_Panel, mnu_PopupSubsBrowse1_Click);
-    panel(ui_->pic_ChaptersPath, ui_->btn_BrowseChapters, Drop_On_Chapters_Panel, mnu_PopupChapsBrowse1_Click);
-    panel(ui_->pic_TargetPath, ui_->btn_BrowseTarget, Drop_On_Target_Panel, mnu_PopupTargetBrowse1_Click);
-
-    const auto arrow = [this](QToolButton* button, auto press, auto release, auto click) {
-        connect(button, &QToolButton::pressed, this, [=, this] { guard_.Call([&] { press(program_); }); });
-        connect(button, &QToolButton::released, this, [=, this] { guard_.Call([&] { release(program_); }); });
-        connect(button, &QToolButton::clicked, this, [=, this] { guard_.Call([&] { click(program_); }); });
-    };
-    arrow(ui_->img_SourceMRU, img_SourceMRU_MouseDown, img_SourceMRU_MouseUp, img_SourceMRU_Click);
-    arrow(ui_->img_TargetMRU, img_TargetMRU_MouseDown, img_TargetMRU_MouseUp, img_TargetMRU_Click);
 }
 
 void Startform::Set_Looks()
@@ -170,23 +154,6 @@ void Startform::Measure()
                   fontMetrics().height() + ui_->lay_Work->spacing() + row}));
 }
 
-QList<QFrame*> Startform::Path_Boxes() const
-{
-    return {ui_->box_VideosPath, ui_->box_AudioPath, ui_->box_SubsPath, ui_->box_ChaptersPath, ui_->box_TargetPath};
-}
-
-QList<QToolButton*> Startform::Browse_Buttons() const
-{
-    return {ui_->btn_BrowseVideos, ui_->btn_BrowseAudio, ui_->btn_BrowseSubs, ui_->btn_BrowseChapters,
-            ui_->btn_BrowseTarget};
-}
-
-QList<QLabel*> Startform::Fault_Labels() const
-{
-    return {ui_->lbl_VideoPathFault, ui_->lbl_AudioPathFault, ui_->lbl_SubsPathFault, ui_->lbl_ChapsPathFault,
-            ui_->lbl_TargetPathFault};
-}
-
 void Startform::Render()
 {
     const Main_Form& form = program_.Form;
@@ -221,52 +188,12 @@ void Startform::Render()
     ui_->btn_Continue->setText(With_Letter(form.btn_Continue.Caption, u'n'));
     Place_More_Runs();
     list_->Render();
+    status_->Render(form.lbl_Notice);
     Render_Folders();
     Render_Progress();
     Render_Menus(*this, program_);
     Render_Place();
     Render_Focus();
-}
-
-/// A headline stands beside its box. What a run counts stands inside it, so that the boxes stay in line.
-static std::pair<QString, QString> Headline_And_Count(const QString& caption)
-{
-    const qsizetype end = caption.indexOf(u')') + 1;
-    return {caption.left(end).trimmed(), caption.mid(end).trimmed()};
-}
-
-void Startform::Render_Folders()
-{
-    const Main_Form& form = program_.Form;
-    for (const auto& [name, field] : Panel_Bindings())
-        if (auto* panel = findChild<QWidget*>(QLatin1StringView(name))) {
-            panel->setEnabled((form.*field).Enabled);
-            panel->setVisible((form.*field).Visible);
-        }
-    for (const auto& [name, field] : Label_Bindings())
-        if (auto* label = findChild<QLabel*>(QLatin1StringView(name)))
-            Show_Label(*label, form.*field);
-    for (QLabel* fault : Fault_Labels())
-        fault->setVisible(fault->isVisibleTo(fault->parentWidget()) && !fault->text().isEmpty());
-    // A fault that stands alone takes the place of the path.
-    const QList<Elided_Label*> shown{ui_->ulbl_VideosPath, ui_->ulbl_AudioPath, ui_->ulbl_SubsPath,
-                                     ui_->ulbl_ChaptersPath, ui_->ulbl_TargetPath};
-    for (Elided_Label* path : shown)
-        path->setVisible(!path->text().isEmpty() || Fault_Labels()[shown.indexOf(path)]->isHidden());
-
-    const auto [videos, found] = Headline_And_Count(form.pic_VideosPath.Caption);
-    const auto [target, done] = Headline_And_Count(form.pic_TargetPath.Caption);
-    ui_->lbl_VideosPathTitle->setText(With_Letter(videos, u'V'));
-    ui_->lbl_VideosPathCount->setText(found);
-    ui_->lbl_VideosPathCount->setVisible(!found.isEmpty());
-    ui_->lbl_AudioPathTitle->setText(With_Letter(form.pic_AudioPath.Caption, u'd'));
-    ui_->lbl_SubsPathTitle->setText(With_Letter(form.pic_SubsPath.Caption, u'b'));
-    ui_->lbl_ChaptersPathTitle->setText(With_Letter(form.pic_ChaptersPath.Caption, u'e'));
-    ui_->lbl_TargetPathTitle->setText(With_Letter(target, u'T'));
-    ui_->lbl_TargetPathCount->setText(done);
-    ui_->lbl_TargetPathCount->setVisible(!done.isEmpty());
-    ui_->img_SourceMRU->setDown(program_.Source_MRU_Form.Arrow_Pressed);
-    ui_->img_TargetMRU->setDown(program_.Target_MRU_Form.Arrow_Pressed);
 }
 
 void Startform::Render_Focus()
@@ -281,13 +208,15 @@ void Startform::Render_Focus()
     if (!keep) {
         if (focusWidget() && focusWidget() != ui_->btn_NOP)
             left_ = focusWidget();
-        Leave_Number_Boxes(); // a window that isn't in front tells nobody that its focus went elsewhere
+        Leave_Boxes(); // a window that isn't in front tells nobody that its focus went elsewhere
         Give_Focus(*this, name);
     }
 }
 
-void Startform::Leave_Number_Boxes()
+void Startform::Leave_Boxes()
 {
     for (Number_Box_View* box : number_boxes_)
         box->Leave();
+    for (Path_Edit* edit : path_edits_)
+        edit->Leave();
 }

@@ -13,7 +13,9 @@ class QFrame;
 class QLabel;
 class QToolButton;
 class Options_Layout;
+class Path_Edit;
 class Slot_Guard;
+class Status_Line;
 class Summary_Label;
 class Video_List_View;
 struct Program;
@@ -44,8 +46,8 @@ class Startform : public QMainWindow, public Form_View
     /// Tells the rules of the first activation: from now on they act.
     void Become_Ready();
     void Set_Topmost(bool on);
-    /// What was typed into a number box counts as left there: the settings are about to be written.
-    void Leave_Number_Boxes();
+    /// What was typed into a box counts as left there: it is about to be used, or to be written.
+    void Leave_Boxes();
 
     /// True once the close query let the form go.
     bool Unloaded() const { return unloaded_; }
@@ -64,6 +66,7 @@ class Startform : public QMainWindow, public Form_View
   private:
     void Connect_Options();
     void Connect_Folders();
+    void Connect_Typing();
     void Connect_Run();
     void Connect_List();
     /// The room between the options and the list below them.
@@ -100,6 +103,8 @@ class Startform : public QMainWindow, public Form_View
     Summary_Label* summary_ = nullptr;
     Halt_Question_View* question_ = nullptr;
     std::vector<Number_Box_View*> number_boxes_;
+    std::vector<Path_Edit*> path_edits_; ///< as Path_Boxes
+    Status_Line* status_ = nullptr;
     QString more_runs_;       ///< what the buttons beside Run say
     Form_Place shown_place_;  ///< what the window was last told, or last told us
     QWidget* left_ = nullptr; ///< where Tab goes on from after the focus was parked

@@ -155,7 +155,7 @@ void Startform::closeEvent(QCloseEvent* event)
         event->accept();
         return;
     }
-    Leave_Number_Boxes();
+    Leave_Boxes();
     guard_.Call([this] {
         if (!program_.Form.Options_Ready || program_.Run.Run_In_Progress || !Query_Unload(program_))
             return;

@@ -33,7 +33,10 @@ void Startform::Connect_List()
     setTabOrder(before, ui_->img_ProcessFailed);
 
     const auto click = [this](QPushButton* button, void (*rule)(Program&)) {
-        connect(button, &QPushButton::clicked, this, [this, rule] { guard_.Call([&] { rule(program_); }); });
+        connect(button, &QPushButton::clicked, this, [this, rule] {
+            Leave_Boxes();
+            guard_.Call([&] { rule(program_); });
+        });
     };
     click(ui_->btn_Check, btn_Check_Click);
     click(ui_->btn_RunFailed, btn_RunFailed_Click);

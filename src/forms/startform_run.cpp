@@ -16,8 +16,10 @@ using namespace Qt::StringLiterals;
 
 void Startform::Connect_Run()
 {
-    connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this,
-            [this](const Mouse_Release& release) { guard_.Call([&] { Run_Ticked(program_, release); }); });
+    connect(ui_->btn_RunVantorra, &Release_Button::Released_At, this, [this](const Mouse_Release& release) {
+        Leave_Boxes(); // a button's letter takes no focus from them
+        guard_.Call([&] { Run_Ticked(program_, release); });
+    });
     connect(ui_->img_Quit, &QPushButton::clicked, this, [this] { guard_.Call([this] { img_Quit_Click(program_); }); });
     connect(ui_->btn_ViewVidInfo, &QPushButton::clicked, this,
             [this] { guard_.Call([this] { btn_ViewVidInfo_Click(program_); }); });

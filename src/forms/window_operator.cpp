@@ -14,6 +14,7 @@
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QMessageBox>
 #include <QThread>
 #include <QTimer>
@@ -157,8 +158,13 @@ QString Window_Operator::Pick_Folder(const QString& title, const QString& start)
     return Ask([&] {
         // A window's title is one line; what the second says is told by the tooltips and the fault labels.
         QFileDialog dialog(Owner(), QString(title).replace(u"\r\n"_s, u" "_s).replace(u'\n', u' '), start);
+        dialog.setOption(QFileDialog::ShowDirsOnly, false);
         dialog.setFileMode(QFileDialog::Directory);
-        dialog.setOption(QFileDialog::ShowDirsOnly);
+        // Files are shown, to tell one folder from another, but greyed: no name holds a separator.
+        if (auto* files = dialog.findChild<QFileSystemModel*>()) {
+            files->setNameFilters({u"/"_s});
+            files->setNameFilterDisables(true);
+        }
         return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     });
 }

@@ -1,6 +1,7 @@
 #include "rules/attachments_dialog.h"
 
 #include "rules/option_rules.h"
+#include "rules/typed_folders.h"
 #include "state/program.h"
 #include "support/drop_data.h"
 #include "support/paths.h"
@@ -97,6 +98,48 @@ void Drop_On_Attachments_Panel(Program& program, const Drop_Data& data)
     }
     program.Options.Path_Attachments = With_Separator(path);
     Apply_Attachment_Path(program);
+}
+
+static void Show_Typing_Fault(Program& program, const QString& fault)
+{
+    program.Attachments_Dialog.lbl_AttachmentsPathFault.Caption = fault;
+    program.Attachments_Dialog.lbl_AttachmentsPathFault.Visible = !fault.isEmpty();
+}
+
+void Look_At_Attachment_Path(Program& program, const QString& text)
+{
+    Show_Typing_Fault(program, Fault_Of_Typing(text, program.Options.Path_Attachments));
+}
+
+bool Enter_Attachment_Path(Program& program, const QString& text)
+{
+    QString& path = program.Options.Path_Attachments;
+    const QString folder = Folder_Of_Typing(text, path);
+    if (folder.isEmpty() && !text.trimmed().isEmpty()) {
+        Show_Typing_Fault(program, No_Such_Folder);
+        return false;
+    }
+    if (folder.isEmpty())
+        program.Attachments_Dialog.Kept_Path = path;
+    path = folder;
+    Apply_Attachment_Path(program);
+    program.Attachments_Dialog.Focus = u"cmd_Done"_s;
+    return true;
+}
+
+void Leave_Attachment_Path(Program& program, const QString& text)
+{
+    if (!Enter_Attachment_Path(program, text)) {
+        Enter_Attachment_Path(program, {});
+        program.Attachments_Dialog.lbl_AttachmentsPath.Caption = text.trimmed();
+        Show_Typing_Fault(program, No_Such_Folder);
+    }
+    program.Attachments_Dialog.Focus.clear(); // it has gone on already
+}
+
+void Give_Up_Attachment_Path(Program& program)
+{
+    Show_Folder(program, program.Options.Path_Attachments);
 }
 
 void cmd_Attachments_Done_Click(Program& program)

@@ -5,7 +5,17 @@
 struct Drop_Data;
 struct Program;
 
-/// How the five folders change: something is dropped on a panel, or the operator browses.
+/// How the five folders change: something is dropped on a panel, or the operator browses. What is typed stands in
+/// typed_folders.
+
+enum class Folder_Box
+{
+    Videos,
+    Audio,
+    Subtitles,
+    Chapters,
+    Target
+};
 
 /// An existing file's path becomes that of its folder, with a separator: True. Any other text becomes empty: False.
 bool Folder_Of_File(QString& path);
@@ -22,6 +32,9 @@ void Drop_On_Audio_Panel(Program& program, const Drop_Data& data);
 void Drop_On_Subs_Panel(Program& program, const Drop_Data& data);
 void Drop_On_Chapters_Panel(Program& program, const Drop_Data& data);
 void Drop_On_Target_Panel(Program& program, const Drop_Data& data);
+
+/// `folder`, an existing one with a separator, was chosen for the box, by the picker or by being typed.
+void Choose_Folder(Program& program, Folder_Box box, const QString& folder);
 
 /// The browse commands of the panels' popup menus.
 void mnu_PopupVideoBrowse1_Click(Program& program);

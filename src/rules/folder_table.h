@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rules/folder_changes.h"
 #include "state/program.h"
 
 #include <array>
@@ -36,3 +37,5 @@ const Main_Folder& Videos_Folder();
 const Main_Folder& Target_Folder();
 /// Audio, subtitles, chapters.
 const std::array<Companion_Folder, 3>& Companion_Folders();
+/// That of the box, which is neither the source's nor the target's.
+const Companion_Folder& Companion_Folder_Of(Folder_Box box);

@@ -48,6 +48,12 @@ const std::array<Companion_Folder, 3>& Companion_Folders()
     return folders;
 }
 
+const Companion_Folder& Companion_Folder_Of(Folder_Box box)
+{
+    const auto& [audio, subtitles, chapters] = Companion_Folders();
+    return box == Folder_Box::Audio ? audio : box == Folder_Box::Subtitles ? subtitles : chapters;
+}
+
 bool Folder_Has_Content(const QString& path, Folder_Counts& counts)
 {
     counts = Count_Folder(path);
@@ -82,13 +88,26 @@ static bool Check_Target(Program& program)
 {
     QString& path = program.Options.Path_Target;
     Label& fault = program.Form.lbl_TargetPathFault;
-    const bool passed = Path_Exists(path) && !Same_Folder(path, program.Options.Path_Videos);
+    const bool there = Path_Exists(path);
+    const bool passed = there && !Same_Folder(path, program.Options.Path_Videos);
     path = passed ? With_Separator(path) : QString();
     program.Form.ulbl_TargetPath.Caption = path;
-    fault.Caption = passed ? QString() : u"Target Path Not Set"_s;
+    fault.Caption = passed ? QString() : there ? Same_Folder_Fault : u"Target Path Not Set"_s;
     if (!passed)
         fault.Visible = true;
     return passed;
+}
+
+void Tell_Same_Folder(Program& program)
+{
+    const QString& target = program.Options.Path_Target;
+    Label& fault = program.Form.lbl_TargetPathFault;
+    if (!target.isEmpty() && Same_Folder(target, program.Options.Path_Videos)) {
+        fault.Caption = Same_Folder_Fault;
+        fault.Visible = true;
+    } else if (fault.Caption == Same_Folder_Fault) {
+        fault.Caption = target.isEmpty() ? u"Target Path Not Set"_s : QString();
+    }
 }
 
 bool Check_Paths(Program& program, const QString& which)
@@ -134,4 +153,5 @@ void Forget_Last_Run(Main_Form& form)
     form.ulbl_Title1.Caption.clear();
     form.lbl_RunSummary.Caption.clear();
     form.Summary = Summary_Look::Plain;
+    form.lbl_Notice.Caption.clear();
 }

@@ -16,6 +16,12 @@ struct Program;
 /// "TargetPath". True if the last folder looked at passed.
 bool Check_Paths(Program& program, const QString& which);
 
+/// What the target's box says of a target that is the videos' folder.
+inline const QString Same_Folder_Fault = QStringLiteral("This is the video folder: choose another one");
+
+/// Says it, or takes it back, without a change of any folder: one of the two has changed.
+void Tell_Same_Folder(Program& program);
+
 /// True if the folder holds a file or a subfolder; `counts` takes their numbers.
 bool Folder_Has_Content(const QString& path, Folder_Counts& counts);
 
@@ -30,6 +36,6 @@ void Follow_Folders(Program& program);
 /// Shows the numbered box of a path error and sets `code` to 0. Codes under 1 stay; codes without a box show nothing.
 void Show_Path_Error(Program& program, int& code);
 
-/// A folder changed, or the run button was pressed: what the form still shows of the run before, its counts, progress,
-/// end, summary and last name, goes.
+/// A folder changed, or the run button was pressed: what the form still shows of before, the run's counts, progress,
+/// end, summary and last name, and the notice, goes.
 void Forget_Last_Run(Main_Form& form);

@@ -79,6 +79,7 @@ static void Open_List(Program& program, const Recent_List& recent)
     Show_Dialog(program, recent.Form_Name);
     recent.Form.Visible = false;
     recent.Shown.Caption = recent.Path;
+    Tell_Same_Folder(program);
     Follow_Folders(program);
 }
 

@@ -145,6 +145,12 @@ static void Set_Tick(Video_List& list, int number, bool ticked)
     Touch(list, number);
 }
 
+void Tick_Only(Video_List& list, const QSet<QString>& paths)
+{
+    for (int number = 0; number < static_cast<int>(list.Rows.size()); ++number)
+        Set_Tick(list, number, paths.contains(list.Rows[static_cast<std::size_t>(number)].Path()));
+}
+
 void Tick_Video(Program& program, int number)
 {
     if (May_Tick(program))

@@ -37,6 +37,9 @@ int Row_Number(Video_List& list, const QString& path);
 /// The paths that are ticked.
 QSet<QString> Ticked_Paths(const Video_List& list);
 
+/// Ticks the rows of these paths, and no others.
+void Tick_Only(Video_List& list, const QSet<QString>& paths);
+
 /// A click on the tick box of a row.
 void Tick_Video(Program& program, int number);
 /// Takes in what is marked, if any of it is left out; else leaves all of it out.

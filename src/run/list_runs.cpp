@@ -67,6 +67,12 @@ Press_Result Run_Ticked(Program& program, const Mouse_Release& release)
     return result;
 }
 
+void mnu_RunVantorra_Click(Program& program)
+{
+    if (program.Form.btn_RunVantorra.Enabled)
+        Run_Ticked(program, {});
+}
+
 static void Run_Chosen(Program& program, const Run_Choice& choice)
 {
     if (program.Run.Press_In_Work)

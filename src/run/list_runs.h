@@ -9,6 +9,9 @@
 /// btn_RunVantorra: all that is ticked. In a check: the check stops, and then the run begins.
 Press_Result Run_Ticked(Program& program, const Mouse_Release& release);
 
+/// The menu's item and key for the same; nothing while the button is off.
+void mnu_RunVantorra_Click(Program& program);
+
 /// btn_Check: a dry run that fills the list. Pressed in a check it stops it.
 void btn_Check_Click(Program& program);
 

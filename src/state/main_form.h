@@ -36,6 +36,7 @@ struct Main_Form
     bool Closing = false;
     bool Topmost_On = false;
     bool Delay_Toggle = false; ///< the state behind chk_AudioDelayAdjust
+    QString Picked_Last;       ///< the folder that the picker gave last; empty: none yet
     QString Focus;             ///< name of the control that the logic gave the focus to; "btn_NOP" parks it
 
     // Buttons and pictures
@@ -58,6 +59,7 @@ struct Main_Form
     Summary_Look Summary = Summary_Look::Plain;
     QString Halt_Question;       ///< what the person is asked while the run goes on; empty: nothing
     bool Quit_When_Done = false; ///< the program ends behind a run that finished; for this session
+    Label lbl_Notice;            ///< in the status bar: what the last action had to say that belongs to no box
 
     // Folder panels: the box with its headline, the path, the fault, the mark "Empty"
     Panel pic_VideosPath{.Caption = QStringLiteral("Video Files Path (drag 'n drop)")};

@@ -109,6 +109,27 @@ TEST_F(Commands, EachItemThatOpensAFormOpensItAboveTheTopmostWindow)
     }
 }
 
+TEST_F(Commands, TheirKeysReachThem)
+{
+    const std::tuple<Qt::Key, const char*> forms[] = {
+        {Qt::Key_O, "QFileDialog"}, {Qt::Key_L, "frm_ProcessLog"}, {Qt::Key_I, "frm_ViewVFI"}};
+    for (const auto& [key, form] : forms) {
+        Window.Form().activateWindow();
+        QCoreApplication::processEvents();
+        Press(Window.Form(), key, Qt::ControlModifier);
+        EXPECT_EQ(Window.Person.Forms.value(Window.Person.Forms.size() - 1), QLatin1StringView(form));
+    }
+    Place(Window.Files, Short_Video(), u"videos/a.mkv"_s);
+    Window.Form().activateWindow();
+    ASSERT_TRUE(Wait_Until([this] { return Window.Action("mnu_Check").isEnabled(); }));
+    Press(Window.Form(), Qt::Key_F5);
+    EXPECT_EQ(Window.Prog().Videos.Rows.at(0).Keeps, u"1 audio");
+    Press(Window.Form(), Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/a.mkv"_s)));
+    Press(Window.Form(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(Window.Form().Unloaded());
+}
+
 struct Folder_Command
 {
     const char* Browse;
@@ -218,6 +239,25 @@ TEST_F(Commands, TheAttachmentFolderIsPickedByItsButtonAndItsPopup)
         EXPECT_EQ(Answer_Picker(folder, [&] { Push(form, "btn_BrowseAttachments"); }),
                   u"Select the Attachment folder.");
         EXPECT_EQ(In<QLabel>(form, "lbl_AttachmentsPath").text(), folder);
+        auto& edit = In<QLineEdit>(form, "txt_AttachmentsPath");
+        // No window manager brings the form back from behind what was open above it.
+        const auto come_back = [&] {
+            form.activateWindow();
+            QCoreApplication::processEvents();
+        };
+        come_back();
+        edit.setFocus();
+        QTest::keyClicks(&edit, Window.Files.Path(u"nix"_s));
+        come_back();
+        Press(form, Qt::Key_Tab);
+        EXPECT_EQ(Window.Prog().Options.Path_Attachments, u"") << "a run takes what is shown, or nothing";
+        EXPECT_EQ(In<QLabel>(form, "lbl_AttachmentsPathFault").text(), u"There is no such folder");
+        edit.setFocus();
+        QTest::keyClicks(&edit, folder);
+        come_back();
+        Press(form, Qt::Key_Return);
+        EXPECT_TRUE(form.isVisible() && In(form, "cmd_Done").hasFocus());
+        EXPECT_EQ(Window.Prog().Options.Path_Attachments, folder);
         Click_On(In<QWidget>(form, "lbl_AttachmentsPath"), Qt::RightButton);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_TRUE(menu);

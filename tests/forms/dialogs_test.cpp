@@ -40,6 +40,24 @@ TEST_F(Dialogs, ATypedTitleReachesTheOptionAndItsCaptionAndClearTakesItBack)
     EXPECT_EQ(Window.Get<QCheckBox>("chk_CustomFileTitle").text(), u"Set Custom File Title (empty)");
 }
 
+TEST_F(Dialogs, ATickAsksForATitleThatIsNotThereAndNoneTakesTheTickBack)
+{
+    auto& box = Window.Get<QCheckBox>("chk_CustomVideoTitle");
+    Click_On(box);
+    EXPECT_EQ(Window.Person.Forms, QStringList{u"frm_CustomTitle"_s});
+    EXPECT_FALSE(box.isChecked());
+    EXPECT_TRUE(Window.Get("chk_SetVideoTitle").isEnabled());
+    Window.Person.On_Form[u"frm_CustomTitle"_s] = [](QWidget& form) {
+        QTest::keyClicks(&In<QLineEdit>(form, "txt_CustomTitle"), u"Film"_s);
+        Press(form, Qt::Key_Return);
+    };
+    for (int i = 0; i < 3; ++i)
+        Click_On(box);
+    EXPECT_TRUE(box.isChecked());
+    EXPECT_EQ(Window.Prog().Options.Custom_Video_Title, u"Film");
+    EXPECT_EQ(Window.Person.Forms.size(), 2) << "asked once more, then it has one";
+}
+
 TEST_F(Dialogs, AChosenRateMakesItsBoxUsableAndNoneTakesItBack)
 {
     EXPECT_FALSE(Window.Get("chk_VideoFrameRate").isEnabled());

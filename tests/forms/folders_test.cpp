@@ -5,7 +5,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDir>
+#include <QStatusBar>
 
 struct Folder_Panels : testing::Test
 {
@@ -85,4 +87,64 @@ TEST_F(Folder_Panels, TheArrowOffersTheRecentFoldersAndAChoiceSwapsThem)
     Window.Person.On_Form[u"frm_SourceMRU"_s] = [](QWidget& form) { QTest::keyClick(&form, Qt::Key_Escape); };
     Click_On(Window.Get("img_SourceMRU"));
     EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"older/"_s));
+}
+
+TEST_F(Folder_Panels, APathIsTypedPastedCompletedAndGivenUp)
+{
+    QDir().mkpath(Window.Files.Path(u"shelf/Season 1"_s));
+    Window.Set_Folders();
+    auto& edit = Window.Get<QLineEdit>("txt_VideosPath");
+    const QString videos = Shown("ulbl_VideosPath");
+    const auto& fault = Window.Get<QLabel>("lbl_VideoPathFault");
+    Press(Window.Get("img_SourceMRU"), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(edit.hasFocus());
+    EXPECT_EQ(edit.selectedText(), videos);
+
+    QTest::keyClicks(&edit, Window.Files.Path(u"shelf/nix"_s));
+    EXPECT_TRUE(fault.isVisible());
+    EXPECT_EQ(fault.text(), u"There is no such folder");
+    Press(edit, Qt::Key_Return);
+    EXPECT_TRUE(edit.hasFocus());
+    Press(edit, Qt::Key_Escape);
+    EXPECT_EQ(edit.text(), videos);
+    EXPECT_FALSE(fault.isVisible());
+
+    QTest::keyClicks(&edit, Window.Files.Path(u"shelf/Sea"_s));
+    ASSERT_TRUE(edit.completer()->popup()->isVisible());
+    QTest::keyClick(edit.completer()->popup(), Qt::Key_Down);
+    QTest::keyClick(edit.completer()->popup(), Qt::Key_Return);
+    Window.Form().activateWindow(); // no window manager does it
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"shelf/Season 1/"_s));
+    EXPECT_TRUE(Window.Get("btn_NOP").hasFocus());
+
+    // What stands in a box counts before a key of the menu is obeyed.
+    Click_On(Window.Get("ulbl_TargetPath"));
+    QTest::keyClicks(&Window.Get<QLineEdit>("txt_TargetPath"), u"gone"_s);
+    Press(Window.Form(), Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(Shown("ulbl_TargetPath"), u"gone");
+    EXPECT_EQ(Window.Prog().Options.Path_Target, u"");
+    EXPECT_FALSE(Window.Get("btn_RunVantorra").isEnabled());
+    EXPECT_TRUE(Window.Person.Boxes.empty());
+}
+
+TEST_F(Folder_Panels, AFolderMayBeDroppedAnywhereAndTheStatusBarSaysWhatCameOfIt)
+{
+    const QString film = Window.Files.Write(u"shelf/a.mkv"_s);
+    Window.Files.Write(u"shelf/b.mkv"_s);
+    const auto status = [this] { return Window.Get<QLabel>("lbl_Notice").text(); };
+    EXPECT_TRUE(Drop_On(Window.Form(), {film}));
+    EXPECT_EQ(Shown("ulbl_VideosPath"), Window.Files.Path(u"shelf/"_s));
+    EXPECT_EQ(status(), u"Only the dropped video is ticked.");
+    EXPECT_EQ(Window.Get<QAbstractButton>("chip_Left_Out").text(), u"Left out 1");
+    Drop_On(Window.Form(), {Window.Files.Path(u"shelf"_s)});
+    EXPECT_EQ(status(), u"All videos of the folder are ticked again.");
+    Window.Prog().Run.Press_In_Work = true;
+    EXPECT_FALSE(Drop_On(Window.Form(), {Window.Files.Path(u"videos"_s)}));
+    Window.Prog().Run.Press_In_Work = false;
+
+    Drop(Window.Files.Path(u"videos"_s)); // the notice goes with what it spoke of
+    QEvent over(QEvent::Enter);
+    QCoreApplication::sendEvent(&Window.Get("chk_StripChaps"), &over);
+    EXPECT_EQ(Window.Get<QStatusBar>("statusbar").currentMessage(), Window.Get("chk_StripChaps").toolTip());
 }

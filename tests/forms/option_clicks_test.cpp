@@ -44,6 +44,8 @@ struct Option_Clicks : testing::Test
 
 TEST_F(Option_Clicks, EachBoxActsAsItsRuleTickedAndUnticked)
 {
+    // Without a text their boxes would ask for it.
+    Window.Prog().Options.Custom_File_Title = Window.Prog().Options.Custom_Video_Title = u"Film"_s;
     for (const Click_Rule& rule : Click_Rules()) {
         auto* box = Window.Form().findChild<QCheckBox*>(rule.Name);
         if (rule.Name == u"chk_UseSubfolders")

@@ -1,6 +1,7 @@
 #include "rules/folder_changes.h"
 
 #include "common/test_program.h"
+#include "rules/folders.h"
 #include "rules/recent_folders.h"
 #include "settings/recent_lists.h"
 #include "support/drop_data.h"
@@ -90,10 +91,28 @@ TEST_F(FolderChanges, ABadDropIsToldAndOnlyCompanionFoldersTakeIt)
     }
 }
 
-TEST_F(FolderChanges, ADropDoesNotRefuseATargetThatIsTheSource)
+TEST_F(FolderChanges, ADropTakesATargetThatIsTheSourceAndTellsIt)
 {
     Drop_On_Target_Panel(Prog, Dropped(u"videos"_s));
     EXPECT_EQ(Prog.Options.Path_Target, Prog.Options.Path_Videos);
+    EXPECT_EQ(Prog.Form.lbl_TargetPathFault.Caption, Same_Folder_Fault);
+    Drop_On_Videos_Panel(Prog, Dropped(u"new"_s));
+    EXPECT_EQ(Prog.Form.lbl_TargetPathFault.Caption, u""_s);
+}
+
+TEST_F(FolderChanges, ThePickerOpensAtTheBoxElseWhereItWasLast)
+{
+    const auto start_at = [this](const QString& path) {
+        Prog.Options.Path_Audios = path;
+        mnu_PopupAudioBrowse1_Click(Prog);
+        return Person.Folder_Questions.back().second;
+    };
+    EXPECT_EQ(start_at({}), Prog.Settings.App_Folder);
+    EXPECT_EQ(start_at(Path(u"new/"_s)), Path(u"new/"_s));
+    EXPECT_EQ(start_at(Path(u"new/gone/more/"_s)), Path(u"new/"_s)) << "as near as there is something";
+    Person.Folder_Answer = Path(u"target"_s);
+    start_at({});
+    EXPECT_EQ(start_at({}), Path(u"target/"_s));
 }
 
 TEST_F(FolderChanges, ABrowseStartsAtItsFolderAndPutsTheNewPathIntoTheRecentList)
@@ -125,7 +144,7 @@ TEST_F(FolderChanges, ABrowsedTargetThatIsTheSourceIsEmptied)
                                                     "It CANNOT be the same as the Video Files path."_s);
     EXPECT_EQ(Prog.Options.Path_Target, u""_s);
     EXPECT_EQ(Prog.Form.ulbl_TargetPath.Caption, u""_s);
-    EXPECT_EQ(Prog.Form.lbl_TargetPathFault.Caption, u"Target Path Not Set"_s);
+    EXPECT_EQ(Prog.Form.lbl_TargetPathFault.Caption, Same_Folder_Fault);
     EXPECT_FALSE(Prog.Form.btn_RunVantorra.Enabled);
 }
 
