@@ -40,9 +40,10 @@ void Help_View::Open()
     if (isVisible())
         return;
     QRect place(QPoint(), QSize(860, 680));
-    if (const QWidget* owner = parentWidget())
-        place.moveCenter(owner->window()->geometry().center());
-    setGeometry(Onto_Screen(place));
+    const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
+    if (owner)
+        place.moveCenter(owner->geometry().center());
+    setGeometry(Onto_Screen(place, Frame_Around(owner)));
     words_->setFocus();
 }
 

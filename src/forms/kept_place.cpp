@@ -32,7 +32,7 @@ void Kept_Place::Open()
 {
     // A form that was maximised tells of its normal place on the way.
     const Form_Place wanted = place_;
-    const QRect normal = Onto_Screen(Rect_Of(wanted, form_.minimumSizeHint()));
+    const QRect normal = Onto_Screen(Rect_Of(wanted, form_.minimumSizeHint()), Frame_Around(form_.parentWidget()));
     const bool was_maximised = form_.isVisible() && (form_.isMaximized() || form_.isFullScreen());
     placed_ = normal;
     form_.setWindowState(Qt::WindowNoState);

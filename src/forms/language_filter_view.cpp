@@ -54,7 +54,7 @@ void Language_Filter_View::Open()
 {
     const Language_Filter_Form& form = program_.Language_Filter;
     if (form.Has_Place)
-        setGeometry(Onto_Screen(Rect_Of(form.Place)));
+        setGeometry(Onto_Screen(Rect_Of(form.Place), Frame_Around(parentWidget())));
     else
         Centre_On_Owner();
     ui_->lst_LanguageList->setFocus();

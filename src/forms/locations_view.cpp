@@ -125,7 +125,8 @@ void Locations_View::Render()
     ui_->btn_Clear->setText(With_Letter(form_.btn_Clear.Caption, u'l'));
     ui_->cmd_Done->setText(With_Letter(form_.cmd_Done.Caption, u'D'));
     if (isVisible() && (form_.Place.Left != geometry().left() || form_.Place.Top != geometry().top()))
-        setGeometry(Onto_Screen(QRect(QPoint(form_.Place.Left, form_.Place.Top), size())));
+        setGeometry(
+            Onto_Screen(QRect(QPoint(form_.Place.Left, form_.Place.Top), size()), Frame_Around(parentWidget())));
     Give_Focus(*this, form_.Focus);
     Hide_Unless(form_.Visible);
 }

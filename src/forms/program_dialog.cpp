@@ -33,5 +33,5 @@ void Program_Dialog::Centre_On_Owner()
     adjustSize();
     QRect place(QPoint(), size());
     place.moveCenter(owner->geometry().center());
-    setGeometry(Onto_Screen(place));
+    setGeometry(Onto_Screen(place, Frame_Around(owner)));
 }

@@ -2,9 +2,20 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWidget>
 #include <algorithm>
 
-QRect Onto_Screen(const QRect& place)
+QMargins Frame_Around(const QWidget* window)
+{
+    if (!window || window->isMaximized() || window->isFullScreen())
+        return {};
+    const QRect inner = window->geometry();
+    const QRect outer = window->frameGeometry();
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
+}
+
+QRect Onto_Screen(const QRect& place, const QMargins& frame)
 {
     const QScreen* screen = QGuiApplication::screenAt(place.center());
     if (!screen)
@@ -13,7 +24,7 @@ QRect Onto_Screen(const QRect& place)
         screen = QGuiApplication::primaryScreen();
     if (!screen)
         return place;
-    const QRect area = screen->availableGeometry();
+    const QRect area = screen->availableGeometry().marginsRemoved(frame);
     QRect moved = place;
     moved.setSize(place.size().boundedTo(area.size()));
     moved.moveLeft(std::clamp(moved.left(), area.left(), area.right() - moved.width() + 1));
