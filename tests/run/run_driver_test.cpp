@@ -1,5 +1,6 @@
 #include "common/stand_in_tool.h"
 
+#include "rules/video_list.h"
 #include "run/halt.h"
 #include "run/list_runs.h"
 #include "run/run_driver.h"
@@ -142,6 +143,30 @@ TEST(Run_Driver, MissingFoldersAndVideosAreRefusedWithOneLineInTheLog)
         EXPECT_EQ(test.Prog.Form.lbl_VideoPathFault.Caption == u"NO VIDEO FILES FOUND!"_s,
                   line.contains(u"NO VIDEO"_s));
     }
+}
+
+TEST(Run_Driver, ACarefulRunTakesWhatIsTickedAndAClassicOneSaysThatItTakesNoSubfolders)
+{
+    struct Warnings : Run_Listener
+    {
+        QStringList Texts;
+
+        void Warned(const QString&, const QString& text) override { Texts += text; }
+    };
+
+    Driver_Test test;
+    Warnings heard;
+    test.Prog.Settings.Extensions = {.Careful_Batch = true, .Include_Subfolders = true};
+    Follow_Videos_Folder(test.Prog);
+    Tick_Video(test.Prog, 0);
+    test.Prog.Listener = &heard;
+    Run_Ticked(test.Prog, {.X = 5, .Y = 5, .Width = 10, .Height = 10});
+    EXPECT_TRUE(test.Log().contains(u"        -- No video is ticked in the list.\r\n"_s));
+    EXPECT_EQ(heard.Texts, QStringList());
+
+    test.Prog.Settings.Extensions.Careful_Batch = false;
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    EXPECT_EQ(heard.Texts.size(), 1);
 }
 
 TEST(Run_Driver, WithoutFfprobeOrAnyMkvmergeAPressEndsWithItsReportAndNoLogEntry)

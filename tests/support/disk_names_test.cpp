@@ -47,6 +47,17 @@ TEST(Files, AListingComesByNameAndTellsEveryNameApart)
         ::unlink((folder + name).constData()); // Qt can't remove all of them
 }
 
+TEST(Files, AFolderGoesToTheTrashWithOrWithoutItsSeparatorAndWhatIsGoneIsNoFault)
+{
+    const Test_Program test;
+    test.Write(u"old/x"_s);
+    clsStringBuilder faults;
+    for (int time = 1; time <= 2; ++time)
+        EXPECT_TRUE(Delete_To_Recycle(test.Path(u"old//"_s), faults));
+    EXPECT_FALSE(QFile::exists(test.Path(u"old"_s)));
+    EXPECT_EQ(faults.ToString(), u""_s);
+}
+
 TEST(Files, APathIsFoundInAnotherCaseWhereItsOwnIsMissing)
 {
     const Test_Program test;
