@@ -30,6 +30,8 @@ void Startform::Connect_Run()
     statusBar()->setSizeGripEnabled(false);
     summary_ = new Summary_Label(statusBar());
     summary_->setObjectName(u"lbl_RunSummary"_s);
+    // Ends where the button above it does.
+    summary_->setContentsMargins(0, 0, ui_->lay_Central->contentsMargins().right(), 0);
     statusBar()->addPermanentWidget(summary_);
     question_ = new Halt_Question_View(program_, guard_, *this);
 }

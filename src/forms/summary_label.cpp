@@ -18,5 +18,7 @@ void Summary_Label::Set_Look(Summary_Look look)
 
 QSize Summary_Label::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(text()), fontMetrics().height()};
+    // Rounded up: a pixel too few would cost two letters.
+    const QMargins edges = contentsMargins();
+    return {fontMetrics().horizontalAdvance(text()) + 1 + edges.left() + edges.right(), fontMetrics().height()};
 }
