@@ -161,9 +161,17 @@ void Startform::Render()
     for (const Click_Rule& rule : Click_Rules())
         if (auto* box = findChild<QCheckBox*>(rule.Name))
             Show_Check_Box(*box, program_.Options.*rule.Box);
-    for (const auto& [name, field] : Button_Bindings())
-        if (auto* button = findChild<QAbstractButton*>(QLatin1StringView(name)))
-            Show_Button(*button, form.*field);
+    ui_->btn_Check->setText(With_Letter(form.btn_Check.Caption, u'k'));
+    ui_->btn_RunFailed->setText(With_Letter(form.btn_RunFailed.Caption, u'g'));
+    ui_->btn_Continue->setText(With_Letter(form.btn_Continue.Caption, u'n'));
+    Place_More_Runs(true);
+    // What goes makes room before something comes: together they would widen the window.
+    for (const bool comes : {false, true})
+        for (const auto& [name, field] : Button_Bindings())
+            if (auto* button = findChild<QAbstractButton*>(QLatin1StringView(name));
+                button && (form.*field).Visible == comes)
+                Show_Button(*button, form.*field);
+    Place_More_Runs(false);
 
     Show_Option_Pair(*ui_->opt_SetFileTitle_1, *ui_->opt_SetFileTitle_2, program_.Options.opt_SetFileTitle);
     Show_Option_Pair(*ui_->opt_SetVideoTitle_1, *ui_->opt_SetVideoTitle_2, program_.Options.opt_SetVideoTitle);
@@ -183,10 +191,6 @@ void Startform::Render()
             : u"A run takes a video folder, another folder as its target, and ffprobe in this program's folder."_s);
     ui_->btn_Halt->setText(With_Letter(form.btn_Halt.Caption, QChar()));
     ui_->btn_ViewVidInfo->setText(With_Letter(form.btn_ViewVidInfo.Caption, u'I'));
-    ui_->btn_Check->setText(With_Letter(form.btn_Check.Caption, u'k'));
-    ui_->btn_RunFailed->setText(With_Letter(form.btn_RunFailed.Caption, u'g'));
-    ui_->btn_Continue->setText(With_Letter(form.btn_Continue.Caption, u'n'));
-    Place_More_Runs();
     list_->Render();
     status_->Render(form.lbl_Notice);
     Render_Folders();

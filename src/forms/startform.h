@@ -27,6 +27,9 @@ class Startform;
 /// On a screen with fewer lines than this the list of videos is a strip that opens it.
 inline constexpr int Low_Screen = 800;
 
+/// On one with fewer than this a folder that isn't in view keeps no place for itself.
+inline constexpr int Very_Low_Screen = 480;
+
 /// The main form. Holds no rule: an event calls one, then the records are rendered. Controls carry the names of the
 /// fields that they show.
 class Startform : public QMainWindow, public Form_View
@@ -74,8 +77,9 @@ class Startform : public QMainWindow, public Form_View
     /// Where the list may stand beside the options, and not in their place.
     bool Has_Room_For_List() const;
     void Open_List(bool open);
-    /// The buttons beside Run, or in a row of their own where the screen is too narrow.
-    void Place_More_Runs();
+    /// The buttons beside Run, or in a row of their own where the screen is too narrow. That row is made `ahead` of the
+    /// buttons that come into view, as each would widen the window at once and for good; it goes behind those that go.
+    void Place_More_Runs(bool ahead);
     /// Colours and pictures of the palette in force, then Measure.
     void Set_Looks();
     /// The sizes that follow the font in force.

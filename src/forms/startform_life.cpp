@@ -45,6 +45,12 @@ void Startform::Propose_Place()
     const QScreen* screen = QGuiApplication::primaryScreen();
     const QRect area = screen ? screen->availableGeometry() : QRect(QPoint(), sizeHint());
     program_.Form.Screen = {area.left(), area.top(), area.width(), area.height(), 0};
+    // Where not even the rest has room, folders that aren't in view keep none.
+    for (QWidget* panel : {ui_->pic_AudioPath, ui_->pic_SubsPath, ui_->pic_ChaptersPath}) {
+        QSizePolicy policy = panel->sizePolicy();
+        policy.setRetainSizeWhenHidden(area.height() >= Very_Low_Screen);
+        panel->setSizePolicy(policy);
+    }
     if (File_Exists(With_Separator(program_.Settings.App_Folder) + Settings_File_Name))
         return; // it knows the place
     Render();

@@ -85,24 +85,32 @@ void Startform::Open_List(bool open)
     Divide();
 }
 
-void Startform::Place_More_Runs()
+void Startform::Place_More_Runs(bool ahead)
 {
+    const Main_Form& form = program_.Form;
+    const std::pair<QPushButton*, const Button&> buttons[] = {{ui_->btn_Check, form.btn_Check},
+                                                              {ui_->btn_Continue, form.btn_Continue},
+                                                              {ui_->btn_RunFailed, form.btn_RunFailed}};
     QWidget& more = *ui_->pic_MoreRuns;
     QString shown;
-    for (const QPushButton* button : {ui_->btn_Check, ui_->btn_Continue, ui_->btn_RunFailed})
-        shown += button->isHidden() ? QString() : button->text();
+    int wanted = 0;
+    for (const auto& [button, record] : buttons)
+        if (record.Visible) {
+            shown += record.Caption;
+            wanted += ui_->lay_MoreRuns->spacing() + button->sizeHint().width();
+        }
     if (shown == more_runs_)
         return;
-    more_runs_ = shown;
-    // Layouts remember what they held; a window that has grown for that doesn't shrink again.
+    if (!ahead)
+        more_runs_ = shown;
     ui_->lay_MoreRuns->invalidate();
     ui_->lay_Run->invalidate();
-    const int beside = more.sizeHint().width() + ui_->lay_Run->spacing();
     const bool is_beside = ui_->lay_Run->indexOf(&more) >= 0;
+    const int others = ui_->lay_Run->minimumSize().width() -
+                       (is_beside ? more.minimumSizeHint().width() + ui_->lay_Run->spacing() : 0);
     const QMargins edges = ui_->lay_Central->contentsMargins();
-    const int needed = ui_->lay_Run->minimumSize().width() + (is_beside ? 0 : beside) + edges.left() + edges.right();
-    const bool fits = needed <= program_.Form.Screen.Width;
-    if (fits == is_beside)
+    const bool fits = others + ui_->lay_Run->spacing() + wanted + edges.left() + edges.right() <= form.Screen.Width;
+    if (fits == is_beside || fits == ahead)
         return;
     if (fits)
         ui_->lay_Run->insertWidget(ui_->lay_Run->indexOf(ui_->btn_RunVantorra), &more);
