@@ -181,7 +181,7 @@ TEST_F(Window_Run, AQuestionAboutAHaltHoldsNothingUpAndTheRunMayEndBehindTheVide
     Window.Person.On_Form[u"frm_HaltQuestion"_s] = [this, first = true](QWidget& question) mutable {
         if (std::exchange(first, false))
             Let_One_Through();
-        if (Window.Prog().Run.Videos_Done == 0)
+        if (Window.Prog().Videos.In_Work != 1)
             return;
         Choose_In(question, u"&After this video"_s);
         EXPECT_TRUE(Window.Get<QLabel>("lbl_RunSummary").text().contains(u"stops after this video"_s));
