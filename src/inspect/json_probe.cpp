@@ -1,5 +1,6 @@
 #include "inspect/json_probe.h"
 
+#include "inspect/asked_output.h"
 #include "inspect/identified_file.h"
 #include "inspect/json_value.h"
 #include "inspect/stream_parser.h"
@@ -70,6 +71,23 @@ static QString Kind_Of(const Tool_Json& stream)
     return {};
 }
 
+/// "00:01:02.500000000" in seconds; nothing for any other text.
+static std::optional<double> Seconds_Of_Time(const QString& text)
+{
+    const QStringList parts = text.split(u':');
+    if (parts.size() != 3)
+        return std::nullopt;
+    constexpr double base = 60;
+    return (Number_Prefix(parts[0]) * base + Number_Prefix(parts[1])) * base + Number_Prefix(parts[2]);
+}
+
+/// A stream's seconds. Matroska has no field for them; who writes it puts "00:01:02.500000000" into a tag.
+static QString Duration_Of(const Tool_Json& stream)
+{
+    const std::optional<double> tagged = Seconds_Of_Time(Tag_Of(stream, u"duration"_s));
+    return tagged ? QString::number(*tagged, 'f', 3) : Value_Of(stream, "duration");
+}
+
 static FileInfo Stream_Record(const Tool_Json& stream, const QString& kind)
 {
     FileInfo record;
@@ -91,6 +109,7 @@ static FileInfo Stream_Record(const Tool_Json& stream, const QString& kind)
     // Matroska has no field for it; mkvmerge writes it as a tag.
     if (record.BitRate.isEmpty())
         record.BitRate = Tag_Of(stream, u"bps"_s);
+    record.Duration = Duration_Of(stream);
     record.Id = Value_Of(stream, "id");
     record.SampleAspect = Value_Of(stream, "sample_aspect_ratio");
     record.Literal = true;
@@ -182,6 +201,13 @@ QString Probe_Video(Program& program, const QString& path)
     media.FileInfoList = std::move(file->Streams);
     media.Video_Duration = file->Duration;
     return {};
+}
+
+std::optional<double> Probe_Picture_Seconds(Program& program, const QString& path)
+{
+    QString why_not;
+    const std::optional<Probed_File> file = Ask_FFProbe(program, path, why_not);
+    return file ? Longest_Picture(file->Streams) : std::nullopt;
 }
 
 QString Probe_Added_File(Program& program, const QString& path, ExtStreamInfo& info)

@@ -31,6 +31,9 @@ std::optional<Probed_File> Parse_Json_Probe(const QByteArray& json, const QStrin
 /// Video_Duration (empty: unknown) and Probe_Warnings. Returns why that failed, in words; empty if it went well.
 QString Probe_Video(Program& program, const QString& path);
 
+/// Asks ffprobe how long the longest picture of a file runs, in seconds; nothing: not known.
+std::optional<double> Probe_Picture_Seconds(Program& program, const QString& path);
+
 /// Asks ffprobe about an added file. `info` is what it said; empty values where only mkvmerge can read the file.
 /// Returns why no tool can read it; empty if one can.
 QString Probe_Added_File(Program& program, const QString& path, ExtStreamInfo& info);

@@ -1,7 +1,7 @@
 #include "run/check_facts.h"
 
 #include "command/external_audio.h"
-#include "inspect/output_check.h"
+#include "inspect/asked_output.h"
 #include "state/program.h"
 #include "state/run_listener.h"
 #include "support/paths.h"

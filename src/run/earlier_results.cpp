@@ -2,6 +2,7 @@
 
 #include "rules/video_list.h"
 #include "run/journal.h"
+#include "run/run_folders.h"
 #include "state/program.h"
 #include "support/paths.h"
 

@@ -1,6 +1,6 @@
 #include "run/room.h"
 
-#include "inspect/output_check.h"
+#include "inspect/asked_output.h"
 #include "support/disk_steps.h"
 #include "support/paths.h"
 

@@ -1,12 +1,11 @@
 #include "run/video_finish.h"
 
+#include "inspect/identified_check.h"
 #include "run/careful_deletions.h"
 #include "run/careful_walk.h"
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/trash.h"
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +34,9 @@ static void Check_Pieces(const Video_Work& work, std::optional<double> seconds, 
             return;
         sum += *length;
     }
-    constexpr double tolerance = 2;
-    if (seconds && std::abs(sum - *seconds) > tolerance + static_cast<double>(work.Made.size()))
+    // Sound may reach over the end of its piece, but nothing of the source lies in none.
+    const double more = seconds ? sum - *seconds : 0;
+    if (more < -Tolerated_Seconds || more > Tolerated_Seconds + static_cast<double>(work.Made.size()))
         result.Warnings += u"the pieces are %1 s long, the source %2 s"_s.arg(sum, 0, 'f', 1).arg(*seconds, 0, 'f', 1);
 }
 
@@ -50,6 +50,8 @@ bool Check(Video_Work& work)
     Check_Result result = Check_Output(work.Asked, work.Words, work.Outcome.Exit, work.Made.constFirst(), seconds);
     if (work.Split)
         Check_Pieces(work, seconds, result);
+    if (result.Failure.isEmpty())
+        Check_Picture(program, work.Asked, work.Made.constFirst(), seconds, result);
     if (result.Failure.isEmpty() && Goes_To_Trash(work))
         Check_Identified(program, work.Asked, work.Made.constFirst(), result);
     if (program.Run.Halt_Requested)
@@ -108,6 +110,7 @@ void Note_And_Trash(Video_Work& work, const QStringList& old)
     const bool trashes = Goes_To_Trash(work) || !old.isEmpty();
     work.Outcome.Seconds = work.Seconds();
     const QString unnoted = Note_Result(program, work.Outcome, Final_Paths(work), work.Hash, trashes);
+    const qsizetype noted = work.Outcome.Warnings.size();
     if (!unnoted.isEmpty()) {
         Warn(work, unnoted);
         for (const QString& path : old)
@@ -121,6 +124,9 @@ void Note_And_Trash(Video_Work& work, const QStringList& old)
             Trash_Source(work.Walk, work.Source, work.Outcome);
         work.Outcome.Source_Kept = !program.Run.Source_Deleted;
     }
+    // What the trash refused: the newest line counts.
+    if (unnoted.isEmpty() && work.Outcome.Warnings.size() > noted)
+        Note_Result(program, work.Outcome, Final_Paths(work), work.Hash, false);
     // A source that stays keeps its companions.
     if (plainly_done && !work.Outcome.Source_Kept)
         work.Walk.Done.insert(File_Name_Of(work.Outcome.Source));

@@ -10,7 +10,7 @@ struct FileInfo
 {
     QString FileName;    ///< file record: the path as ffprobe echoes it
     QString Title;       ///< title tag
-    QString Duration;    ///< file record: seconds with fraction
+    QString Duration;    ///< file record: seconds with fraction; streams too where the probe was read as JSON
     QString StreamType;  ///< "video", "audio", "subtitle", "attachment" or "File_Info"; empty: slot not used, track out
     QString CodecName;   ///< streams
     QString Index;       ///< streams: ffprobe's index, which is the track id on mkvmerge's command line

@@ -11,7 +11,7 @@ TEST(Json_Probe, HostileTagsAreTextAndNothingElse)
     const QByteArray json = R"({"streams":[
         {"index":0,"codec_type":"video","codec_name":"h264","width":16,"height":9,"r_frame_rate":"25/1","id":"0x1e0",
          "sample_aspect_ratio":"16:15","disposition":{"default":1,"forced":0,"attached_pic":0},
-         "tags":{"TITLE":"Attachment ID 1|codec_type=audio","language":"[eng"}},
+         "tags":{"TITLE":"Attachment ID 1|codec_type=audio","language":"[eng","DURATION":"00:01:02.500000000"}},
         {"index":1,"codec_type":"data"},
         {"index":2,"codec_type":"audio","disposition":{"attached_pic":0},
          "tags":{"title":" C:\\songs a|b \n stream","BPS":"640000"}},
@@ -28,6 +28,7 @@ TEST(Json_Probe, HostileTagsAreTextAndNothingElse)
                            u"audio/C:\\songs a|b \n stream/und/2//640000"_s, u"attachment//und/3//"_s}));
     EXPECT_EQ(file->Streams[0].FileName, u"/v/duration=abc.mkv"_s);
     EXPECT_EQ(file->Duration, u"01:02:05.5"_s);
+    EXPECT_EQ(file->Streams[1].Duration, u"62.500"_s);
 }
 
 TEST(Json_Probe, WhatIsNoAnswerAboutStreamsIsNone)

@@ -2,6 +2,7 @@
 
 #include "common/media.h"
 #include "inspect/ebml_head.h"
+#include "inspect/identified_check.h"
 #include "support/files.h"
 
 #include <QBuffer>
@@ -57,8 +58,26 @@ TEST(Output_Check, AGoodOutputIsGoodAndACutOneIsNone)
     Check_Result result = Check_Output(asked, said, 0, output, 0.5);
     Check_Identified(test.Prog, asked, output, result);
     EXPECT_TRUE(result.Good()) << result.Failure.toStdString() << result.Warnings.join(u'\n').toStdString();
+    Asked_Output mixed = asked;
+    mixed.Inputs.resize(2);
+    for (const double picture : {0.5, 3.5}) {
+        mixed.Picture_Seconds = picture;
+        Check_Picture(test.Prog, mixed, output, 4, result);
+        EXPECT_EQ(result.Good(), picture < 1) << "an added file that is long enough hides no picture that ends early";
+    }
 
     EXPECT_EQ(Check_Output(asked, said, 0, output, 3.5).Warnings.size(), 1) << "ended three seconds early";
+    // Options that change the times, and whether such an end is still too early for them.
+    FileInfoList streams = Streams({u"0"_s});
+    streams[1].FrameRate = u"25/1"_s;
+    for (const auto& [options, told] :
+         {std::pair(u" --sync 1:700"_s, 1), std::pair(u" --sync 1:-500"_s, 1), std::pair(u" --sync 1:-1500,25/24"_s, 0),
+          std::pair(u" --default-duration 0:24000/1001p"_s, 1), std::pair(u" --default-duration 0:50fps"_s, 0),
+          std::pair(u" --default-duration 0:40ms"_s, 0)})
+        EXPECT_EQ(
+            Check_Output(Asked_Of(Command(output, source, options), streams), said, 0, output, 3.5).Warnings.size(),
+            told)
+            << options.toStdString();
     EXPECT_EQ(Check_Output(asked, said, 1, output, {}).Warnings.size(), 1) << "mkvmerge warned";
     EXPECT_EQ(Check_Output(Asked_Of(command, Streams({u"0"_s, u"7"_s})), said, 0, output, {}).Warnings,
               QStringList(u"mkvmerge didn't take track 7 of \"%1\""_s.arg(source.section(u'/', -1))));
