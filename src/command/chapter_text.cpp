@@ -3,6 +3,8 @@
 #include "support/run_time_error.h"
 #include "support/text.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 QStringList Chapter_Lines(const QStringList& lines)
@@ -104,6 +106,12 @@ QString Digits_Of(const QString& text)
 QString Edition_Number(float random)
 {
     return QString::number(static_cast<qint64>(static_cast<double>(random) * 314000000000.0 + 100000000000.0));
+}
+
+QString Xml_Text(QString name)
+{
+    static const QRegularExpression lone(u"&(?!(amp|lt|gt|quot|apos|#[0-9]+|#x[0-9A-Fa-f]+);)"_s);
+    return name.replace(lone, u"&amp;"_s).replace(u'<', u"&lt;"_s);
 }
 
 QString Chapter_Xml(const Chapter_Lists& chapters, const QString& edition_number, const QString& duration)

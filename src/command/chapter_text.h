@@ -34,6 +34,10 @@ QString Digits_Of(const QString& text);
 /// The number of an edition for a random number from 0 up to but not including 1: 12 digits.
 QString Edition_Number(float random);
 
+/// A name as XML has to have it for mkvmerge to read it as it stands: "<" and a "&" that begins no reference are
+/// written out. What names a letter already ("&amp;", "&#38;") stays.
+QString Xml_Text(QString name);
+
 /// The XML as it is written. `duration` ends the last chapter; where it is empty, nothing does. Nothing is checked or
 /// escaped.
 QString Chapter_Xml(const Chapter_Lists& chapters, const QString& edition_number, const QString& duration);

@@ -107,6 +107,9 @@ int Convert_Chapters(Program& program, const QString& stem, bool convert, QStrin
     // Deliberate: a ".txt" file is read as plain lines whatever the Ogg reading gave; only the bit of that stays.
     if (from_txt)
         chapters = Read_Text_Chapters(lines, input);
+    if (program.Run.Careful)
+        for (QString& name : chapters.Names)
+            name = Xml_Text(name);
     const QString xml = Chapter_Xml(chapters, Edition_Number(Random_Number()), program.Media.Video_Duration);
     // A careful run changes nothing beside a source.
     if (program.Run.Careful) {
