@@ -1,5 +1,7 @@
 #include "headless/progress_bar.h"
 
+#include "headless/patient_output.h"
+
 #include <QStringList>
 #include <algorithm>
 
@@ -44,6 +46,7 @@ void Progress_Bar::Show_Line(const Bar_Facts& facts)
         return;
     line_of_ = facts.Index;
     const QByteArray bytes = Facts_Text(facts).toUtf8() + '\n';
+    Wait_For_Reader(stream_);
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
     std::fflush(stream_);
 }
@@ -57,6 +60,7 @@ void Progress_Bar::Wipe()
 {
     if (shown_.isEmpty())
         return;
+    Wait_For_Reader(stream_);
     std::fputs("\r\033[K", stream_);
     std::fflush(stream_);
     shown_.clear();

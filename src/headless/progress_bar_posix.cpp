@@ -1,5 +1,7 @@
 #include "headless/progress_bar.h"
 
+#include "headless/patient_output.h"
+
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -27,6 +29,7 @@ void Progress_Bar::Show(const Bar_Facts& facts)
     if (text == shown_)
         return;
     const QByteArray bytes = text.toUtf8();
+    Wait_For_Reader(stream_);
     std::fputs("\r\033[K", stream_);
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
     std::fflush(stream_);
