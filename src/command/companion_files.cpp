@@ -25,7 +25,7 @@ bool Can_Be_Added(const QString& name, clsStringBuilder& faults)
 {
     if (!Has_Stand_Ins(name))
         return true;
-    faults.AppendLine(u"*** Left out, as its name is not valid UTF-8: \""_s + As_One_Line(name) + u'"');
+    faults.AppendLine(Left_Out_Note + u'"' + As_One_Line(name) + u'"');
     return false;
 }
 

@@ -13,6 +13,9 @@ class clsStringBuilder;
 /// What external audio and external subtitles have in common: which files belong to a video, and how a record takes its
 /// settings from an option file or from the sticky values.
 
+/// What stands in the log ahead of the quoted name of a file that can't be added.
+inline const QString Left_Out_Note = QStringLiteral("*** Left out, as its name is not valid UTF-8: ");
+
 /// False for a name that isn't valid UTF-8, and then `faults` has a line: mkvmerge can't open such a file, and would
 /// fail the whole video for it.
 bool Can_Be_Added(const QString& name, clsStringBuilder& faults);

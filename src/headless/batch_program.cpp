@@ -41,6 +41,18 @@ static void Choose_Videos(Program& program, const Batch_Options& options)
                         u"off: add --careful."_s};
 }
 
+/// Where the window shows an unticked box nobody sees one here: what the settings ask for stays asked for, and each
+/// video fails for it.
+static void Miss_Attachments(Program& program)
+{
+    const QString& lost = program.Settings.Lost_Attachments;
+    if (lost.isEmpty())
+        return;
+    program.Options.Path_Attachments = lost;
+    program.Options.chk_AddAttachments.Enabled = true;
+    program.Options.chk_AddAttachments.Value = 1;
+}
+
 /// The program as the window would have it once it is ready, and then what the command line changes.
 static void Set_Up(Program& program, const Batch_Options& options, Batch_Report& report)
 {
@@ -53,6 +65,8 @@ static void Set_Up(Program& program, const Batch_Options& options, Batch_Report&
         program.Options.Path_Videos = options.Videos;
     if (!options.Target.isEmpty())
         program.Options.Path_Target = options.Target;
+    if (options.Careful.value_or(program.Settings.Extensions.Careful_Batch))
+        Miss_Attachments(program);
     Click_Boxes(program, options.Clicks);
     Choose_Videos(program, options);
 }

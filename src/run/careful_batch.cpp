@@ -1,181 +1,27 @@
 #include "run/careful_batch.h"
 
-#include "inspect/subfolders.h"
-#include "inspect/video_names.h"
 #include "logs/results_digest.h"
 #include "run/batch_captions.h"
 #include "run/batch_steps.h"
+#include "run/careful_choice.h"
 #include "run/careful_deletions.h"
 #include "run/careful_video.h"
 #include "run/careful_walk.h"
 #include "state/program.h"
-#include "support/paths.h"
 
 #include <QScopeGuard>
-#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 /// So many videos in a row for which a tool couldn't be started end the batch: the next would fare no better.
 static constexpr int Most_Unstarted = 3;
+static const QString Stopped_Reason =
+    QStringLiteral("the run stopped: a tool couldn't be started three times in a row");
 
-/// The folders that the run walks.
-static Subfolders Folders_To_Walk(const Program& program)
+static bool Has_Stopped(const Careful_Run& run)
 {
-    return program.Settings.Extensions.Include_Subfolders
-               ? Find_Subfolders(program.Options.Path_Videos, program.Options.Path_Target)
-               : Subfolders();
-}
-
-static void Tell(const Program& program, const QString& title, const QString& text)
-{
-    if (program.Listener)
-        program.Listener->Warned(title, text);
-}
-
-/// What a run that was killed left behind, in whatever target, is tidied up at the next start.
-static void Clean_Up(Program& program)
-{
-    if (program.Run.Dry_Run)
-        return;
-    for (const QString& line : Clean_Up_Working_Folders(program.Settings.App_Folder)) {
-        Tell(program, u"A working folder was left behind"_s, line);
-        program.Logs.Log_Faults.AppendLine(u"-- "_s + line);
-    }
-}
-
-QString Find_Careful_Videos(Program& program)
-{
-    int error = 0;
-    QStringList names;
-    for (const QString& sub : Folders_To_Walk(program).Paths) {
-        int unread = 0;
-        for (const Folder_Entry& entry : Video_Entries(program.Options.Path_Videos + sub, unread))
-            names += sub + entry.Name;
-        error = sub.isEmpty() ? unread : error;
-    }
-    program.Run.Video_File_List = names.isEmpty() ? QStringList{QString()} : names;
-    if (!names.isEmpty())
-        return {};
-    Clean_Up(program);
-    if (error != 0)
-        return u"The Video path can't be read: "_s + System_Words(error);
-    program.Form.lbl_VideoPathFault.Caption = u"NO VIDEO FILES FOUND!"_s;
-    return u"NO VIDEO FILES FOUND!"_s;
-}
-
-Careful_Walk::Careful_Walk(Careful_Run& run, const Run_Folders& folders)
-    : Run(run), Prog(run.Prog), Folders(folders), Before(folders.Target)
-{}
-
-static bool Fits_One(const Careful_Walk& walk, const QString& name, const QStringList& patterns)
-{
-    return std::any_of(patterns.begin(), patterns.end(), [&](const QString& pattern) {
-        return Match_File_Masks(name, pattern) || Match_File_Masks(walk.Folders.Sub + name, pattern);
-    });
-}
-
-/// What the journal has as done already.
-struct Done_Already
-{
-    int Files = 0;
-    QStringList With_Warnings; ///< names of those of them that were done with warnings
-};
-
-/// Fills Chosen with the videos that the person asked for, of those there are. Those that were done before count as
-/// done: also with warnings, as the output is whole, but then the source and its companions stay.
-static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Done_Already& before)
-{
-    const Program& program = walk.Prog;
-    const Run_Choice& choice = program.Run.Choice;
-    Known_Listings known;
-    for (const Folder_Entry& video : walk.Videos) {
-        if (choice.Names && !choice.Names->contains(walk.Folders.Sub + video.Name))
-            continue;
-        if ((!choice.Only.isEmpty() && !Fits_One(walk, video.Name, choice.Only)) ||
-            Fits_One(walk, video.Name, choice.Leave_Out))
-            continue;
-        const QString source = walk.Folders.Videos + video.Name;
-        if (choice.Only_Failed && results.value(source).Status != "failed"_L1)
-            continue;
-        const bool was_done = results.value(source).Status == "done"_L1; // the hash takes a while
-        if (choice.Resume && was_done && Is_Done_Before(results, source, Hash_Of_Video(program, source, known))) {
-            ++before.Files;
-            if (results.value(source).Warned)
-                before.With_Warnings += walk.Folders.Sub + video.Name;
-            else
-                walk.Done.insert(video.Name);
-            continue;
-        }
-        walk.Chosen.push_back(video);
-    }
-}
-
-/// Looks at a folder once, and keeps what it holds.
-static void Look_At_Folder(Careful_Walk& walk, const QStringList& walked)
-{
-    int error = 0;
-    walk.Videos = Video_Entries(walk.Folders.Videos, error);
-    // A folder that is walked itself is no entry, whatever its name ends in.
-    std::erase_if(walk.Videos, [&](const Folder_Entry& entry) {
-        return entry.Kind == Entry_Kind::Folder && walked.contains(walk.Folders.Sub + entry.Name + Path_Separator);
-    });
-    for (const Folder_Entry& video : walk.Videos)
-        walk.Bases += Get_Base_Name(video.Name).toLower();
-    // One below is told with those that couldn't be walked.
-    if (error != 0 && walk.Folders.Sub.isEmpty())
-        Tell(walk.Prog, u"The videos' folder couldn't be read to its end"_s,
-             u"What was listed of it is processed: "_s + System_Words(error));
-}
-
-/// The folder's own part of the state is in force: its paths and the names beside one another.
-static void Enter(const Careful_Walk& walk)
-{
-    Program& program = walk.Prog;
-    Use_Folders(walk.Folders, program.Options);
-    program.Run.Options_In_Force = Options_Text(program);
-    program.Run.Sensible_Bases =
-        program.Settings.Extensions.Sensible_Names_And_Sizes ? walk.Bases : program.Run.Sensible_Bases;
-}
-
-/// Looks at all folders, and tells what the start of a run has to tell.
-static void Begin(Careful_Run& run)
-{
-    Program& program = run.Prog;
-    Clean_Up(program);
-    const Run_Folders root = Folders_Of(program.Options);
-    const Subfolders folders = Folders_To_Walk(program);
-    for (const QString& unread : folders.Unread)
-        Tell(program, u"A folder couldn't be read to its end"_s, unread);
-    QStringList names;
-    for (const QString& sub : folders.Paths) {
-        const auto& walk = run.Walks.emplace_back(
-            std::make_unique<Careful_Walk>(run, sub.isEmpty() ? root : Folders_Below(root, sub)));
-        Look_At_Folder(*walk, folders.Paths);
-        for (const Folder_Entry& video : walk->Videos)
-            names += sub + video.Name;
-    }
-    if (const QString unnoted = Note_Start(program, names); !unnoted.isEmpty())
-        Tell(program, u"The journal"_s, unnoted);
-
-    const Run_Choice& choice = program.Run.Choice;
-    const bool asks = choice.Resume || choice.Only_Failed;
-    const Journal_Results results = asks ? Read_Journal(program.Settings.App_Folder) : Journal_Results();
-    Done_Already before;
-    program.Run.Videos_Chosen = 0;
-    QStringList sources;
-    for (const auto& walk : run.Walks) {
-        Enter(*walk);
-        Choose_Videos(*walk, results, before);
-        program.Run.Videos_Chosen += static_cast<int>(walk->Chosen.size());
-        for (const Folder_Entry& video : walk->Chosen)
-            sources += walk->Folders.Videos + video.Name;
-    }
-    Use_Folders(root, program.Options);
-    if (before.Files > 0 && program.Listener)
-        program.Listener->Done_Before(before.Files, before.With_Warnings);
-    if (program.Listener)
-        program.Listener->Videos_Chosen(sources);
+    return run.Unstarted_In_A_Row >= Most_Unstarted;
 }
 
 static void Clear_Marks(Run_State& run)
@@ -187,19 +33,21 @@ static void Clear_Marks(Run_State& run)
     run.Attachment_Folder_Deleted = false;
 }
 
-/// A video that gets its result without its turn.
-static void Tell_Not_Run(const Careful_Walk& walk, const Folder_Entry& video, const QString& reason)
+/// The walk's chosen videos from that place on get their results without their turns.
+static void Tell_Not_Run(const Careful_Walk& walk, std::size_t place, const QString& reason)
 {
-    const Program& program = walk.Prog;
-    const File_Outcome outcome{.Source = walk.Folders.Videos + video.Name,
-                               .Sub_Path = walk.Folders.Sub,
-                               .Output = {},
-                               .Status = File_Outcome::Kind::Not_Run,
-                               .Exit = -1,
-                               .Reason = reason};
-    Note_Result(program, outcome, {}, {}, false);
-    if (program.Listener)
-        program.Listener->File_Finished(outcome);
+    std::vector<File_Outcome> outcomes;
+    for (; place < walk.Chosen.size(); ++place)
+        outcomes.push_back({.Source = walk.Folders.Videos + walk.Chosen[place].Name,
+                            .Sub_Path = walk.Folders.Sub,
+                            .Output = {},
+                            .Status = File_Outcome::Kind::Not_Run,
+                            .Exit = -1,
+                            .Reason = reason});
+    Note_Not_Run(walk.Prog, outcomes);
+    if (walk.Prog.Listener)
+        for (const File_Outcome& outcome : outcomes)
+            walk.Prog.Listener->File_Finished(outcome);
 }
 
 static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
@@ -228,15 +76,12 @@ static void Walk_Folder(Careful_Walk& walk)
 {
     Run_State& run = walk.Prog.Run;
     Enter(walk);
-    for (const Folder_Entry& video : walk.Chosen) {
+    std::size_t place = 0;
+    for (; place < walk.Chosen.size() && !run.Halt_Requested && !Has_Stopped(walk.Run); ++place) {
+        Take_Turn(walk, walk.Chosen[place]);
         run.Halt_Requested = run.Halt_Requested || run.Halt_After_Video;
-        if (run.Halt_Requested)
-            Tell_Not_Run(walk, video, Halted_Reason);
-        else if (walk.Run.Unstarted_In_A_Row >= Most_Unstarted)
-            Tell_Not_Run(walk, video, u"the run stopped: a tool couldn't be started three times in a row"_s);
-        else
-            Take_Turn(walk, video);
     }
+    Tell_Not_Run(walk, place, run.Halt_Requested ? Halted_Reason : Stopped_Reason);
     walk.Working.Remove();
 }
 
@@ -248,7 +93,7 @@ bool Run_Carefully(Program& program)
     Careful_Run careful{program};
     const auto restored =
         qScopeGuard([&program, root = Folders_Of(program.Options)] { Use_Folders(root, program.Options); });
-    Begin(careful);
+    Choose_Work(careful);
     run.Videos_Done = 0;
     Show_Files_Found(program.Form, u' ' + Videos_Box_Headline, run.Videos_Chosen);
     Show_Nothing_Done_Yet(program.Form, u' ' + Target_Box_Headline);
@@ -259,6 +104,8 @@ bool Run_Carefully(Program& program)
         Walk_Folder(*walk);
     if (run.Halt_Requested)
         program.Logs.Log_Faults.AppendLine(u"*** Process halted before finishing."_s);
+    else if (Has_Stopped(careful))
+        program.Logs.Log_Faults.AppendLine(u"*** "_s + Stopped_Reason);
     Digest_Results(program);
-    return !run.Halt_Requested && careful.Unstarted_In_A_Row < Most_Unstarted;
+    return !run.Halt_Requested && !Has_Stopped(careful);
 }

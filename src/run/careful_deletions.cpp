@@ -3,6 +3,7 @@
 #include "run/careful_walk.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 #include "support/trash.h"
 
 #include <QDir>
@@ -93,6 +94,28 @@ static bool Is_Wanted_In(const Careful_Walk& walk, const QString& path)
     });
 }
 
+/// A companion that was to go and stays.
+static void Tell_Kept(Program& program, const QString& path, const QString& why)
+{
+    const QString text = u"\"%1\" stays: "_s.arg(As_One_Line(File_Name_Of(path))) + why;
+    program.Logs.Log_Faults.AppendLine(u"-- "_s + text);
+    if (program.Listener)
+        program.Listener->Warned(u"A companion stays"_s, text);
+}
+
+/// Moves it to the trash if it is still what the command read; where it is gone there is nothing to do.
+static bool Trash_Unchanged(Program& program, const Waiting_Companion& companion)
+{
+    clsStringBuilder unused;
+    const auto there = Identity_Of(companion.Path);
+    const bool is_same = there && there->Is_Unchanged(companion.Identity);
+    if (is_same && Delete_To_Recycle(companion.Path, unused))
+        return true;
+    if (there)
+        Tell_Kept(program, companion.Path, is_same ? u"the trash refused it"_s : u"it was changed meanwhile"_s);
+    return false;
+}
+
 void Trash_Companions(Careful_Run& run)
 {
     Program& program = run.Prog;
@@ -100,9 +123,7 @@ void Trash_Companions(Careful_Run& run)
         if (std::any_of(run.Walks.begin(), run.Walks.end(),
                         [&companion](const auto& walk) { return Is_Wanted_In(*walk, companion.Path); }))
             return false;
-        const auto there = Identity_Of(companion.Path);
-        if (!there || !there->Is_Unchanged(companion.Identity) ||
-            !Delete_To_Recycle(companion.Path, program.Logs.Log_Faults))
+        if (!Trash_Unchanged(program, companion))
             return true;
         const QString folder = companion.Path.left(companion.Path.lastIndexOf(Path_Separator));
         const bool titled = folder.endsWith("_Attachments"_L1);

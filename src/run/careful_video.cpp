@@ -19,7 +19,7 @@ static void Take_All_Steps(Video_Work& work, const Folder_Entry& entry)
         return;
     work.Hash = Hash_Of_Video(work.Walk.Prog, work.Outcome.Source);
     QStringList old;
-    if (!Choose_Output(work) || !Inspect(work) || !Assemble(work) || !Look_Ahead(work))
+    if (!Choose_Output(work) || !Reach_Companions(work) || !Inspect(work) || !Assemble(work) || !Look_Ahead(work))
         return;
     Remember_Companions(work.Walk);
     if (Mux(work) && Check(work) && Name_Outputs(work, old))

@@ -49,3 +49,6 @@ struct Careful_Walk
     QSet<QString> Done;               ///< names of the videos that are done, also before this run
     std::vector<Folder_Entry> Chosen; ///< those of Videos that this run takes in work
 };
+
+/// From here on the folder's own part of the state is in force: its paths, and the names beside one another.
+void Enter(const Careful_Walk& walk);

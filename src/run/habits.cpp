@@ -1,10 +1,12 @@
 #include "run/habits.h"
 
+#include "command/command_frame.h"
 #include "command/companion_files.h"
 #include "command/source_names.h"
 #include "command/video_block.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/text.h"
 
 #include <algorithm>
 
@@ -61,8 +63,15 @@ QStringList Companions_Left_Out(const Program& program)
         if (track.InUse)
             left_out += u"\"%1\" was not added, because its .sub file is missing"_s.arg(track.FileName);
 
+    // The log has just been told of those whose names no tool can be given.
+    for (const QString& line : program.Logs.Log_Faults.ToString().split(Line_Break))
+        if (line.startsWith(Left_Out_Note))
+            left_out += line.sliced(Left_Out_Note.size()) + u" was not added, because its name isn't valid UTF-8"_s;
+
     const JobOptions& options = program.Options;
-    const QString stem = options.Path_Videos + Video_Base_Name_Of(program.Run.Current_Video_Path) + u"_Chapters."_s;
+    const bool elsewhere = options.chk_ChaptersPath.Value == 1 && !options.Path_Chapters.isEmpty();
+    const QString stem = (elsewhere ? options.Path_Chapters : options.Path_Videos) +
+                         Output_Base_Of(program, program.Run.Current_Video_Path) + u"_Chapters."_s;
     if (options.chk_ReplaceChapters.Value == 1 && options.chk_ConvertTXT.Value != 1)
         for (const QString& extension : {u"ogg"_s, u"ogm"_s, u"txt"_s, u"xml"_s})
             if (File_Exists(stem + extension))

@@ -84,13 +84,17 @@ Journal_Results Read_Journal(const QString& app_folder)
     return results;
 }
 
-static QString Append_Line(const Program& program, QJsonObject line, bool sync)
+static QByteArray Text_Of_Line(const Program& program, QJsonObject line)
 {
-    if (program.Run.Dry_Run)
-        return {};
     line.insert(u"when"_s, program.Now().toString(Qt::ISODateWithMs));
-    const QByteArray text = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
-    const int error = Append_At_Once(Journal_Path(program.Settings.App_Folder), text, sync);
+    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+static QString Append_Lines(const Program& program, const QByteArray& lines, bool sync)
+{
+    if (program.Run.Dry_Run || lines.isEmpty())
+        return {};
+    const int error = Append_At_Once(Journal_Path(program.Settings.App_Folder), lines, sync);
     return error == 0 ? QString() : u"The journal couldn't be written: "_s + System_Words(error);
 }
 
@@ -124,15 +128,14 @@ QString Options_Text(const Program& program)
 
 QString Note_Start(const Program& program, const QStringList& names)
 {
-    return Append_Line(program,
-                       {{u"event"_s, u"start"_s},
-                        {u"videos"_s, program.Options.Path_Videos},
-                        {u"target"_s, program.Options.Path_Target},
-                        {u"careful"_s, program.Run.Careful},
-                        {u"split"_s, program.Options.chk_SplitVideos.Value == 1},
-                        {u"options"_s, QJsonArray::fromStringList(Options_In_Force(program))},
-                        {u"names"_s, QJsonArray::fromStringList(names)}},
-                       false);
+    const QJsonObject line{{u"event"_s, u"start"_s},
+                           {u"videos"_s, program.Options.Path_Videos},
+                           {u"target"_s, program.Options.Path_Target},
+                           {u"careful"_s, program.Run.Careful},
+                           {u"split"_s, program.Options.chk_SplitVideos.Value == 1},
+                           {u"options"_s, QJsonArray::fromStringList(Options_In_Force(program))},
+                           {u"names"_s, QJsonArray::fromStringList(names)}};
+    return Append_Lines(program, Text_Of_Line(program, line), false);
 }
 
 static std::int64_t Bytes_Of_All(const QStringList& files)
@@ -144,8 +147,8 @@ static std::int64_t Bytes_Of_All(const QStringList& files)
     return bytes;
 }
 
-QString Note_Result(const Program& program, const File_Outcome& outcome, const QStringList& outputs,
-                    const QString& hash, bool sync)
+static QByteArray Result_Line(const Program& program, const File_Outcome& outcome, const QStringList& outputs,
+                              const QString& hash)
 {
     QJsonObject line{{u"event"_s, u"result"_s},
                      {u"source"_s, outcome.Source},
@@ -161,7 +164,21 @@ QString Note_Result(const Program& program, const File_Outcome& outcome, const Q
         line.insert(u"bytes"_s, qint64{source->Size});
         line.insert(u"changed"_s, QString::number(source->Written_At));
     }
-    return Append_Line(program, line, sync);
+    return Text_Of_Line(program, line);
+}
+
+QString Note_Result(const Program& program, const File_Outcome& outcome, const QStringList& outputs,
+                    const QString& hash, bool sync)
+{
+    return Append_Lines(program, Result_Line(program, outcome, outputs, hash), sync);
+}
+
+void Note_Not_Run(const Program& program, const std::vector<File_Outcome>& outcomes)
+{
+    QByteArray lines;
+    for (const File_Outcome& outcome : outcomes)
+        lines += Result_Line(program, outcome, {}, {});
+    Append_Lines(program, lines, false);
 }
 
 void Note_Result(const Program& program, const File_Outcome& outcome, const QString& hash)

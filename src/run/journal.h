@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <optional>
 #include <utility>
+#include <vector>
 
 struct Program;
 
@@ -42,6 +43,9 @@ QString Note_Result(const Program& program, const File_Outcome& outcome, const Q
 
 /// The same for a video of a classic run, whose journal nobody waits for.
 void Note_Result(const Program& program, const File_Outcome& outcome, const QString& hash);
+
+/// Notes videos that never had their turn, all at once: there may be thousands, and whoever halts a run waits for them.
+void Note_Not_Run(const Program& program, const std::vector<File_Outcome>& outcomes);
 
 /// The options that decide what becomes of a video, one text: another text, another outcome. A run asks once, as the
 /// form is locked meanwhile (Run.Options_In_Force).

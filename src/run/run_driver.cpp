@@ -7,6 +7,7 @@
 #include "rules/video_list.h"
 #include "run/batch_steps.h"
 #include "run/careful_batch.h"
+#include "run/careful_choice.h"
 #include "run/careful_hint.h"
 #include "run/earlier_results.h"
 #include "run/halt.h"

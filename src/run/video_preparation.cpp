@@ -66,6 +66,36 @@ bool Choose_Output(Video_Work& work)
     return true;
 }
 
+/// Why the files of one kind can't be looked for in the folder that was chosen for them; empty if they can.
+static QString Why_Not_Reached(const QString& kind, const QString& folder)
+{
+    if (folder.isEmpty())
+        return u"the folder of the %1 isn't there, or none was chosen"_s.arg(kind);
+    const QString why = Why_Unreadable(folder);
+    return why.isEmpty() ? why : u"the folder of the %1, \"%2\", can't be read: %3"_s.arg(kind, folder, why);
+}
+
+bool Reach_Companions(Video_Work& work)
+{
+    if (work.Split)
+        return true;
+    const Program& program = work.Walk.Prog;
+    const JobOptions& options = program.Options;
+    const auto on = [](const Check_Box& wanted, const Check_Box& elsewhere) {
+        return wanted.Value == 1 && elsewhere.Value == 1;
+    };
+    QString why;
+    if (on(options.chk_AddAudio, options.chk_AudioPath))
+        why = Why_Not_Reached(u"audio files"_s, options.Path_Audios);
+    if (why.isEmpty() && on(options.chk_AddSubs, options.chk_SubsPath))
+        why = Why_Not_Reached(u"subtitle files"_s, options.Path_Subtitles);
+    if (why.isEmpty() && on(options.chk_ReplaceChapters, options.chk_ChaptersPath) && options.chk_ConvertTXT.Value == 1)
+        why = Why_Not_Reached(u"chapter files"_s, options.Path_Chapters);
+    if (why.isEmpty() && program.Run.Add_Attachments_On)
+        why = Why_Not_Reached(u"attachments"_s, options.Path_Attachments);
+    return why.isEmpty() ? true : Fail(work, why);
+}
+
 bool Inspect(Video_Work& work)
 {
     Program& program = work.Walk.Prog;

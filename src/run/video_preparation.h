@@ -10,6 +10,9 @@ bool Open_Source(Video_Work& work, const Folder_Entry& entry);
 /// Chooses the output's name. Two videos of one run never share one.
 bool Choose_Output(Video_Work& work);
 
+/// Fails where a folder that companions are to come from can't be read: they would be left out in silence.
+bool Reach_Companions(Video_Work& work);
+
 /// Asks ffprobe, and mkvmerge where it numbers tracks in its own way.
 bool Inspect(Video_Work& work);
 

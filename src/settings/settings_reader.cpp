@@ -271,6 +271,8 @@ static void Take_Attachments(const Settings_Reader& reader)
     if (options.Path_Attachments.isEmpty()) {
         Untick_And_Disable(options.chk_AddAttachments);
     } else if (!Folder_Exists(options.Path_Attachments)) {
+        reader.Prog.Settings.Lost_Attachments =
+            options.chk_AddAttachments.Value == 1 ? options.Path_Attachments : QString();
         options.Path_Attachments.clear();
         Untick_And_Disable(options.chk_AddAttachments);
         Untick_And_Disable(options.chk_UseSubfolders);

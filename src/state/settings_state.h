@@ -65,6 +65,7 @@ struct Settings_State
     bool Settings_Loaded = false;
     bool Careful_Key_Missing = false; ///< the settings file is of before there were careful batches
     bool First_Run = false;           ///< no settings file was found; until the first activation ends
+    QString Lost_Attachments;         ///< a folder that attachments were to be added from, and that was gone when read
     bool Run_Is_Default_Flag = false;
     QString Version_Banner; ///< "Vantorra ver 2.5.5"
     QString OS_Version_Text;

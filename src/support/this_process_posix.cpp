@@ -24,8 +24,9 @@ static std::int64_t Start_Of(std::int64_t number)
 
 QString Host_Name()
 {
+    static const QRegularExpression unusual(u"[^A-Za-z0-9._-]"_s);
     QString host = QSysInfo::machineHostName();
-    return host.isEmpty() ? u"localhost"_s : host.replace(QRegularExpression(u"[^A-Za-z0-9._-]"_s), u"_"_s);
+    return host.isEmpty() ? u"localhost"_s : host.replace(unusual, u"_"_s);
 }
 
 Process_Identity This_Process()

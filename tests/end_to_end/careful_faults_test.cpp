@@ -24,7 +24,8 @@ struct Fault
     const char* After = "";   ///< after mkvmerge; the last command's status is its own
     const char* Calls = "";   ///< calls of the system that fail, or kill the program (the shim's FAULT)
     const char* Results = ""; ///< "a.mkv done, b.mkv failed"; empty: the program is killed, and a second run mends all
-    const char* Reason = "";  ///< stands in the first result's reason or warnings
+    const char* Reason = "";  ///< stands in the first result's reason or warnings, in the log, and in the journal
+    const char* Told = "";    ///< stands on standard error
     const char* Target = "";  ///< names in the target folder then; empty: those of what is done
     const char* More = "";    ///< arguments
     const char* Videos = "";  ///< names in the videos' folder then; empty: not looked at
@@ -40,7 +41,7 @@ const char* const With_Companions =
 const char* const With_Options = "--tick AddSubs --tick AddAudio --tick UseSubOpts";
 
 const Fault Faults[] = {
-    {.Name = "nothing", .Results = Both_Done},
+    {.Name = "nothing", .Results = Both_Done, .Videos = "."},
     // The program is killed.
     {.Name = "killed at the probe", .Probe = Kill_Us},
     {.Name = "killed before mkvmerge writes", .Merge = Kill_Us},
@@ -66,16 +67,10 @@ const Fault Faults[] = {
      .Reason = "tape torn"},
     {.Name = "ffprobe talks nonsense", .Probe = "echo '{'; exit", .Results = First_Failed},
     {.Name = "mkvmerge is killed", .Merge = "kill -9 $$", .Results = First_Failed, .Reason = "SIGKILL"},
-    {.Name = "mkvmerge fails",
-     .Merge = "echo 'Error: no paper left'; exit 2",
-     .Results = First_Failed,
-     .Reason = "no paper left"},
+    {.Name = "mkvmerge fails", .Merge = "echo 'Error: no ink'; exit 2", .Results = First_Failed, .Reason = "ink"},
     {.Name = "mkvmerge warns", .After = "echo 'Warning: thin ice'; exit 1", .Results = Both_Done, .Reason = "thin ice"},
     {.Name = "mkvmerge writes nothing", .Merge = "exit 0", .Results = First_Failed},
-    {.Name = "mkvmerge's output is cut",
-     .After = "truncate -s 2000 target/.vantorra-*/output.mkv",
-     .Results = First_Failed,
-     .Reason = "bytes"},
+    {.Name = "a cut output", .After = "truncate -s 2000 target/.v*/o*", .Results = First_Failed, .Reason = "bytes"},
     {.Name = "mkvmerge takes no track", .Merge = "\"$REAL\" \"$@\" >/dev/null; exit 0", .Results = First_Failed},
     {.Name = "mkvmerge leaves the sound out",
      .Merge = "\"$REAL\" \"$@\" --no-audio | grep -v 'track 1'; exit 0",
@@ -90,26 +85,19 @@ const Fault Faults[] = {
     // The disk.
     {.Name = "no room for the note", .Calls = "fsync:0:28", .Results = Both_Failed, .Reason = "No space left"},
     {.Name = "no room for the folder", .Calls = "mkdir:0:28", .Results = Both_Failed, .Reason = "No space left"},
-    {.Name = "the output doesn't reach the disk",
-     .Calls = "fsync:4:5",
-     .Results = First_Failed,
-     .Reason = "Input/output error"},
+    {.Name = "the output isn't synced", .Calls = "fsync:4:5", .Results = First_Failed, .Reason = "Input/output"},
     {.Name = "no room for the journal", .Calls = "write:0:28", .Results = Both_Done, .Reason = "journal"},
     {.Name = "no room for the outputs", .Before = "echo 1000 > room", .Results = Both_Failed, .Reason = "are free"},
     {.Name = "no call that never replaces", .Calls = "renameat2:0:22", .Results = Both_Done},
-    {.Name = "no such call and no links",
-     .Calls = "renameat2:0:22,link:0:1",
-     .Results = Both_Done,
-     .Reason = "can't refuse to overwrite"},
+    {.Name = "nor any links", .Calls = "renameat2:0:22,link:0:1", .Results = Both_Done, .Reason = "can't refuse"},
     {.Name = "the name is refused", .Calls = "renameat2:1:36", .Results = First_Failed, .Reason = "File name too long"},
     {.Name = "the trash refuses",
-     .Before = "mkdir -p trash; rm -rf trash/Trash; echo > trash/Trash",
+     .Before = "mkdir -p trash; rm -rf trash/Trash; echo > trash/Trash; cp videos/b.mkv target/a.mkv",
      .Results = Both_Done,
-     .Reason = "trash refused"},
-    {.Name = "a source that can't be read",
-     .Calls = "open:0:13",
-     .Results = First_Failed,
-     .Reason = "Permission denied"},
+     .Reason = "trash refused the old output, which stays as \"a (old 1).mkv\"",
+     .Target = "a (old 1).mkv|a.mkv|b.mkv",
+     .Videos = "a.mkv|b.mkv"},
+    {.Name = "an unreadable source", .Calls = "open:0:13", .Results = First_Failed, .Reason = "Permission denied"},
     {.Name = "a source that fails half-way",
      .Merge = "export TORN=/videos/a.mkv",
      .Calls = "none:0:0",
@@ -118,10 +106,7 @@ const Fault Faults[] = {
      .Videos = "a.mkv"},
     // Others are at work.
     {.Name = "the source grows", .After = "echo more >> videos/a.mkv", .Results = Both_Done, .Reason = "changed"},
-    {.Name = "the source is replaced",
-     .After = "cp videos/a.mkv n; mv n videos/a.mkv",
-     .Results = Both_Done,
-     .Reason = "changed"},
+    {.Name = "the source replaced", .After = "sed -i '' videos/a.mkv", .Results = Both_Done, .Reason = "changed"},
     {.Name = "the source is taken away", .After = "mv videos/a.mkv kept", .Results = Both_Done, .Reason = "taken away"},
     {.Name = "the output appears meanwhile",
      .After = "cp videos/b.mkv target/a.mkv",
@@ -149,9 +134,9 @@ const Fault Faults[] = {
      .Target = "a.mkv b.mkv",
      .More = "--set \"Extensions/If The Output Exists=Skip\""},
     {.Name = "an old output beside the new",
-     .Before = "cp videos/b.mkv target/a.mkv",
-     .Results = Both_Done,
-     .Target = "a (1).mkv|a.mkv|b.mkv",
+     .Before = "cp videos/b.mkv target/a.mkv; cp videos/b.mkv videos/a.mp4",
+     .Results = "a.mkv done, a.mp4 done, b.mkv done",
+     .Target = "a (1).mkv|a (2).mkv|a.mkv|b.mkv",
      .More = "--set \"Extensions/If The Output Exists=Number\""},
     {.Name = "an old output that the new can't follow",
      .Before = "cp videos/b.mkv target/a.mkv",
@@ -159,9 +144,7 @@ const Fault Faults[] = {
      .Results = First_Failed,
      .Reason = "Input/output error",
      .Target = "a.mkv b.mkv"},
-    {.Name = "a link to another file",
-     .Before = "cp videos/b.mkv precious; ln -s ../precious target/a.mkv",
-     .Results = Both_Done},
+    {.Name = "a link elsewhere", .Before = "cp videos/b.mkv c; ln -s ../c target/a.mkv", .Results = Both_Done},
     {.Name = "a link to the source", .Before = "ln -s ../videos/a.mkv target/a.mkv", .Results = Both_Done},
     {.Name = "a second name of the source",
      .Before = "ln videos/a.mkv target/a.mkv",
@@ -177,11 +160,12 @@ const Fault Faults[] = {
      .Before = "cp videos/b.mkv videos/a.mp4",
      .Results = "a.mkv done, a.mp4 failed, b.mkv done"},
     {.Name = "entries that are no files",
-     .Before = "mkdir videos/c.mkv; mkfifo videos/d.mkv; ln -s nowhere videos/e.mkv; echo > videos/f.mkv",
-     .Results = "a.mkv done, b.mkv done, c.mkv skipped, d.mkv skipped, e.mkv failed, f.mkv failed"},
-    {.Name = "a torn line in the journal",
-     .Before = "printf '{\"event\":\"resu' > \"app/Vantorra_Journal-$HOST.jsonl\"",
-     .Results = Both_Done},
+     .Before = "mkdir videos/c.mkv; mkfifo videos/d.mkv; ln -s nowhere videos/e.mkv; echo > videos/f.mkv; "
+               "cp videos/b.mkv videos/g.mp4",
+     .Probe = "mv videos/g.mp4 gone",
+     .Results = "a.mkv done, b.mkv done, c.mkv skipped, d.mkv skipped, e.mkv failed, f.mkv failed, g.mp4 failed"},
+    {.Name = "a listing breaks off", .Calls = "readdir:0:5", .Results = Both_Done, .Told = "to its end"},
+    {.Name = "torn journal", .Before = "printf '{\"ev' > app/Vantorra_Journal-$HOST.jsonl", .Results = Both_Done},
     {.Name = "names that are ours",
      .Before = "cp videos/b.mkv videos/.vantorra-c.mkv; cp videos/b.mkv target/.vantorra-d.mkv",
      .Results = Both_Done,
@@ -194,10 +178,7 @@ const Fault Faults[] = {
     {.Name = "names that mean something to mkvmerge",
      .Before = "mv videos/a.mkv 'videos/@a%d --x.mkv'",
      .Results = "@a%d --x.mkv done, b.mkv done"},
-    {.Name = "a halt",
-     .Merge = "kill -INT $PPID; sleep 5",
-     .Results = "a.mkv not run, b.mkv not run",
-     .Reason = "halted"},
+    {.Name = "halt", .Merge = "kill -2 $PPID;sleep 5", .Results = "a.mkv not run, b.mkv not run", .Reason = "halt"},
     // Companions.
     {.Name = "a companion goes with its video",
      .Before = "mv c.srt videos/a_Track1.srt",
@@ -213,6 +194,7 @@ const Fault Faults[] = {
      .Before = "mv c.srt videos/a_Track1.srt",
      .After = "echo >> videos/a_Track1.srt",
      .Results = Both_Done,
+     .Told = "\"a_Track1.srt\" stays: it was changed meanwhile",
      .More = With_Companions,
      .Videos = "a_Track1.srt"},
     {.Name = "a companion that no tool can read",
@@ -233,7 +215,34 @@ const Fault Faults[] = {
      .Reason = "a_Track1.srt.opt",
      .More = With_Options,
      .Videos = "a.mkv|a_Track1.srt|a_Track1.srt.opt"},
+    {.Name = "a companion whose name is no text",
+     .Before = "mv c.srt \"videos/a$(printf '\\377').srt\"",
+     .After = "rm videos/*.srt",
+     .Results = Both_Done,
+     .Reason = "isn't valid UTF-8",
+     .More = With_Companions,
+     .Videos = "a.mkv"},
+    {.Name = "a folder of companions that is gone",
+     .Results = Both_Failed,
+     .Reason = "the folder of the subtitle files isn't there",
+     .More = "--tick AddSubs --set \"Subtitles/Alternate Subtitle File Path=On\""},
+    {.Name = "a folder of attachments that is gone",
+     .Results = Both_Failed,
+     .Reason = "the folder of the attachments, \"/nowhere/\", can't be read",
+     .More = "--set \"Paths/Attachments Path=/nowhere/\" --set \"Other Options/Add Attachments=On\""},
+    {.Name = "chapter names that are no XML",
+     .Before = "echo '00:00:00.000 A<B & C &amp; D' > videos/a_Chapters.txt",
+     .Results = Both_Done,
+     .More = "--tick ReplaceChapters --tick ConvertTXT",
+     .Videos = "a_Chapters.txt"},
     // Splitting: nothing is trashed but old pieces.
+    {.Name = "a piece that is missing",
+     .Before = "ffmpeg -v error -f lavfi -i testsrc=d=603:s=64x48:r=1 -g 5 -y videos/a.mkv",
+     .After = "rm target/.vantorra-*/output-002.mkv",
+     .Results = Both_Done,
+     .Reason = "the pieces are",
+     .Target = "a-001.mkv b-001.mkv",
+     .More = "--tick SplitVideos --set \"Other Options/Split multiple video files (minutes)=10\""},
     {.Name = "old pieces",
      .Before = "cp videos/b.mkv target/a-001.mkv; cp videos/b.mkv target/a-007.mkv",
      .Results = Both_Done,
@@ -307,8 +316,9 @@ struct Fault_Run : Batch_Process
 
     Batch_Result Run_It(const char* more = "")
     {
-        return Run(u"--json --careful --tick DeleteVideoAP --set \"Paths/System mkvmerge.exe Path=%1\" %2"_s.arg(
-            Path(u"tools/mkvmerge"_s), QString::fromLatin1(more)));
+        return Run(u"--json --careful --tick DeleteVideoAP --set \"Menu/Log Verbosity=1\" "
+                   "--set \"Paths/System mkvmerge.exe Path=%1\" %2"_s.arg(Path(u"tools/mkvmerge"_s),
+                                                                          QString::fromLatin1(more)));
     }
 
     /// No final name that isn't whole, and no source gone without an output that is.
@@ -332,12 +342,18 @@ struct Fault_Run : Batch_Process
             EXPECT_TRUE(Is_Somewhere(old)) << "an old output is lost";
     }
 
-    /// Each video that was there has a result in the journal, of the killed run or of the one behind it.
-    void Expect_Each_Noted() const
+    QByteArray Journal() const
     {
         QByteArray journal;
         for (const QString& name : Names_In(u"app"_s).filter(u"Vantorra_Journal"_s))
             journal += Read(u"app/"_s + name);
+        return journal;
+    }
+
+    /// Each video that was there has a result in the journal, of the killed run or of the one behind it.
+    void Expect_Each_Noted() const
+    {
+        const QByteArray journal = Journal();
         for (const QString& source : Sources.keys())
             EXPECT_TRUE(QRegularExpression(u"\"source\":\"[^\"]*/%1\",\"status\":\"done\""_s.arg(source))
                             .match(QString::fromUtf8(journal))
@@ -364,12 +380,41 @@ QString Results_Of(const Batch_Result& result)
     return words.join(u", ");
 }
 
+/// 2 if a video failed or its source, which was to go, stays for a warning, which standard error tells.
+int Expected_Exit(const Batch_Result& result)
+{
+    int exit = 0;
+    for (const QJsonObject& event : result.Events(u"result"_s)) {
+        const QStringList warnings = event[u"warnings"_s].toVariant().toStringList();
+        const QString status = event[u"status"_s].toString();
+        if (status == u"not run"_s && event[u"reason"_s] == u"the run was halted"_s)
+            return 130;
+        if (status == u"failed"_s || (!warnings.isEmpty() && !event.contains(u"pieces"_s)))
+            exit = 2;
+        for (const QString& told : warnings + QStringList{event[u"reason"_s].toString()})
+            EXPECT_TRUE(result.Err.contains(told) || status == u"not run"_s) << told.toStdString();
+    }
+    return exit;
+}
+
 void Expect_Row(const Fault& fault, const Fault_Run& run, const Batch_Result& result)
 {
     EXPECT_EQ(Results_Of(result), QString::fromLatin1(fault.Results)) << result.Err.toStdString();
     const QJsonObject first = result.Events(u"result"_s).value(0);
     const QString said = first[u"reason"_s].toString() + first[u"warnings"_s].toVariant().toStringList().join(u' ');
     EXPECT_TRUE(said.contains(QString::fromLatin1(fault.Reason))) << said.toStdString();
+    // A full disk leaves no log or no journal.
+    const QByteArray in_json = QByteArray(fault.Reason).replace('"', "\\\"");
+    EXPECT_TRUE(run.Journal().contains(in_json) || *fault.Reason == 'j') << run.Journal().constData();
+    EXPECT_TRUE(result.Err.contains(QString::fromLatin1(fault.Told))) << result.Err.toStdString();
+    if (result.Err.contains(u"Writing the process log"_s)) {
+        EXPECT_EQ(result.Exit, 70);
+    } else {
+        const QByteArray log = run.Read(u"app/Vantorra_Process.log"_s);
+        EXPECT_TRUE(log.contains(fault.Reason)) << log.constData();
+        EXPECT_EQ(log.contains("*** the run stopped"), QByteArrayView(fault.Results).contains("d.mkv not run"));
+        EXPECT_EQ(result.Exit, Expected_Exit(result)) << result.Err.toStdString();
+    }
     const QString left = QString::fromLatin1(fault.Videos);
     if (!left.isEmpty()) {
         EXPECT_EQ(run.Names_In(u"videos"_s).join(u'|'), left == "."_L1 ? QString() : left);

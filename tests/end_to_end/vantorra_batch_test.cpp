@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QJsonArray>
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 /// The command line that a --dry-run gives for the only video of the folder.
@@ -90,7 +92,7 @@ TEST(Vantorra_Batch, ACheckTellsEveryProblemAndWritesNothing)
         Place(batch, Short_Video(), u"videos/"_s + name + u".mkv"_s);
     batch.Write(u"videos/bad.srt"_s, "1\n00:00:00,000 --> 00:00:00,200\nHello\n");
     batch.Write(u"videos/bad.srt.opt"_s, "Language=\n");
-    batch.Write(u"videos/bad_Chapters.txt"_s, "00:00:00.000 A<B\n");
+    batch.Write(u"videos/bad_Chapters.txt"_s, "nought A<B\n");
     batch.Write(u"videos/text_Chapters.txt"_s, "nought begin\n");
     batch.Write(u"videos/xml_Chapters.xml"_s, "<Chapters><Edition");
     batch.Write(u"target/old.mkv"_s, "old");
@@ -350,6 +352,8 @@ TEST(Vantorra_Batch, EverySignalEndsTheChildAtOnceWhateverTheParentDidToSignals)
         const QJsonObject finished = result.Events(u"finished"_s).constLast();
         EXPECT_EQ(finished[u"status"_s].toString(), u"interrupted"_s);
         EXPECT_EQ(finished[u"done"_s].toInt(), 1);
+        EXPECT_EQ(result.Values(u"result"_s, u"reason"_s).constLast(), u"the run was halted"_s);
+        EXPECT_EQ(result.Values(u"result"_s, u"status"_s), (QStringList{u"done"_s, u"not run"_s}));
         EXPECT_TRUE(batch.Read(u"app/Vantorra_Process.log"_s).contains("*** Process halted before finishing!"));
     }
 }
@@ -371,6 +375,31 @@ TEST(Vantorra_Batch, IdentifyAndSettingsPrintNoHalfTextWhenTheyAreHalted)
         EXPECT_EQ(result.Out, QString()) << command[0].toStdString();
         EXPECT_EQ(result.Err, QString()) << command[0].toStdString();
     }
+}
+
+TEST(Vantorra_Batch, AStopIsObeyedThoughNobodyReadsAndManyVideosAreLeft)
+{
+    Batch_Process batch;
+    for (int i = 0; i < 10'000; ++i)
+        batch.Write(u"videos/%1.mkv"_s.arg(i));
+    const QString pipe = batch.Path(u"pipe"_s);
+    ::mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR);
+    const int unread = ::open(QFile::encodeName(pipe).constData(), O_RDWR | O_NONBLOCK);
+    while (::write(unread, "x", 1) == 1) // it is full before the first word
+        ;
+    batch.Process.setStandardOutputFile(pipe);
+    batch.Process.setStandardErrorFile(pipe);
+    batch.Start({u"--careful"_s, u"--json"_s});
+    QElapsedTimer clock;
+    clock.start();
+    while (batch.Names_In(u"app"_s).filter(u"Journal"_s).isEmpty() && clock.elapsed() < 20'000)
+        ::usleep(10'000);
+    clock.start();
+    ::kill(static_cast<pid_t>(batch.Process.processId()), SIGTERM);
+    EXPECT_TRUE(batch.Process.waitForFinished());
+    EXPECT_EQ(batch.Process.exitCode(), 130);
+    EXPECT_LT(clock.elapsed(), 4000);
+    ::close(unread);
 }
 
 TEST(Vantorra_Batch, AReaderThatGoesAwayHaltsTheRun)

@@ -35,6 +35,9 @@ TEST(Log_Command, PrintsTheNewestFiveHundredLinesOrAllOfThemWithPlainLineEnds)
     Memory_Stream out;
     Print_Log(test.Path(u"other/"_s), true, out.Stream());
     EXPECT_EQ(out.Text(), QString()) << "a folder of that name is no log";
+    QFile::link(u"/dev/null"_s, test.Path(u"target/Vantorra_Process.log"_s));
+    for (const bool full : {false, true})
+        EXPECT_EQ(Error_Of([&] { Print_Log(test.Path(u"target/"_s), full, out.Stream()); }).Number, 75);
 }
 
 TEST(Batch_Program, MemoryThatEndsIsTold)

@@ -342,6 +342,12 @@ TEST(Run_Driver, ALeftOverInterimLogGoesToTheTrashAndOldWordsAreForgottenUnlessT
         EXPECT_FALSE(test.Log().contains(u"told at start-up"_s));
         EXPECT_EQ(test.Read(u"arguments"_s).isEmpty(), dry);
     }
+    Driver_Test test;
+    test.Prog.Options.Log_Verbosity = 1;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(test.Write(u"app/Vantorra_Interim.log"_s)));
+    EXPECT_EQ(test.Press(), Press_Result::Finished);
+    EXPECT_TRUE(
+        test.Log().contains(u"-- Could not be moved to the trash - \""_s + test.Path(u"app/Vantorra_Interim"_s)));
 }
 
 TEST(Run_Driver, TheEndOfALongRunIsToldAndOneThatFinishedTakesTheProgramAlong)

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -32,6 +33,14 @@ static int Fault_Of(const char* call, int& count)
         return std::atoi(what);
     }
     return -1;
+}
+
+static bool Leads_To(int handle, const char* name)
+{
+    char path[4096] = {};
+    char link_name[64];
+    std::snprintf(link_name, sizeof link_name, "/proc/self/fd/%d", handle);
+    return ::readlink(link_name, path, sizeof path - 1) > 0 && std::strstr(path, name) != nullptr;
 }
 
 template <typename Function>
@@ -83,15 +92,21 @@ int rmdir(const char* path)
 /// Only what goes to the journal.
 ssize_t write(int handle, const void* text, size_t size)
 {
-    if (size > 10 && std::memcmp(text, "{\"", 2) == 0 && std::getenv("FAULT") != nullptr) {
-        char path[4096] = {};
-        char link_name[64];
-        std::snprintf(link_name, sizeof link_name, "/proc/self/fd/%d", handle);
-        if (::readlink(link_name, path, sizeof path - 1) > 0 && std::strstr(path, "Vantorra_Journal") != nullptr) {
-            FAULTY(write)
-        }
+    if (size > 10 && std::memcmp(text, "{\"", 2) == 0 && std::getenv("FAULT") != nullptr &&
+        Leads_To(handle, "Vantorra_Journal")) {
+        FAULTY(write)
     }
     return Next<ssize_t (*)(int, const void*, size_t)>("write")(handle, text, size);
+}
+
+/// Only where the listing of the videos' folder would end.
+dirent* readdir(DIR* folder)
+{
+    dirent* entry = Next<dirent* (*)(DIR*)>("readdir")(folder);
+    static int count = 0;
+    if (const int error = !entry && Leads_To(::dirfd(folder), "/videos") ? Fault_Of("readdir", count) : -1; error >= 0)
+        errno = error;
+    return entry;
 }
 
 /// Only the first video, by this program; its other files are opened as they are.
@@ -114,12 +129,8 @@ size_t fread(void* buffer, size_t size, size_t count, FILE* file)
     const char* torn = std::getenv("TORN");
     if (torn == nullptr || *torn == 0 || std::strcmp(program_invocation_short_name, "mkvmerge") != 0)
         return read(buffer, size, count, file);
-    char path[4096] = {};
-    char link_name[64];
-    std::snprintf(link_name, sizeof link_name, "/proc/self/fd/%d", ::fileno(file));
     struct stat status = {};
-    const bool is_torn = ::readlink(link_name, path, sizeof path - 1) > 0 && std::strstr(path, torn) != nullptr &&
-                         ::fstat(::fileno(file), &status) == 0;
+    const bool is_torn = Leads_To(::fileno(file), torn) && ::fstat(::fileno(file), &status) == 0;
     const long left = is_torn ? status.st_size / 2 - std::ftell(file) : 0;
     if (!is_torn || static_cast<long>(size * count) <= left)
         return read(buffer, size, count, file);

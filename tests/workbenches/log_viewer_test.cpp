@@ -2,6 +2,8 @@
 
 #include "common/test_program.h"
 
+#include <QFile>
+
 namespace {
 
 struct Viewer_Test : testing::Test, Test_Program
@@ -29,6 +31,12 @@ TEST_F(Viewer_Test, TheFullLoadCountsInSixteenBits)
     EXPECT_EQ(error.Number, 6);
     EXPECT_TRUE(error.Message.contains(u"Vantorra_Process.log"_s));
     EXPECT_EQ(Count(499), u"500 Lines"_s);
+
+    QFile::remove(Path(u"app/Vantorra_Process.log"_s));
+    QFile::link(u"/dev/null"_s, Path(u"app/Vantorra_Process.log"_s));
+    EXPECT_EQ(Count(499), u"0 Lines"_s);
+    ASSERT_EQ(Person.Messages.size(), 1U);
+    EXPECT_EQ(Person.Messages[0].Title, u"The log can't be read"_s);
 }
 
 TEST_F(Viewer_Test, LinesEndInAnyOfThreeWaysAndEmptyOnesCount)
