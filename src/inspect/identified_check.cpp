@@ -78,20 +78,6 @@ void Compare_Identified(const Asked_Output& asked, const std::vector<Identified_
     Compare_Chapters(asked, inputs, output, result);
 }
 
-/// What mkvmerge says of a file that it should be able to read; nothing after a warning, which calls it so.
-static std::optional<Identified_File> Identify_Or_Warn(Program& program, const QString& path, const QString& called,
-                                                       Check_Result& result)
-{
-    QString why_not;
-    std::optional<Identified_File> file = Identify_Tracks(program, path, why_not);
-    if (file && !file->Readable)
-        why_not = u"mkvmerge can't read it"_s;
-    if (why_not.isEmpty())
-        return file;
-    result.Warnings += u"%1 could not be compared: %2"_s.arg(called, why_not);
-    return std::nullopt;
-}
-
 void Check_Picture(Program& program, const Asked_Output& asked, const QString& output, std::optional<double> seconds,
                    Check_Result& result)
 {
@@ -107,14 +93,25 @@ void Check_Picture(Program& program, const Asked_Output& asked, const QString& o
 
 void Check_Identified(Program& program, const Asked_Output& asked, const QString& output, Check_Result& result)
 {
-    std::vector<Identified_File> inputs;
+    QStringList paths;
+    QStringList called;
     for (const Asked_Input& input : asked.Inputs) {
-        std::optional<Identified_File> file =
-            Identify_Or_Warn(program, input.Path, u'"' + File_Name_Of(input.Path) + u'"', result);
-        if (!file)
-            return;
-        inputs.push_back(std::move(*file));
+        paths += input.Path;
+        called += u'"' + File_Name_Of(input.Path) + u'"';
     }
-    if (const std::optional<Identified_File> written = Identify_Or_Warn(program, output, u"the output"_s, result))
-        Compare_Identified(asked, inputs, *written, result);
+    paths += output;
+    called += u"the output"_s;
+    std::vector<Identified_File> files;
+    for (const Identification& each : Identify_Each(program, paths)) {
+        const QString& name = called[static_cast<qsizetype>(files.size())];
+        const QString why_not = each.File && !each.File->Readable ? u"mkvmerge can't read it"_s : each.Why_Not;
+        if (!why_not.isEmpty()) {
+            result.Warnings += u"%1 could not be compared: %2"_s.arg(name, why_not);
+            return;
+        }
+        files.push_back(*each.File);
+    }
+    const Identified_File written = std::move(files.back());
+    files.pop_back();
+    Compare_Identified(asked, files, written, result);
 }

@@ -39,13 +39,17 @@ std::optional<Identified_File> Parse_Identification(const QByteArray& json)
     return file;
 }
 
-std::optional<Identified_File> Identify_Tracks(Program& program, const QString& path, QString& why_not)
+static Command_Line Question_About(const QString& path)
 {
     Command_Line command;
     command.Add_Option(u" --ui-language "_s, u"en_US"_s);
     command.Add_Options(u" --identification-format json"_s);
     command.Add_Path(u" --identify "_s, path);
-    const Tool_Answer answer = Ask_Tool(program, program.Tools.System_MKVMerge_Path, command);
+    return command;
+}
+
+static std::optional<Identified_File> Understand(const Tool_Answer& answer, QString& why_not)
+{
     // It ends with 2 for a file that it can't open, and its messages are in its answer then.
     if (!answer.Ended_Well(1)) {
         const Tool_Json value = Parse_Tool_Json(answer.Output);
@@ -59,4 +63,22 @@ std::optional<Identified_File> Identify_Tracks(Program& program, const QString& 
     if (!file)
         why_not = u"mkvmerge's identification can't be read: "_s + First_Line(answer.Output);
     return file;
+}
+
+std::optional<Identified_File> Identify_Tracks(Program& program, const QString& path, QString& why_not)
+{
+    return Understand(Ask_Tool(program, program.Tools.System_MKVMerge_Path, Question_About(path)), why_not);
+}
+
+std::vector<Identification> Identify_Each(Program& program, const QStringList& paths)
+{
+    std::vector<Command_Line> questions;
+    for (const QString& path : paths)
+        questions.push_back(Question_About(path));
+    std::vector<Identification> identifications;
+    for (const Tool_Answer& answer : Ask_Tool_Of_Each(program, program.Tools.System_MKVMerge_Path, questions)) {
+        Identification& each = identifications.emplace_back();
+        each.File = Understand(answer, each.Why_Not);
+    }
+    return identifications;
 }

@@ -34,3 +34,13 @@ std::optional<Identified_File> Parse_Identification(const QByteArray& json);
 /// Asks the mkvmerge that does the work. Nothing, with the reason in words in `why_not`, if it couldn't be asked; a
 /// file that it can't read is an answer.
 std::optional<Identified_File> Identify_Tracks(Program& program, const QString& path, QString& why_not);
+
+/// What came of asking about one of several files: the answer, or why there is none, in words.
+struct Identification
+{
+    std::optional<Identified_File> File;
+    QString Why_Not;
+};
+
+/// Identify_Tracks for several files, in their order, in less time than one after the other.
+std::vector<Identification> Identify_Each(Program& program, const QStringList& paths);

@@ -6,7 +6,9 @@
 #include "support/signal_name.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <cstring>
+#include <deque>
 
 using namespace Qt::StringLiterals;
 
@@ -80,16 +82,27 @@ static void Read_Answer(Program& program, Child_Process& child, Tool_Answer& ans
     }
 }
 
-Tool_Answer Ask_Tool(Program& program, const QString& executable, const Command_Line& command)
+/// A tool that was asked and hasn't been heard.
+struct Asked_Tool
+{
+    Child_Process Child;
+    Child_Process::Started Started = Child_Process::Started::No_Process;
+};
+
+static void Start(Asked_Tool& asked, const QString& executable, const Command_Line& command)
+{
+    asked.Started = asked.Child.Start(executable, command.Arguments(), Child_Process::Outputs::Apart);
+}
+
+static Tool_Answer Hear(Program& program, Asked_Tool& asked)
 {
     Run_State& run = program.Run;
+    Child_Process& child = asked.Child;
     run.Exit_Status.reset();
+    run.Pipe_Result = asked.Started == Child_Process::Started::No_Pipe ? 0 : 1;
+    run.Process_Result = asked.Started == Child_Process::Started::Yes ? -1 : child.System_Error();
     Tool_Answer answer;
-    Child_Process child;
-    const Child_Process::Started started = child.Start(executable, command.Arguments(), Child_Process::Outputs::Apart);
-    run.Pipe_Result = started == Child_Process::Started::No_Pipe ? 0 : 1;
-    run.Process_Result = started == Child_Process::Started::Yes ? -1 : child.System_Error();
-    if (started != Child_Process::Started::Yes) {
+    if (asked.Started != Child_Process::Started::Yes) {
         answer.Not_Started = QString::fromLocal8Bit(std::strerror(child.System_Error()));
         return answer;
     }
@@ -97,4 +110,27 @@ Tool_Answer Ask_Tool(Program& program, const QString& executable, const Command_
     answer.Exit_Status = child.Exit_Status();
     run.Exit_Status = answer.Exit_Status;
     return answer;
+}
+
+Tool_Answer Ask_Tool(Program& program, const QString& executable, const Command_Line& command)
+{
+    Asked_Tool asked;
+    Start(asked, executable, command);
+    return Hear(program, asked);
+}
+
+std::vector<Tool_Answer> Ask_Tool_Of_Each(Program& program, const QString& executable,
+                                          const std::vector<Command_Line>& commands)
+{
+    constexpr std::size_t at_once = 2;
+    std::vector<Tool_Answer> answers;
+    std::deque<Asked_Tool> asked;
+    for (std::size_t next = 0; next < commands.size(); ++next) {
+        while (asked.size() < std::min(next + at_once, commands.size())) {
+            asked.emplace_back();
+            Start(asked.back(), executable, commands[asked.size() - 1]);
+        }
+        answers.push_back(Hear(program, asked[next]));
+    }
+    return answers;
 }

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <optional>
+#include <vector>
 
 struct Program;
 class Command_Line;
@@ -27,6 +28,11 @@ struct Tool_Answer
 /// Runs a tool that answers with a text and changes nothing, its messages in a pipe of their own. A halt ends it.
 /// Leaves Pipe_Result, Process_Result and Exit_Status as Run_Tool_Capture does.
 Tool_Answer Ask_Tool(Program& program, const QString& executable, const Command_Line& command);
+
+/// The same for several commands, with the answers in their order. What a tool does while it starts lets a second core
+/// work on the next: two are under way at a time.
+std::vector<Tool_Answer> Ask_Tool_Of_Each(Program& program, const QString& executable,
+                                          const std::vector<Command_Line>& commands);
 
 /// The first line of a tool's messages that says something, without control characters and cut at a sensible length.
 QString First_Line(const QByteArray& messages);

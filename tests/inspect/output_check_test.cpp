@@ -103,6 +103,16 @@ TEST(Output_Check, WhatWentInAndDidNotComeOutIsAWarning)
     EXPECT_EQ(warnings_of(u" --no-subtitles --audio-tracks 1"_s), QStringList());
     EXPECT_EQ(warnings_of(u" --audio-tracks 1"_s), QStringList(u"the output has 0 subtitles tracks instead of 1"_s));
     EXPECT_EQ(warnings_of(u" --no-subtitles"_s), QStringList(u"the output has 1 audio tracks instead of 2"_s));
+    // All are asked at once: each answer is taken for the file that it is about.
+    for (const auto& [added, called] :
+         {std::pair(Rich_Video(), u"the output"_s), std::pair(test.Path(u"gone"_s), u"\"gone\""_s)}) {
+        Asked_Output asked = Asked_Of(Command(output, Rich_Video()), {});
+        asked.Inputs.emplace_back().Path = added;
+        Check_Result unread;
+        Check_Identified(test.Prog, asked, test.Write(u"text.mkv"_s, "text"), unread);
+        ASSERT_EQ(unread.Warnings.size(), 1);
+        EXPECT_TRUE(unread.Warnings[0].startsWith(called + u" could not be compared: mkvmerge"_s));
+    }
 
     Identified_File source{
         .Readable = true, .Container = {}, .Tracks = {}, .Attachments = {u"a.ttf, 9 bytes"_s}, .Chapters = 4};
