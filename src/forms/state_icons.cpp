@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <utility>
 
 static QColor Colour_Of(Video_State state, const QPalette& palette)
 {
@@ -78,17 +79,21 @@ static QPainterPath Shape_Of(Video_State state)
 
 QIcon State_Icon(Video_State state, const QPalette& palette)
 {
+    const std::pair<QIcon::Mode, QColor> looks[] = {
+        {QIcon::Normal, Colour_Of(state, palette)},
+        {QIcon::Selected, palette.color(QPalette::Active, QPalette::HighlightedText)}};
     QIcon icon;
-    for (const int side : {16, 32, 48}) {
-        QPixmap pixmap(side, side);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(side / 16.0, side / 16.0);
-        painter.setPen(QPen(Colour_Of(state, palette), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(Shape_Of(state));
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
+    for (const auto& [mode, colour] : looks)
+        for (const int side : {16, 32, 48}) {
+            QPixmap pixmap(side, side);
+            pixmap.fill(Qt::transparent);
+            QPainter painter(&pixmap);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.scale(side / 16.0, side / 16.0);
+            painter.setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter.drawPath(Shape_Of(state));
+            painter.end();
+            icon.addPixmap(pixmap, mode);
+        }
     return icon;
 }

@@ -16,6 +16,7 @@ Status_Line::Status_Line(QMainWindow& form) : QObject(&form), bar_(*form.statusB
     bar_.setObjectName("statusbar");
     notice_->setObjectName("lbl_Notice");
     bar_.setSizeGripEnabled(false);
+    bar_.setContentsMargins(6, 0, 0, 0); // as far in as what stands above
     bar_.addWidget(notice_, 1);
     for (QWidget* widget : form.findChildren<QWidget*>())
         widget->installEventFilter(this);

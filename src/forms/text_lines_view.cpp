@@ -82,9 +82,12 @@ void Text_Lines_View::Show_Lines(const QStringList& lines)
 
 void Text_Lines_View::Select_Row(int row)
 {
+    const bool other = currentIndex().row() != row;
     setCurrentIndex(lines_.index(row));
     if (row < 0)
         clearSelection();
+    else if (other) // what belongs to it stands below it
+        scrollTo(lines_.index(std::max(0, row - 1)), PositionAtTop);
 }
 
 void Text_Lines_View::Set_Text_Size(int points)

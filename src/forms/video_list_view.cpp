@@ -21,6 +21,7 @@
 #include <QShortcut>
 #include <QTableView>
 #include <QToolButton>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -71,6 +72,9 @@ void Video_List_View::Connect()
     connect(ui_->tbl_Videos->horizontalHeader(), &QHeaderView::sectionClicked, this, [this, &list](int section) {
         guard_.Call([&list, section] { Sort_Videos(list, static_cast<Video_Column>(section)); });
     });
+    connect(ui_->tbl_Videos->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section) {
+        own_widths_ = own_widths_ || (!sharing_ && section + 1 < model_.columnCount()); // the last one takes the rest
+    });
     connect(&model_, &Video_List_Model::Tick_Clicked, this,
             [this](int number) { guard_.Call([this, number] { Tick_Video(program_, number); }); });
     connect(ui_->tbl_Videos->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -80,7 +84,8 @@ void Video_List_View::Connect()
             guard_.Call([this] { Show_Video_Info(program_); });
     });
     connect(ui_->tbl_Videos->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
-        if (!scrolling_)
+        // Where nothing is in work there is nothing to turn away from.
+        if (!scrolling_ && program_.Videos.In_Work >= 0)
             follows_ = Is_In_View(model_.Row_Of(program_.Videos.In_Work));
     });
     connect(ui_->btn_Videos, &QToolButton::clicked, this, [this](bool open) {
@@ -125,11 +130,24 @@ void Video_List_View::Set_Looks()
     QTableView& table = *ui_->tbl_Videos;
     const QFontMetrics metrics = fontMetrics();
     table.verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
-    const int em = metrics.horizontalAdvance(u'0');
-    constexpr int usual[] = {12, 38, 9, 10, 20, 22};
-    for (int column = 0; column < 6; ++column)
-        table.setColumnWidth(column, usual[column] * em);
     table.setMinimumHeight(metrics.height() * 5);
+    Share_Width();
+}
+
+/// What a wide window has more than the columns need goes to those with words, until the person has set one.
+void Video_List_View::Share_Width()
+{
+    if (own_widths_)
+        return;
+    const QScopedValueRollback sharing(sharing_, true);
+    constexpr int usual[] = {12, 38, 9, 10, 20, 22};
+    constexpr int result = 40;
+    constexpr double share[] = {0, 0.4, 0, 0, 0.15, 0.15}; // the rest is the result's
+    const int em = fontMetrics().horizontalAdvance(u'0');
+    const int needed = std::accumulate(std::begin(usual), std::end(usual), result) * em;
+    const int more = std::max(0, ui_->tbl_Videos->viewport()->width() - needed);
+    for (int column = 0; column < 6; ++column)
+        ui_->tbl_Videos->setColumnWidth(column, usual[column] * em + static_cast<int>(more * share[column]));
 }
 
 bool Video_List_View::Is_Open() const
@@ -203,14 +221,25 @@ void Video_List_View::Enable_Commands()
         action->setEnabled(Is_Possible(program_, action->objectName()));
 }
 
-/// Rows came or went: what is marked stays marked, as far as it is shown.
+/// Who comes by the keyboard finds a row marked, for the commands. A click marks its own.
+void Video_List_View::Mark_A_Row(Qt::FocusReason reason)
+{
+    const bool by_key = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    if (!by_key || !program_.Videos.Selected.empty() || model_.rowCount() == 0)
+        return;
+    const QModelIndex current = ui_->tbl_Videos->currentIndex();
+    ui_->tbl_Videos->selectRow(current.isValid() ? current.row() : 0);
+}
+
+/// Rows came or went: what is marked stays marked, as far as it is shown. No command reaches what isn't seen.
 void Video_List_View::Restore_Selection()
 {
     const QScopedValueRollback selecting(selecting_, true);
+    std::erase_if(program_.Videos.Selected, [this](int number) { return model_.Row_Of(number) < 0; });
     QItemSelection selection;
     for (const int number : program_.Videos.Selected)
-        if (const int row = model_.Row_Of(number); row >= 0)
-            selection.select(model_.index(row, 0), model_.index(row, model_.columnCount() - 1));
+        selection.select(model_.index(model_.Row_Of(number), 0),
+                         model_.index(model_.Row_Of(number), model_.columnCount() - 1));
     QItemSelectionModel& model = *ui_->tbl_Videos->selectionModel();
     model.select(selection, QItemSelectionModel::ClearAndSelect);
     if (!selection.isEmpty())
@@ -293,6 +322,10 @@ void Video_List_View::Render()
 
 bool Video_List_View::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Resize && watched == ui_->tbl_Videos)
+        Share_Width();
+    if (event->type() == QEvent::FocusIn && watched == ui_->tbl_Videos)
+        Mark_A_Row(static_cast<const QFocusEvent*>(event)->reason());
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
@@ -302,7 +335,7 @@ bool Video_List_View::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     if (watched == ui_->txt_VideoFilter && key.key() == Qt::Key_Down) {
-        ui_->tbl_Videos->setFocus();
+        ui_->tbl_Videos->setFocus(Qt::TabFocusReason);
         return true;
     }
     return false;

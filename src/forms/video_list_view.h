@@ -54,9 +54,11 @@ class Video_List_View : public QWidget
     void Note_Selection();
     void Enable_Commands();
     void Restore_Selection();
+    void Mark_A_Row(Qt::FocusReason reason);
     void Follow_Work();
     void Render_Head();
     bool Is_In_View(int row) const;
+    void Share_Width();
     bool Is_On_Box(const QModelIndex& index) const;
 
     Program& program_;
@@ -74,4 +76,6 @@ class Video_List_View : public QWidget
     bool busy_ = false;         ///< a run was at work at the last picture
     bool scrolling_ = false;    ///< it is us who scrolls
     bool selecting_ = false;    ///< it is us who selects
+    bool sharing_ = false;      ///< it is us who sets the columns' widths
+    bool own_widths_ = false;   ///< the person has set one
 };

@@ -76,8 +76,12 @@ void Copy_Video_Reasons(Program& program)
 
 void Open_Video_Folder(Program& program)
 {
-    if (const Video_Row* row = First_Marked(program))
-        program.Person.Open_Document(program.Videos.Folder + row->Sub_Path);
+    const Video_Row* row = First_Marked(program);
+    if (row == nullptr)
+        return;
+    const QString folder = program.Videos.Folder + row->Sub_Path;
+    if (!program.Person.Open_Document(folder))
+        program.Form.lbl_Notice.Caption = u"Nothing on this desktop opens folders. It is "_s + folder;
 }
 
 const std::vector<Video_Command>& Video_Commands()

@@ -125,24 +125,46 @@ void Load_vProcessLog(Program& program, frm_ProcessLog& form, int limit, bool& l
     loaded = true;
 }
 
-/// The first line of the log that names a file, which is the newest, is chosen; the full log is loaded if it takes
-/// that.
+/// The lines of a log as far as a list takes them; none of one that can't be read.
+static QStringList Lines_For_Looking(const QString& log)
+{
+    try {
+        return File_Exists(log) ? Read_Log_Lines(log, All_Lines - 1) : QStringList();
+    } catch (const Run_Time_Error&) {
+        return {};
+    }
+}
+
+/// Chooses the first line that names a file, which is the newest; false if none does.
+static bool Choose_Line_Of(frm_ProcessLog& form, const QStringList& lines, const QString& name)
+{
+    const auto at =
+        std::find_if(lines.begin(), lines.end(), [&name](const QString& line) { return line.contains(name); });
+    if (at == lines.end())
+        return false;
+    form.Selected_Row = static_cast<int>(at - lines.begin());
+    form.lst_ProcessLog = lines;
+    return true;
+}
+
+/// Where the lines that are loaded don't name the file, the full log is looked through, and then the earlier logs: a
+/// run that isn't appended leaves only its own videos in the newest one.
 static void Show_Lines_Of(Program& program, frm_ProcessLog& form, const QString& path)
 {
-    const auto find = [&form, name = As_One_Line(path)] {
-        const auto at = std::find_if(form.lst_ProcessLog.begin(), form.lst_ProcessLog.end(),
-                                     [&name](const QString& line) { return line.contains(name); });
-        return at == form.lst_ProcessLog.end() ? -1 : static_cast<int>(at - form.lst_ProcessLog.begin());
-    };
-    int row = find();
-    if (row < 0 && !form.Full_Log_Loaded && form.lst_ProcessLog.size() > First_Lines) {
-        ProcessLog_btn_LoadFullLog(program, form);
-        row = find();
+    const QString name = As_One_Line(path);
+    if (Choose_Line_Of(form, form.lst_ProcessLog, name))
+        return;
+    const QString& folder = program.Settings.App_Folder;
+    QStringList logs{Process_Log_Path(folder)};
+    for (const char16_t letter : {u'A', u'B', u'C', u'D', u'E'})
+        logs += Process_Log_Generation(folder, letter);
+    for (const QString& log : logs) {
+        if (!Choose_Line_Of(form, Lines_For_Looking(log), name))
+            continue;
+        form.lbl_LogLines.Caption = QString::number(form.lst_ProcessLog.size()) + u" Lines of "_s + File_Name_Of(log);
+        return;
     }
-    if (row >= 0)
-        form.Selected_Row = row;
-    else
-        program.Videos.Notes = {u"The log has no line about it; from verbosity 1 on it has."_s};
+    form.lbl_LogLines.Caption += u". None tells of the video; from verbosity 1 on there are some."_s;
 }
 
 void ProcessLog_Activate(Program& program, frm_ProcessLog& form)

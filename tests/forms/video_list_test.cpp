@@ -144,8 +144,14 @@ TEST_F(Window_List, RunStopsACheckAndFollowsItAndEscapeStopsIt)
 TEST_F(Window_List, ItsCommandsShowAndCopyWhatIsKnownOfARow)
 {
     Prepare();
-    Mark(0);
+    Window.Form().activateWindow();
+    Press(Table(), Qt::Key_F, Qt::ControlModifier);
+    Press(Table(), Qt::Key_Down);
+    EXPECT_TRUE(Window.Action("mnu_VideoLog").isEnabled()) << "the first row is marked";
     EXPECT_FALSE(Window.Action("mnu_VideoCommand").isEnabled()) << "nothing is known yet";
+    Click_On(Window.Get("chip_Failed"));
+    EXPECT_FALSE(Window.Action("mnu_VideoLog").isEnabled()) << "it is out of sight";
+    Click_On(Window.Get("chip_All"));
     Window.Prog().Options.Log_Verbosity = 1;
     Click_On(Window.Get("btn_RunVantorra"));
     Mark(2);

@@ -39,6 +39,22 @@ TEST_F(Viewer_Test, TheFullLoadCountsInSixteenBits)
     EXPECT_EQ(Person.Messages[0].Title, u"The log can't be read"_s);
 }
 
+TEST_F(Viewer_Test, ThoseOfAVideoAreLookedForInTheEarlierLogsToo)
+{
+    Write(u"app/Vantorra_Process.log"_s, QByteArray("line\n").repeated(40000) + "/v/late.mkv");
+    Write(u"app/Vantorra_ProcessB.log"_s, "\n-- /v/one.mkv\n-- /v/one.mkv again\n");
+    const std::tuple<QString, int, QString> videos[] = {
+        {u"/v/one.mkv"_s, 1, u"3 Lines of Vantorra_ProcessB.log"_s},
+        {u"/v/late.mkv"_s, 0, u"500 Lines. None tells of the video; from verbosity 1 on there are some."_s}};
+    for (const auto& [path, row, caption] : videos) {
+        Form = {};
+        Prog.Videos.To_Show = path;
+        ProcessLog_Activate(Prog, Form);
+        EXPECT_EQ(Form.Selected_Row, row);
+        EXPECT_EQ(Form.lbl_LogLines.Caption, caption);
+    }
+}
+
 TEST_F(Viewer_Test, LinesEndInAnyOfThreeWaysAndEmptyOnesCount)
 {
     const QByteArray half = QByteArray((1 << 18) - 1, 'x');
