@@ -13,15 +13,41 @@
 
 using namespace Qt::StringLiterals;
 
+static bool Prepare(Video_Work& work)
+{
+    return Inspect(work) && Assemble(work) && Look_Ahead(work);
+}
+
+/// A dry run tells all that is amiss with a video, and not just what came first.
+static void Look_Further(Video_Work& work)
+{
+    const File_Outcome first = work.Outcome;
+    if (work.Outcome.Output.isEmpty())
+        work.Outcome.Output = work.Walk.Before.Folder() + work.Names.Name;
+    Prepare(work);
+    if (work.Walk.Prog.Run.Halt_Requested)
+        return;
+    if (work.Outcome.Status == File_Outcome::Kind::Failed)
+        Warn(work, work.Outcome.Reason);
+    work.Outcome.Output = first.Output;
+    Fail(work, first.Reason);
+}
+
 static void Take_All_Steps(Video_Work& work, const Folder_Entry& entry)
 {
     if (!Open_Source(work, entry))
         return;
-    work.Hash = Hash_Of_Video(work.Walk.Prog, work.Outcome.Source);
-    QStringList old;
-    if (!Choose_Output(work) || !Reach_Companions(work) || !Inspect(work) || !Assemble(work) || !Look_Ahead(work))
+    const Program& program = work.Walk.Prog;
+    work.Hash = Hash_Of_Video(program, work.Outcome.Source);
+    if (!Choose_Output(work) || !Reach_Companions(work)) {
+        if (program.Run.Dry_Run && work.Outcome.Status == File_Outcome::Kind::Failed)
+            Look_Further(work);
+        return;
+    }
+    if (!Prepare(work))
         return;
     Remember_Companions(work.Walk);
+    QStringList old;
     if (Mux(work) && Check(work) && Name_Outputs(work, old))
         Note_And_Trash(work, old);
 }
