@@ -22,7 +22,7 @@ _vantorra_batch()
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= key= quote= at
     for ((at = 1; at < COMP_CWORD; ++at)); do
         case ${COMP_WORDS[at]} in
-            run | settings | identify | log) command=${COMP_WORDS[at]} ;;
+            run | settings | identify | log | journal) command=${COMP_WORDS[at]} ;;
         esac
     done
     # bash takes "=" for a word of its own: --set KEY = VALUE, or --tick = NAME.
@@ -66,7 +66,7 @@ _vantorra_batch()
             fi
             return
             ;;
-        --only | --leave-out)
+        --only | --leave-out | --shard)
             return
             ;;
     esac

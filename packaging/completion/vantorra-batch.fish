@@ -20,12 +20,13 @@ function __vantorra_batch_settings
     end
 end
 
-set -l run 'not __fish_seen_subcommand_from settings identify log'
+set -l run 'not __fish_seen_subcommand_from settings identify log journal'
 complete -c vantorra-batch -f
 complete -c vantorra-batch -n '__fish_use_subcommand' -a run -d 'process the folder (the default)'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a settings -d 'print the options in force'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a identify -d 'print what mkvmerge says of each file'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a log -d 'print the process log'
+complete -c vantorra-batch -n '__fish_use_subcommand' -a journal -d 'print the last result of each video, on whatever machine'
 complete -c vantorra-batch -n "$run" -a '(__fish_complete_directories)'
 complete -c vantorra-batch -n '__fish_seen_subcommand_from identify' -F
 complete -c vantorra-batch -l videos -x -a '(__fish_complete_directories)' -d 'take the videos from this folder'
@@ -40,9 +41,10 @@ complete -c vantorra-batch -s n -l dry-run -d 'print each mkvmerge command, run 
 complete -c vantorra-batch -n "$run" -l check -d 'tell what would come of each video and what is wrong with it'
 complete -c vantorra-batch -n "$run" -l recursive -d 'take the folders below, too'
 complete -c vantorra-batch -n "$run" -l resume -d 'leave out what is done already'
-complete -c vantorra-batch -n "$run" -l failed -d 'take only what failed last'
+complete -c vantorra-batch -n 'not __fish_seen_subcommand_from settings identify log' -l failed -d 'take only what failed last'
 complete -c vantorra-batch -n "$run" -l only -x -d 'take only videos of such names'
 complete -c vantorra-batch -n "$run" -l leave-out -x -d 'leave videos of such names out'
+complete -c vantorra-batch -n "$run" -l shard -x -d 'take only one of several parts'
 complete -c vantorra-batch -l json -d 'print one JSON object a line'
 complete -c vantorra-batch -s q -l quiet -d 'print faults only'
 complete -c vantorra-batch -n '__fish_seen_subcommand_from log' -l full -d 'print all of the log'

@@ -24,6 +24,7 @@ _vantorra_batch_commands() {
         'settings:print the options in force'
         'identify:print what mkvmerge says of each file'
         'log:print the process log'
+        'journal:print the last result of each video, on whatever machine'
     )
     _describe command commands
     _files -/
@@ -37,7 +38,7 @@ _arguments -s \
     '*--tick[tick a check box]:check box:_vantorra_batch_boxes' \
     '*--untick[untick a check box]:check box:_vantorra_batch_boxes' \
     '(--classic)--careful[run as a careful batch]' \
-    '(--careful --recursive --resume --failed --only --leave-out)--classic[run as a classic batch]' \
+    '(--careful --recursive --resume --failed --only --leave-out --shard)--classic[run as a classic batch]' \
     '(-n --dry-run)'{-n,--dry-run}'[print each mkvmerge command, run none]' \
     '--check[tell what would come of each video and what is wrong with it]' \
     '(--classic)--recursive[take the folders below, too]' \
@@ -45,6 +46,7 @@ _arguments -s \
     '(--classic)--failed[take only what failed last]' \
     '*--only[take only videos of such names]:pattern:' \
     '*--leave-out[leave videos of such names out]:pattern:' \
+    '(--classic)--shard[take only one of several parts]:K/N:' \
     '--json[print one JSON object a line]' \
     '(-q --quiet)'{-q,--quiet}'[print faults only]' \
     '--full[log: print all of it]' \

@@ -6,6 +6,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +26,7 @@ static const std::vector<Command_Row>& Command_Rows()
         {Batch_Command::Settings, u"settings"_s, u"print the options in force"_s, {}},
         {Batch_Command::Identify, u"identify"_s, u"print what mkvmerge says of each file"_s, u"FILE..."_s},
         {Batch_Command::Log, u"log"_s, u"print the process log"_s, {}},
+        {Batch_Command::Journal, u"journal"_s, u"print the last result of each video, on whatever machine"_s, {}},
     };
     return rows;
 }
@@ -62,9 +64,13 @@ static std::vector<Option_Row> Run_Options()
         {{u"check"_s}, u"Like --dry-run, but tell what would come of each video and what is wrong with it."_s, {}, run},
         {{u"recursive"_s}, u"Take the folders below the videos' folder, too (careful only)."_s, {}, run},
         {{u"resume"_s}, u"Leave out what is done already and hasn't changed since (careful only)."_s, {}, run},
-        {{u"failed"_s}, u"Take only what failed last (careful only)."_s, {}, run},
+        {{u"failed"_s},
+         u"Take only what failed last (careful only)."_s,
+         {},
+         {Batch_Command::Run, Batch_Command::Journal}},
         {{u"only"_s}, u"Take only videos of such names. Repeatable (careful only)."_s, u"GLOB"_s, run},
         {{u"leave-out"_s}, u"Leave videos of such names out. Repeatable (careful only)."_s, u"GLOB"_s, run},
+        {{u"shard"_s}, u"Take only the K-th of N parts of the videos (careful only)."_s, u"K/N"_s, run},
     };
 }
 
@@ -73,7 +79,7 @@ static const std::vector<Option_Row>& Option_Rows()
 {
     static const std::vector<Option_Row> rows = [] {
         using enum Batch_Command;
-        const QList<Batch_Command> all{Run, Settings, Identify, Log};
+        const QList<Batch_Command> all{Run, Settings, Identify, Log, Journal};
         const QList<Batch_Command> set_up{Run, Settings, Identify};
         std::vector<Option_Row> list = {
             {{u"videos"_s}, u"Take the videos from DIR instead of the remembered folder."_s, u"DIR"_s, set_up},
@@ -200,6 +206,18 @@ static QString Take_Bare_Folders(const QStringList& positional, Batch_Options& o
     return {};
 }
 
+static QString Take_Part(const QCommandLineParser& parser, Shard& part)
+{
+    if (!parser.isSet(u"shard"_s))
+        return {};
+    static const QRegularExpression form(QRegularExpression::anchoredPattern(u"([1-9][0-9]{0,5})/([1-9][0-9]{0,5})"_s));
+    const QRegularExpressionMatch match = form.match(parser.value(u"shard"_s));
+    part = {.Number = match.captured(1).toInt(), .Of = match.captured(2).toInt()};
+    return match.hasMatch() && part.Number <= part.Of
+               ? QString()
+               : u"--shard wants K/N, the K-th of N parts, such as 2/3; it is \"%1\"."_s.arg(parser.value(u"shard"_s));
+}
+
 static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& options)
 {
     const bool classic = parser.isSet(u"classic"_s);
@@ -207,7 +225,7 @@ static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& opti
         return u"A run is either --careful or --classic."_s;
     if (classic || parser.isSet(u"careful"_s))
         options.Careful = !classic;
-    for (const QString& name : {u"recursive"_s, u"resume"_s, u"failed"_s, u"only"_s, u"leave-out"_s})
+    for (const QString& name : {u"recursive"_s, u"resume"_s, u"failed"_s, u"only"_s, u"leave-out"_s, u"shard"_s})
         if (classic && parser.isSet(name))
             return u"--%1 belongs to a careful batch: it can't go with --classic."_s.arg(name);
     options.Recursive = parser.isSet(u"recursive"_s);
@@ -217,7 +235,7 @@ static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& opti
     options.Leave_Out = parser.values(u"leave-out"_s);
     if (options.Only.contains(QString()) || options.Leave_Out.contains(QString()))
         return u"--only and --leave-out want a pattern."_s;
-    return {};
+    return Take_Part(parser, options.Part);
 }
 
 static QString Refuse_Foreign_Options(const QCommandLineParser& parser, Batch_Command command)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/run_state.h"
+
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -11,7 +13,8 @@ enum class Batch_Command
     Run,
     Settings,
     Identify,
-    Log
+    Log,
+    Journal
 };
 
 /// --tick and --untick: a click on a check box.
@@ -35,9 +38,10 @@ struct Batch_Options
     std::optional<bool> Careful = {}; ///< --careful or --classic; nothing: as the settings say
     bool Recursive = false;
     bool Resume = false;
-    bool Only_Failed = false;
+    bool Only_Failed = false;   ///< run, journal
     QStringList Only = {};      ///< patterns of names; empty: all
     QStringList Leave_Out = {}; ///< patterns of names
+    Shard Part = {};
     bool Json = false;
     bool Quiet = false;
     bool Full = false;          ///< log: all of it, not its first lines only

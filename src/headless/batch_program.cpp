@@ -7,6 +7,7 @@
 #include "headless/exit_status.h"
 #include "headless/headless_operator.h"
 #include "headless/identify_command.h"
+#include "headless/journal_command.h"
 #include "headless/log_command.h"
 #include "headless/print.h"
 #include "headless/refusal.h"
@@ -30,15 +31,15 @@ static void Choose_Videos(Program& program, const Batch_Options& options)
     program.Run.Choice = {.Resume = options.Resume,
                           .Only_Failed = options.Only_Failed,
                           .Only = options.Only,
-                          .Leave_Out = options.Leave_Out};
+                          .Leave_Out = options.Leave_Out,
+                          .Part = options.Part};
     if (options.Recursive)
         program.Settings.Extensions.Include_Subfolders = true;
     const bool chosen = options.Recursive || options.Resume || options.Only_Failed || !options.Only.isEmpty() ||
-                        !options.Leave_Out.isEmpty();
+                        !options.Leave_Out.isEmpty() || options.Part.Of > 1;
     if (chosen && !options.Careful.value_or(program.Settings.Extensions.Careful_Batch))
-        throw Bad_Usage{u"--recursive, --resume, --failed, --only and --leave-out belong to a careful batch, which the "
-                        u"settings turn "
-                        u"off: add --careful."_s};
+        throw Bad_Usage{u"--recursive, --resume, --failed, --only, --leave-out and --shard belong to a careful batch, "
+                        u"which the settings turn off: add --careful."_s};
 }
 
 /// Where the window shows an unticked box nobody sees one here: what the settings ask for stays asked for, and each
@@ -115,8 +116,8 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
                        std::FILE* err)
 {
     program.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process(options.App_Folder));
-    // Only the log's folder is needed to print it.
-    if (options.Command != Batch_Command::Log)
+    // Only the folder of log and journal is needed to print them.
+    if (options.Command != Batch_Command::Log && options.Command != Batch_Command::Journal)
         Set_Up(program, options, report);
     // What a halted tool left unsaid would pass for the whole.
     if (options.Command != Batch_Command::Run && Was_Halted(program))
@@ -134,6 +135,11 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
         if (!Print_Log(program.Settings.App_Folder, options.Full, out))
             Print_Text(err,
                        u"vantorra-batch: there is no log in %1 yet.\n"_s.arg(Printable(program.Settings.App_Folder)));
+        return Exit_Finished;
+    case Batch_Command::Journal:
+        if (!Print_Journal(program.Settings.App_Folder, options.Only_Failed, options.Json, out))
+            Print_Text(
+                err, u"vantorra-batch: there is no journal in %1 yet.\n"_s.arg(Printable(program.Settings.App_Folder)));
         return Exit_Finished;
     }
     return Exit_Finished;

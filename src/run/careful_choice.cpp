@@ -1,11 +1,15 @@
 #include "run/careful_choice.h"
 
+#include "command/command_frame.h"
 #include "inspect/subfolders.h"
 #include "inspect/video_names.h"
 #include "run/careful_walk.h"
+#include "run/journal_results.h"
 #include "state/program.h"
 #include "support/paths.h"
 
+#include <QCryptographicHash>
+#include <QtEndian>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +59,19 @@ QString Find_Careful_Videos(Program& program)
     return u"NO VIDEO FILES FOUND!"_s;
 }
 
+/// The same on every machine, and whatever else the folder holds. By the output's name, so that two videos that make
+/// one output are in one part, where that is noticed.
+static bool Is_In_Part(const Careful_Walk& walk, const QString& name)
+{
+    const Shard& part = walk.Prog.Run.Choice.Part;
+    if (part.Of == 1)
+        return true;
+    const QString output = walk.Folders.Sub + Output_Base_Of(walk.Prog, walk.Folders.Videos + name).toLower();
+    const QByteArray hash = QCryptographicHash::hash(output.toUtf8(), QCryptographicHash::Sha1);
+    return qFromBigEndian<quint32>(hash.constData()) % static_cast<quint32>(part.Of) + 1 ==
+           static_cast<quint32>(part.Number);
+}
+
 static bool Fits_One(const Careful_Walk& walk, const QString& name, const QStringList& patterns)
 {
     return std::any_of(patterns.begin(), patterns.end(), [&](const QString& pattern) {
@@ -80,7 +97,7 @@ static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Do
         if (choice.Names && !choice.Names->contains(walk.Folders.Sub + video.Name))
             continue;
         if ((!choice.Only.isEmpty() && !Fits_One(walk, video.Name, choice.Only)) ||
-            Fits_One(walk, video.Name, choice.Leave_Out))
+            Fits_One(walk, video.Name, choice.Leave_Out) || !Is_In_Part(walk, video.Name))
             continue;
         const QString source = walk.Folders.Videos + video.Name;
         if (choice.Only_Failed && results.value(source).Status != "failed"_L1)
@@ -88,7 +105,7 @@ static void Choose_Videos(Careful_Walk& walk, const Journal_Results& results, Do
         const bool was_done = results.value(source).Status == "done"_L1; // the hash takes a while
         if (choice.Resume && was_done && Is_Done_Before(results, source, Hash_Of_Video(program, source, known))) {
             ++before.Files;
-            if (results.value(source).Warned)
+            if (!results.value(source).Warnings.isEmpty())
                 before.With_Warnings += walk.Folders.Sub + video.Name;
             else
                 walk.Done.insert(video.Name);

@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 struct Program;
@@ -30,7 +31,8 @@ struct Careful_Run
     Program& Prog;
     std::vector<std::unique_ptr<Careful_Walk>> Walks = {}; ///< in their order
     std::vector<Waiting_Companion> Waiting = {};
-    int Unstarted_In_A_Row = 0; ///< videos for which a tool couldn't be started
+    int Unstarted_In_A_Row = 0;                         ///< videos for which a tool couldn't be started
+    std::optional<QHash<QString, QString>> Makers = {}; ///< Makers_Of_Outputs, once an old output is in the way
 };
 
 /// What it carries from video to video of one folder.

@@ -2,6 +2,7 @@
 
 #include "rules/video_list.h"
 #include "run/journal.h"
+#include "run/journal_results.h"
 #include "run/run_folders.h"
 #include "state/program.h"
 #include "support/paths.h"
@@ -87,7 +88,8 @@ void Look_Into_Journal(Program& program)
         const bool is_done = known != results.constEnd() && known->Status == "done"_L1 &&
                              Is_Done_Before(results, source, Hash_Of_Video(program, source, listed));
         if (row.State == Video_State::Waiting && is_done)
-            Show_Earlier_Result(list, number, known->Warned ? Video_State::Warning : Video_State::Done, *known);
+            Show_Earlier_Result(list, number, known->Warnings.isEmpty() ? Video_State::Done : Video_State::Warning,
+                                *known);
         else if (row.State == Video_State::Waiting && failed)
             Show_Earlier_Result(list, number, Video_State::Failed, *known);
         if (!row.Ticked)

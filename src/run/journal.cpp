@@ -4,6 +4,7 @@
 #include "command/companion_files.h"
 #include "command/external_audio.h"
 #include "command/external_subtitles.h"
+#include "run/journal_results.h"
 #include "settings/settings_rows.h"
 #include "state/program.h"
 #include "support/disk_steps.h"
@@ -11,12 +12,10 @@
 #include "support/this_process.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -53,40 +52,11 @@ static QString Status_Word(File_Outcome::Kind status)
     return u"not run"_s;
 }
 
-/// A line that a kill or a full disk has cut is none, and is passed over.
-static void Read_Journal_File(const QString& path, Journal_Results& results)
-{
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return;
-    while (!file.atEnd()) {
-        const QJsonObject line = QJsonDocument::fromJson(file.readLine()).object();
-        const QString status = line[u"status"_s].toString();
-        if (line[u"event"_s] != "result"_L1 || status == "not run"_L1)
-            continue;
-        Journal_Entry& entry = results[line[u"source"_s].toString()];
-        entry = {.Status = status,
-                 .Hash = line[u"hash"_s].toString(),
-                 .Outputs = {},
-                 .Output_Bytes = line[u"output_bytes"_s].toInteger(),
-                 .Warned = !line[u"warnings"_s].toArray().isEmpty(),
-                 .Reason = line[u"reason"_s].toString()};
-        for (const QJsonValue output : line[u"outputs"_s].toArray())
-            entry.Outputs += output.toString();
-    }
-}
-
-Journal_Results Read_Journal(const QString& app_folder)
-{
-    Journal_Results results;
-    for (int number = 1; QFileInfo::exists(Numbered_Journal(app_folder, number)); ++number)
-        Read_Journal_File(Numbered_Journal(app_folder, number), results);
-    return results;
-}
-
 static QByteArray Text_Of_Line(const Program& program, QJsonObject line)
 {
-    line.insert(u"when"_s, program.Now().toString(Qt::ISODateWithMs));
+    const QDateTime now = program.Now();
+    line.insert(u"when"_s, now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODateWithMs));
+    line.insert(u"host"_s, Host_Name());
     return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
 }
 
@@ -136,15 +106,6 @@ QString Note_Start(const Program& program, const QStringList& names)
                            {u"options"_s, QJsonArray::fromStringList(Options_In_Force(program))},
                            {u"names"_s, QJsonArray::fromStringList(names)}};
     return Append_Lines(program, Text_Of_Line(program, line), false);
-}
-
-static std::int64_t Bytes_Of_All(const QStringList& files)
-{
-    std::int64_t bytes = 0;
-    for (const QString& file : files)
-        if (const auto identity = Identity_Of(file))
-            bytes += identity->Size;
-    return bytes;
 }
 
 static QByteArray Result_Line(const Program& program, const File_Outcome& outcome, const QStringList& outputs,
@@ -263,14 +224,4 @@ QString Hash_Of_Video(const Program& program, const QString& source, Known_Listi
     for (const QString& file : Files_That_Go_With(program, source, known))
         Add_File(hash, file);
     return QString::fromLatin1(hash.result().toHex());
-}
-
-bool Is_Done_Before(const Journal_Results& results, const QString& source, const QString& hash)
-{
-    const auto found = results.constFind(source);
-    if (found == results.constEnd() || found->Status != "done"_L1 || found->Hash != hash || found->Outputs.isEmpty())
-        return false;
-    return std::all_of(found->Outputs.begin(), found->Outputs.end(),
-                       [](const QString& output) { return Identity_Of(output).has_value(); }) &&
-           Bytes_Of_All(found->Outputs) == found->Output_Bytes;
 }

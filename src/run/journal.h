@@ -6,30 +6,13 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
-#include <optional>
 #include <utility>
 #include <vector>
 
 struct Program;
 
 /// The journal: one line for each start of a run and for each video's result, in files of the program's folder that are
-/// only ever added to. It is kept by both kinds of run; --resume and --failed read it. docs/formats/journal.md.
-
-/// A video's last result, as it was noted.
-struct Journal_Entry
-{
-    QString Status; ///< "done", "failed", "skipped" or "not run"
-    QString Hash;   ///< of options, source and companions: what would be made again
-    QStringList Outputs;
-    std::int64_t Output_Bytes = 0; ///< of all outputs
-    bool Warned = false;
-    QString Reason; ///< in words
-};
-
-/// All that the journal files of this machine say, by source path: the newest line of each counts.
-using Journal_Results = QHash<QString, Journal_Entry>;
-
-Journal_Results Read_Journal(const QString& app_folder);
+/// only ever added to. It is kept by both kinds of run; run/journal_results reads it. docs/formats/journal.md.
 
 /// The path of the file that the next line goes to.
 QString Journal_Path(const QString& app_folder);
@@ -59,6 +42,3 @@ QString Hash_Of_Video(const Program& program, const QString& source);
 /// lower case. Who hashes many videos at one moment keeps one, so that no folder is listed for each of them anew.
 using Known_Listings = QHash<QString, QList<std::pair<QString, QString>>>;
 QString Hash_Of_Video(const Program& program, const QString& source, Known_Listings& known);
-
-/// True if the journal has this video as done by the same options and files, and the output is still there as it was.
-bool Is_Done_Before(const Journal_Results& results, const QString& source, const QString& hash);

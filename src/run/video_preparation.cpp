@@ -8,6 +8,7 @@
 #include "inspect/json_probe.h"
 #include "run/careful_walk.h"
 #include "run/habits.h"
+#include "run/journal_results.h"
 #include "run/room.h"
 #include "run/split_pieces.h"
 #include "state/program.h"
@@ -41,6 +42,21 @@ bool Open_Source(Video_Work& work, const Folder_Entry& entry)
     return Fail(work, error == ENOENT ? u"it is gone"_s : u"it can't be read: "_s + System_Words(error));
 }
 
+/// Why an old output can't make way: the journal has it as another video's. It isn't looked into while none is there.
+static QString Why_Not_Replaced(Video_Work& work)
+{
+    Careful_Run& run = work.Walk.Run;
+    if (!work.Names.Old.isEmpty() && !run.Makers)
+        run.Makers = Makers_Of_Outputs(Read_Journal(run.Prog.Settings.App_Folder));
+    for (const QString& old : work.Names.Old) {
+        const QString maker = run.Makers->value(work.Walk.Before.Folder() + old);
+        if (!maker.isEmpty() && maker != File_Name_Of(work.Outcome.Source))
+            return u"its output would replace \"%1\", which was made of \"%2\": rename the video, or move that away"_s
+                .arg(old, maker);
+    }
+    return {};
+}
+
 bool Choose_Output(Video_Work& work)
 {
     Careful_Walk& walk = work.Walk;
@@ -58,6 +74,8 @@ bool Choose_Output(Video_Work& work)
     const QString& chosen = work.Names.Name;
     if (const auto first = walk.Claims.constFind(chosen); first != walk.Claims.constEnd())
         return Fail(work, u"its output would be \"%1\", as that of \"%2\""_s.arg(chosen, first.value()));
+    if (const QString why = Why_Not_Replaced(work); !why.isEmpty())
+        return Fail(work, why);
     walk.Claims.insert(chosen, File_Name_Of(work.Outcome.Source));
     work.Outcome.Output = walk.Before.Folder() + chosen;
     const auto old = Identity_Of_Name(work.Outcome.Output);

@@ -10,6 +10,13 @@
 #include <cstdint>
 #include <optional>
 
+/// One of several parts of the videos that a run is one of; each machine takes another.
+struct Shard
+{
+    int Number = 1; ///< from 1
+    int Of = 1;
+};
+
 /// Which of a folder's videos a careful batch takes in work.
 struct Run_Choice
 {
@@ -17,6 +24,7 @@ struct Run_Choice
     bool Only_Failed = false;                ///< only those whose last result in the journal is a failure
     QStringList Only = {};                   ///< wild-card patterns of names; empty: all
     QStringList Leave_Out = {};              ///< wild-card patterns of names
+    Shard Part = {};                         ///< only those whose names fall into it
     std::optional<QSet<QString>> Names = {}; ///< these only, as the list has them ticked; nothing: all
 };
 

@@ -75,7 +75,7 @@ TEST(Completion, BashOffersTheCommandsAndNoSecondOne)
         EXPECT_TRUE(Parse_Batch_Line(QStringList{u"vantorra-batch"_s, command} + file).Options)
             << command.toStdString();
     }
-    EXPECT_EQ(Bash_Offers({Batch_Program, {}}).size(), 4);
+    EXPECT_EQ(Bash_Offers({Batch_Program, {}}).size(), Command_Names().size());
     EXPECT_EQ(Bash_Offers({Batch_Program, u"log"_s, {}}), QStringList());
 }
 

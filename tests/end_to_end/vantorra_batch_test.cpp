@@ -122,6 +122,34 @@ TEST(Vantorra_Batch, ACheckTellsEveryProblemAndWritesNothing)
     EXPECT_EQ(batch.Tree(), before);
 }
 
+TEST(Vantorra_Batch, PartsAreTogetherAllAndEachMachineKnowsWhatTheOthersDid)
+{
+    Batch_Process batch;
+    for (const QString& name : {u"a.mkv"_s, u"a.mp4"_s, u"b.mkv"_s, u"c.mkv"_s, u"d.mkv"_s, u"Ä e.mkv"_s})
+        Place(batch, Short_Video(), u"videos/"_s + name);
+    QStringList sources;
+    for (int part = 1; part <= 3; ++part) {
+        sources += batch.Run(u"--json --careful --shard %1/3"_s.arg(part)).Values(u"result"_s, u"source"_s);
+        const QString journal = batch.Names_In(u"app"_s).filter(u"Vantorra_Journal"_s).last();
+        QFile::rename(batch.Path(u"app/"_s + journal), batch.Path(u"app/Vantorra_Journal-0%1.jsonl"_s.arg(part)));
+    }
+    EXPECT_EQ(sources.removeDuplicates(), 0);
+    EXPECT_EQ(sources.size(), 6);
+    const QStringList left = batch.Run(u"--json --careful --resume"_s).Values(u"result"_s, u"reason"_s);
+    ASSERT_EQ(left.size(), 1);
+    EXPECT_TRUE(left[0].startsWith(u"its output would replace \"a.mkv\", which was made of \"a.mkv\""_s))
+        << left[0].toStdString();
+
+    const auto journal = [&](const QStringList& more) {
+        batch.Start_With(QStringList{u"journal"_s, u"--app-folder"_s, batch.Path(u"app"_s)} + more);
+        return batch.Finish();
+    };
+    EXPECT_EQ(journal({}).Out.count(u"\ndone "_s) + 1, 5) << journal({}).Out.toStdString();
+    EXPECT_TRUE(journal({}).Out.endsWith(u"\n5 done, 1 failed, 0 skipped, 0 not run\n"_s));
+    EXPECT_EQ(journal({u"--failed"_s, u"--json"_s}).Values(u"journal"_s, u"source"_s),
+              QStringList(batch.Path(u"videos/a.mp4"_s)));
+}
+
 TEST(Vantorra_Batch, WhatIsDoneIsLeftOutUntilSomethingChanges)
 {
     Batch_Process batch;
@@ -400,7 +428,7 @@ TEST(Vantorra_Batch, AStopIsObeyedThoughNobodyReadsAndManyVideosAreLeft)
     ::kill(static_cast<pid_t>(batch.Process.processId()), SIGTERM);
     EXPECT_TRUE(batch.Process.waitForFinished());
     EXPECT_EQ(batch.Process.exitCode(), 130);
-    EXPECT_LT(clock.elapsed(), 4000);
+    EXPECT_LT(clock.elapsed(), 15'000) << "and not half a second for each";
     ::close(unread);
 }
 

@@ -30,13 +30,15 @@ TEST(Batch_Options, FoldersAreAbsoluteNeedNoOptionsAndChoicesAddUp)
     EXPECT_EQ(options.App_Folder, here + u"/../app"_s);
     EXPECT_FALSE(options.Dry_Run || options.Json || options.Quiet);
 
-    options = Options_Of(u"\"in put\" /out -nq --careful --resume --failed --only a* --only=b --leave-out -c"_s);
+    options =
+        Options_Of(u"\"in put\" /out -nq --careful --resume --failed --only a* --only=b --leave-out -c --shard 2/10"_s);
     EXPECT_EQ(options.Videos, here + u"/in put"_s);
     EXPECT_EQ(options.Target, u"/out"_s);
     EXPECT_TRUE(options.Dry_Run && options.Quiet && options.Resume && options.Only_Failed);
     EXPECT_EQ(options.Careful, true);
     EXPECT_EQ(options.Only, (QStringList{u"a*"_s, u"b"_s}));
     EXPECT_EQ(options.Leave_Out, QStringList(u"-c"_s));
+    EXPECT_EQ(options.Part.Number * 100 + options.Part.Of, 210);
     EXPECT_EQ(Options_Of(u"run /a /b --classic"_s).Careful, false);
     EXPECT_TRUE(Options_Of(u"--check"_s).Dry_Run);
 
@@ -73,6 +75,9 @@ TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
         {u"--classic --resume"_s, u"--resume belongs to a careful batch"_s},
         {u"--classic --leave-out x"_s, u"--leave-out belongs to a careful batch"_s},
         {u"--only="_s, u"want a pattern"_s},
+        {u"--shard 0/3"_s, u"it is \"0/3\""_s},
+        {u"--shard 4/3"_s, u"wants K/N"_s},
+        {u"--shard 1"_s, u"wants K/N"_s},
         {u"log --check"_s, u"--check belongs to the command run"_s},
         {u"--videos"_s, u"videos"_s},
         {u"--videos="_s, u"--videos wants a folder"_s},

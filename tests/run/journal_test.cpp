@@ -2,6 +2,8 @@
 
 #include "common/test_program.h"
 
+#include "run/journal_results.h"
+
 #include <QFile>
 
 TEST(Journal, AFullFileIsLeftAsItIsAndAllAreRead)
@@ -22,4 +24,42 @@ TEST(Journal, AFullFileIsLeftAsItIsAndAllAreRead)
     const Journal_Results results = Read_Journal(folder);
     EXPECT_EQ(results.value(u"/v/a.avi"_s).Hash, u"new"_s);
     EXPECT_EQ(results.value(u"/v/b.avi"_s).Hash, u"b"_s);
+}
+
+TEST(Journal, TheNewestResultCountsWhateverMachineAndZoneItIsFrom)
+{
+    Test_Program test;
+    const auto line = [](const char* host, const char* when, const char* status, const char* hash) {
+        return QByteArray(R"({"event":"result","source":"/v/a.avi","host":")") + host + R"(","when":")" + when +
+               R"(","status":")" + status + R"(","hash":")" + hash + "\"}\n";
+    };
+
+    struct Row
+    {
+        QByteArray Alpha;
+        QByteArray Beta;
+        QString Hash;
+    };
+
+    const Row rows[] = {
+        {line("alpha", "2026-03-01T12:00:00.000Z", "done", "a"),
+         line("beta", "2026-03-01T12:59:00.000+01:00", "failed", "b"), u"a"_s},
+        {line("alpha", "2026-03-01T12:00:00.000Z", "done", "a"),
+         line("beta", "2026-03-01T13:01:00.000+01:00", "failed", "b"), u"b"_s},
+        {line("alpha", "2026-03-01T12:00:00.000Z", "done", "a"),
+         line("beta", "2026-03-02T12:00:00.000Z", "not run", "b"), u"a"_s},
+        {line("alpha", "2026-03-01T12:00:00.000Z", "not run", "a"),
+         line("beta", "2026-02-01T12:00:00.000Z", "done", "b"), u"b"_s},
+        // A clock that was set back.
+        {line("alpha", "2026-03-01T12:00:00.000Z", "failed", "a") +
+             line("alpha", "2026-03-01T11:00:00.000Z", "done", "a2"),
+         {},
+         u"a2"_s},
+    };
+    for (const Row& row : rows) {
+        test.Write(u"app/Vantorra_Journal-alpha.jsonl"_s, row.Alpha);
+        test.Write(u"app/Vantorra_Journal-beta-2.jsonl"_s, row.Beta);
+        EXPECT_EQ(Read_Journal(test.Prog.Settings.App_Folder).value(u"/v/a.avi"_s).Hash, row.Hash)
+            << row.Beta.constData();
+    }
 }
