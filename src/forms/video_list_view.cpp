@@ -221,14 +221,16 @@ void Video_List_View::Enable_Commands()
         action->setEnabled(Is_Possible(program_, action->objectName()));
 }
 
-/// Who comes by the keyboard finds a row marked, for the commands. A click marks its own.
+/// Who comes by the keyboard finds a row marked, for the commands, and in sight. A click marks its own.
 void Video_List_View::Mark_A_Row(Qt::FocusReason reason)
 {
     const bool by_key = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-    if (!by_key || !program_.Videos.Selected.empty() || model_.rowCount() == 0)
+    if (!by_key || model_.rowCount() == 0)
         return;
-    const QModelIndex current = ui_->tbl_Videos->currentIndex();
-    ui_->tbl_Videos->selectRow(current.isValid() ? current.row() : 0);
+    const int current = std::max(0, ui_->tbl_Videos->currentIndex().row());
+    if (program_.Videos.Selected.empty())
+        ui_->tbl_Videos->selectRow(current);
+    ui_->tbl_Videos->scrollTo(model_.index(current, 0));
 }
 
 /// Rows came or went: what is marked stays marked, as far as it is shown. No command reaches what isn't seen.
@@ -336,6 +338,12 @@ bool Video_List_View::eventFilter(QObject* watched, QEvent* event)
     }
     if (watched == ui_->txt_VideoFilter && key.key() == Qt::Key_Down) {
         ui_->tbl_Videos->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    // Left alone they go to the ends of the row, which is marked as a whole.
+    const bool end = key.key() == Qt::Key_End;
+    if (watched == ui_->tbl_Videos && (end || key.key() == Qt::Key_Home) && key.modifiers() == Qt::NoModifier) {
+        ui_->tbl_Videos->setCurrentIndex(model_.index(end ? model_.rowCount() - 1 : 0, 0));
         return true;
     }
     return false;

@@ -65,7 +65,7 @@ static QString Result_Text(const Video_Row& row)
     if (row.State == Video_State::Working || (text.isEmpty() && !row.Forecast.isEmpty()))
         return text.isEmpty() ? row.Forecast : text;
     if (text.isEmpty() && Has_Output(row))
-        text = File_Name_Of(row.Output);
+        text = File_Name_Of(row.Output) + (row.Pieces > 1 ? u", %1 pieces"_s.arg(row.Pieces) : QString());
     if (row.Seconds_Taken <= 0)
         return text;
     const QString taken = row.Seconds_Taken < 10 ? QString::number(row.Seconds_Taken, 'f', 1) + u" s"_s

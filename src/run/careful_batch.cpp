@@ -67,7 +67,8 @@ static void Take_Turn(Careful_Walk& walk, const Folder_Entry& video)
         program.Listener->File_Finished(outcome);
     Digest_Results(program);
     ++run.Videos_Done;
-    Show_Files_Done(program.Form, u' ' + Target_Box_Headline, run.Videos_Done);
+    if (!run.Checking)
+        Show_Files_Done(program.Form, u' ' + Target_Box_Headline, run.Videos_Done);
     program.Person.Pump_Events();
 }
 

@@ -94,5 +94,7 @@ File_Outcome Run_Careful_Video(Careful_Walk& walk, const Folder_Entry& entry)
     if (work.Outcome.Status != File_Outcome::Kind::Done)
         Note_Result(program, work.Outcome, {}, work.Hash, false);
     Log_Outcome(program, work.Outcome);
+    if (!work.Outcome.Pieces.isEmpty())
+        work.Outcome.Output = work.Outcome.Pieces.constFirst();
     return work.Outcome;
 }

@@ -141,6 +141,7 @@ void Video_List_Watch::Take_Result(int number, const File_Outcome& outcome) cons
     row.State = State_Of(outcome);
     row.Percent = 0;
     row.Output = outcome.Status == File_Outcome::Kind::Done ? outcome.Output : QString();
+    row.Pieces = outcome.Pieces.size();
     row.Reason = outcome.Reason;
     row.Warnings = outcome.Warnings;
     row.Seconds_Taken = outcome.Seconds;

@@ -44,8 +44,9 @@ struct Video_Row
     QString Forecast;                  ///< of a check: that it would be skipped, or replace something
 
     // Known once it had its turn
-    QString Output; ///< path of what it became, or would become
-    QString Reason; ///< in words, one line; empty where it is plainly done
+    QString Output;       ///< path of what it became, or would become; of a split its first piece
+    qsizetype Pieces = 0; ///< of a split: how many it became
+    QString Reason;       ///< in words, one line; empty where it is plainly done
     QStringList Warnings;
     double Seconds_Taken = 0;
     bool From_Journal =

@@ -391,6 +391,7 @@ int Expected_Exit(const Batch_Result& result)
             return 130;
         if (status == u"failed"_s || (!warnings.isEmpty() && !event.contains(u"pieces"_s)))
             exit = 2;
+        EXPECT_TRUE(!event.contains(u"pieces"_s) || event[u"output"_s] == event[u"pieces"_s][0]);
         for (const QString& told : warnings + QStringList{event[u"reason"_s].toString()})
             EXPECT_TRUE(result.Err.contains(told) || status == u"not run"_s) << told.toStdString();
     }

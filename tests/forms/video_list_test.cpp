@@ -147,7 +147,9 @@ TEST_F(Window_List, ItsCommandsShowAndCopyWhatIsKnownOfARow)
     Window.Form().activateWindow();
     Press(Table(), Qt::Key_F, Qt::ControlModifier);
     Press(Table(), Qt::Key_Down);
-    EXPECT_TRUE(Window.Action("mnu_VideoLog").isEnabled()) << "the first row is marked";
+    EXPECT_EQ(Window.Prog().Videos.Selected, std::vector{0});
+    Press(Table(), Qt::Key_End);
+    EXPECT_EQ(Window.Prog().Videos.Selected, std::vector{2});
     EXPECT_FALSE(Window.Action("mnu_VideoCommand").isEnabled()) << "nothing is known yet";
     Click_On(Window.Get("chip_Failed"));
     EXPECT_FALSE(Window.Action("mnu_VideoLog").isEnabled()) << "it is out of sight";

@@ -153,6 +153,8 @@ TEST(VideoList, CellsSayWhatIsKnown)
     row.Bytes = 12'400'000;
     row.Seconds_Taken = 72;
     EXPECT_EQ(Cell_Text(row, Video_Column::Result, true), u"Film.mkv  (1:12)");
+    row.Pieces = 3;
+    EXPECT_EQ(Cell_Text(row, Video_Column::Result, true), u"Film.mkv, 3 pieces  (1:12)");
     EXPECT_EQ(Cell_Text(row, Video_Column::Length, true), u"1:01:01");
     EXPECT_EQ(Cell_Text(row, Video_Column::Size, true), u"12.4 MB");
     row.Reason = u"it failed"_s;
