@@ -28,7 +28,7 @@ class Startform;
 inline constexpr int Low_Screen = 800;
 
 /// On one with fewer than this a folder that isn't in view keeps no place for itself.
-inline constexpr int Very_Low_Screen = 480;
+inline constexpr int Very_Low_Screen = 640;
 
 /// The main form. Holds no rule: an event calls one, then the records are rendered. Controls carry the names of the
 /// fields that they show.

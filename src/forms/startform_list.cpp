@@ -60,9 +60,14 @@ bool Startform::Has_Room_For_List() const
 void Startform::Divide()
 {
     QSplitter& splitter = *ui_->spl_Main;
-    if (!list_->Is_Open() || ui_->scr_Options->isHidden())
+    if (!list_->Is_Open())
         return;
     const int room = splitter.height() - splitter.handleWidth();
+    if (ui_->scr_Options->isHidden()) { // all of their room is the list's
+        const int folders = ui_->fram_Paths->sizeHint().height();
+        splitter.setSizes({folders, room - folders});
+        return;
+    }
     const int kept = program_.Settings.Extensions.Video_List_Height;
     const int wanted = kept > 0 ? kept : room - Height_Of_Form(*ui_, *options_);
     const int list = std::max(list_->minimumSizeHint().height(), wanted);

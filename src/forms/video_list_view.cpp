@@ -12,6 +12,7 @@
 #include "ui_video_list_view.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -131,10 +132,16 @@ void Video_List_View::Set_Looks()
     const QFontMetrics metrics = fontMetrics();
     table.verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
     table.setMinimumHeight(metrics.height() * 5);
+    QColor faint = QApplication::palette().color(QPalette::Text); // some desktops' dark palettes leave it black
+    faint.setAlphaF(0.5F);
+    QPalette filter;
+    filter.setColor(QPalette::PlaceholderText, faint);
+    ui_->txt_VideoFilter->setPalette(filter);
     Share_Width();
 }
 
-/// What a wide window has more than the columns need goes to those with words, until the person has set one.
+/// What the window has more or less than the columns need goes to or is taken from those with words, until the person
+/// has set one: the result, the last of them, is to be seen without scrolling.
 void Video_List_View::Share_Width()
 {
     if (own_widths_)
@@ -143,11 +150,13 @@ void Video_List_View::Share_Width()
     constexpr int usual[] = {12, 38, 9, 10, 20, 22};
     constexpr int result = 40;
     constexpr double share[] = {0, 0.4, 0, 0, 0.15, 0.15}; // the rest is the result's
+    constexpr int least[] = {12, 24, 9, 10, 11, 13};
     const int em = fontMetrics().horizontalAdvance(u'0');
     const int needed = std::accumulate(std::begin(usual), std::end(usual), result) * em;
-    const int more = std::max(0, ui_->tbl_Videos->viewport()->width() - needed);
+    const int more = ui_->tbl_Videos->viewport()->width() - needed;
     for (int column = 0; column < 6; ++column)
-        ui_->tbl_Videos->setColumnWidth(column, usual[column] * em + static_cast<int>(more * share[column]));
+        ui_->tbl_Videos->setColumnWidth(
+            column, std::max(least[column] * em, usual[column] * em + static_cast<int>(more * share[column])));
 }
 
 bool Video_List_View::Is_Open() const
