@@ -39,6 +39,6 @@ QSize Elided_Label::sizeHint() const
 void Elided_Label::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine, palette(),
                           isEnabled(), Shown_Text(), foregroundRole());
 }

@@ -4,7 +4,10 @@
 
 #include <QApplication>
 
-Summary_Label::Summary_Label(QWidget* parent) : Elided_Label(parent, Qt::ElideRight) {}
+Summary_Label::Summary_Label(QWidget* parent) : Elided_Label(parent, Qt::ElideRight)
+{
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
 
 void Summary_Label::Set_Look(Summary_Look look)
 {
