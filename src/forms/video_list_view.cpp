@@ -149,8 +149,8 @@ void Video_List_View::Share_Width()
     const QScopedValueRollback sharing(sharing_, true);
     constexpr int usual[] = {12, 38, 9, 10, 20, 22};
     constexpr int result = 40;
-    constexpr double share[] = {0, 0.4, 0, 0, 0.15, 0.15}; // the rest is the result's
-    constexpr int least[] = {12, 24, 9, 10, 11, 13};
+    constexpr double share[] = {0, 0.3, 0, 0, 0.2, 0.2}; // the rest is the result's
+    constexpr int least[] = {12, 31, 9, 10, 11, 13};
     const int em = fontMetrics().horizontalAdvance(u'0');
     const int needed = std::accumulate(std::begin(usual), std::end(usual), result) * em;
     const int more = ui_->tbl_Videos->viewport()->width() - needed;
