@@ -15,13 +15,21 @@ Video_List_Model::Video_List_Model(const Video_List& list, QObject* parent) : QA
 
 void Video_List_Model::Set_Looks(const QPalette& palette)
 {
-    for (std::size_t state = 0; state < icons_.size(); ++state)
-        icons_[state] = State_Icon(static_cast<Video_State>(state), palette);
+    palette_ = palette;
+    icons_ = {};
     good_ = Finished_Colour(palette);
     odd_ = Mark_Colour(palette);
     bad_ = Fault_Colour(palette);
     if (!shown_.empty())
         emit dataChanged(index(0, 0), index(rowCount() - 1, Columns - 1));
+}
+
+const QIcon& Video_List_Model::Icon_Of(Video_State state) const
+{
+    QIcon& icon = icons_[static_cast<std::size_t>(state)];
+    if (icon.isNull())
+        icon = State_Icon(state, palette_);
+    return icon;
 }
 
 bool Video_List_Model::Render()
@@ -108,7 +116,7 @@ QVariant Video_List_Model::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return Literal_Tool_Tip(Cell_Hint(row, column)).replace(u'\n', u"<br>"_s);
     case Qt::DecorationRole:
-        return column == Video_Column::State ? icons_[static_cast<std::size_t>(state)] : QVariant();
+        return column == Video_Column::State ? Icon_Of(state) : QVariant();
     case Qt::CheckStateRole:
         return column == Video_Column::Video && list_.Takes_Ticks ? (row.Ticked ? Qt::Checked : Qt::Unchecked)
                                                                   : QVariant();

@@ -4,9 +4,8 @@
 
 #include <QAbstractTableModel>
 #include <QIcon>
+#include <QPalette>
 #include <array>
-
-class QPalette;
 
 /// The rows of the list that are shown, in the order in which they are: a view of the record, with no copy of it.
 class Video_List_Model : public QAbstractTableModel
@@ -41,13 +40,15 @@ class Video_List_Model : public QAbstractTableModel
   private:
     const Video_Row& Row(int row) const { return list_.Rows[static_cast<std::size_t>(Number_Of(row))]; }
 
+    const QIcon& Icon_Of(Video_State state) const;
     void Tell_Changes(std::uint64_t since);
 
     const Video_List& list_;
     std::vector<int> shown_; ///< numbers in the record
     std::vector<int> rows_;  ///< by number: the shown row, or -1
     std::uint64_t stamp_ = 0;
-    std::array<QIcon, 8> icons_; ///< by Video_State
+    QPalette palette_;
+    mutable std::array<QIcon, 8> icons_; ///< by Video_State; drawn when first asked for, not ahead of the first picture
     QColor good_;
     QColor odd_;
     QColor bad_;

@@ -80,7 +80,9 @@ TEST(Vantorra_Batch, ADryRunWritesNothingAtAll)
     // A refusal, the settings and a run-time error leave nothing, either.
     batch.Start_With({u"settings"_s, u"--dry-run"_s, u"--app-folder"_s, batch.Path(u"app"_s)});
     EXPECT_EQ(batch.Finish().Exit, 0);
-    EXPECT_EQ(batch.Run(u"--dry-run --target gone"_s).Exit, 1);
+    const Batch_Result refused = batch.Run(u"--dry-run --target gone"_s);
+    EXPECT_EQ(refused.Exit, 1);
+    EXPECT_TRUE(refused.Err.contains(u"gone\" is no folder that can be opened."_s)) << refused.Err.toStdString();
     EXPECT_EQ(batch.Run(u"--dry-run --set MainWindow/Left=far"_s).Exit, 64);
     EXPECT_EQ(batch.Tree(), before);
 }

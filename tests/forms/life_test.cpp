@@ -141,10 +141,12 @@ TEST(Window_Life, AfterAStartWithoutAWindowTheFirstOneIsCentredAtItsOwnSize)
     EXPECT_NEAR(window.Form().geometry().center().y(), area.center().y(), 1);
 
     const QPoint centre = window.Form().geometry().center();
-    window.Form().move(0, 0);
-    QCoreApplication::processEvents();
-    Press(window.Form(), Qt::Key_F12);
-    EXPECT_EQ(window.Form().geometry().center(), centre);
+    for (const QPoint& corner : {QPoint(0, 0), QPoint(window.Form().x(), 0)}) {
+        window.Form().move(corner);
+        QCoreApplication::processEvents();
+        Press(window.Form(), Qt::Key_F12);
+        EXPECT_EQ(window.Form().geometry().center(), centre);
+    }
 }
 
 TEST(Window_Life, AnErrorThatCantBeGoneOnFromIsLoggedToldOnceAndEndsTheProgram)
