@@ -46,7 +46,7 @@ void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program);
 void mnu_IdentifyWithAnyMkvmerge_Click(Program& program);
 void mnu_TellAtTheEnd_Click(Program& program);
 
-/// What a run that came to its end is followed by: one of two items has the tick, for this session.
+/// What a run that came to its end is followed by: one of two items has the tick. Never stored.
 void mnu_WhenDoneNothing_Click(Program& program);
 void mnu_WhenDoneQuit_Click(Program& program);
 

@@ -58,7 +58,7 @@ struct Main_Form
     Label lbl_RunSummary;         ///< how the run goes, or how the last one went; empty: there was none
     Summary_Look Summary = Summary_Look::Plain;
     QString Halt_Question;       ///< what the person is asked while the run goes on; empty: nothing
-    bool Quit_When_Done = false; ///< the program ends behind a run that finished; for this session
+    bool Quit_When_Done = false; ///< the program ends behind a run that finished; never stored
     Label lbl_Notice;            ///< in the status bar: what the last action had to say that belongs to no box
 
     // Folder panels: the box with its headline, the path, the fault, the mark "Empty"
