@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
+#include <chrono>
 #include <filesystem>
 
 using namespace Qt::StringLiterals;
@@ -40,8 +41,14 @@ static const QString Waiting_Entry_Prefix = QStringLiteral("Vantorra_ProcessNEW-
 
 QString New_Waiting_Entry_Path(const QString& app_folder)
 {
-    const QString now = QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-hhmmss-zzz-"_s);
-    return app_folder + Waiting_Entry_Prefix + now + QUuid::createUuid().toString(QUuid::Id128).left(8) + u".log"_s;
+    using namespace std::chrono;
+    // They go into the log in the order of their names, so that two of one millisecond have to differ, too.
+    const auto now = system_clock::now().time_since_epoch();
+    const QString second =
+        QDateTime::fromSecsSinceEpoch(floor<seconds>(now).count(), Qt::UTC).toString(u"yyyyMMdd-hhmmss-"_s);
+    const QString part = QString::number((now % 1s) / 1ns).rightJustified(9, u'0');
+    return app_folder + Waiting_Entry_Prefix + second + part + u'-' +
+           QUuid::createUuid().toString(QUuid::Id128).left(8) + u".log"_s;
 }
 
 QStringList Waiting_Entries(const QString& app_folder)
