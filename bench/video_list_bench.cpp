@@ -118,7 +118,7 @@ static void Row_At_Work(benchmark::State& state, Seen_List& list)
     list.Prog.Videos.In_Work = 3;
     int percent = 0;
     for ([[maybe_unused]] auto _ : state) {
-        Set_Percent(list.Prog.Videos, percent++ % 100);
+        Set_Percent(list.Prog.Videos, 3, percent++ % 100);
         list.Picture();
     }
 }

@@ -49,6 +49,10 @@ _vantorra_batch()
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return
             ;;
+        --jobs)
+            mapfile -t COMPREPLY < <(compgen -W "auto 1 2 4 8" -- "$word")
+            return
+            ;;
         --tick | --untick)
             mapfile -t COMPREPLY < <(compgen -W "$(_vantorra_batch_list boxes)" -- "$word")
             return

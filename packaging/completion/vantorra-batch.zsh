@@ -38,10 +38,11 @@ _arguments -s \
     '*--tick[tick a check box]:check box:_vantorra_batch_boxes' \
     '*--untick[untick a check box]:check box:_vantorra_batch_boxes' \
     '(--classic)--careful[run as a careful batch]' \
-    '(--careful --recursive --resume --failed --only --leave-out --shard)--classic[run as a classic batch]' \
+    '(--careful --recursive --jobs --resume --failed --only --leave-out --shard)--classic[run as a classic batch]' \
     '(-n --dry-run)'{-n,--dry-run}'[print each mkvmerge command, run none]' \
     '--check[tell what would come of each video and what is wrong with it]' \
     '(--classic)--recursive[take the folders below, too]' \
+    '(--classic)--jobs[work on so many videos at once]:number:(auto 1 2 4 8)' \
     '(--classic)--resume[leave out what is done already]' \
     '(--classic)--failed[take only what failed last]' \
     '*--only[take only videos of such names]:pattern:' \

@@ -3,10 +3,13 @@
 #include "headless/completion_list.h"
 #include "headless/nearest_name.h"
 #include "life/app_folder.h"
+#include "state/settings_state.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QRegularExpression>
+#include <QThread>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -63,6 +66,10 @@ static std::vector<Option_Row> Run_Options()
          {Batch_Command::Run, Batch_Command::Settings, Batch_Command::Identify}},
         {{u"check"_s}, u"Like --dry-run, but tell what would come of each video and what is wrong with it."_s, {}, run},
         {{u"recursive"_s}, u"Take the folders below the videos' folder, too (careful only)."_s, {}, run},
+        {{u"jobs"_s},
+         u"Work on N videos at once, 1 to 16; \"auto\": as many as there are cores, at most 4 (careful only)."_s,
+         u"N"_s,
+         run},
         {{u"resume"_s}, u"Leave out what is done already and hasn't changed since (careful only)."_s, {}, run},
         {{u"failed"_s},
          u"Take only what failed last (careful only)."_s,
@@ -218,6 +225,22 @@ static QString Take_Part(const QCommandLineParser& parser, Shard& part)
                : u"--shard wants K/N, the K-th of N parts, such as 2/3; it is \"%1\"."_s.arg(parser.value(u"shard"_s));
 }
 
+static QString Take_Jobs(const QCommandLineParser& parser, Batch_Options& options)
+{
+    constexpr int most_by_itself = 4;
+    if (!parser.isSet(u"jobs"_s))
+        return {};
+    const QString value = parser.value(u"jobs"_s);
+    bool is_number = false;
+    int jobs = value.toInt(&is_number);
+    if (value == "auto"_L1)
+        jobs = std::clamp(QThread::idealThreadCount(), 1, most_by_itself);
+    else if (!is_number || jobs < 1 || jobs > Most_At_Once)
+        return u"--jobs wants a number from 1 to %1, or \"auto\": \"%2\" is none."_s.arg(Most_At_Once).arg(value);
+    options.At_Once = jobs;
+    return {};
+}
+
 static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& options)
 {
     const bool classic = parser.isSet(u"classic"_s);
@@ -225,7 +248,8 @@ static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& opti
         return u"A run is either --careful or --classic."_s;
     if (classic || parser.isSet(u"careful"_s))
         options.Careful = !classic;
-    for (const QString& name : {u"recursive"_s, u"resume"_s, u"failed"_s, u"only"_s, u"leave-out"_s, u"shard"_s})
+    for (const QString& name :
+         {u"recursive"_s, u"jobs"_s, u"resume"_s, u"failed"_s, u"only"_s, u"leave-out"_s, u"shard"_s})
         if (classic && parser.isSet(name))
             return u"--%1 belongs to a careful batch: it can't go with --classic."_s.arg(name);
     options.Recursive = parser.isSet(u"recursive"_s);
@@ -288,6 +312,8 @@ static QString Take_Options(const QCommandLineParser& parser, Batch_Options& opt
     if (QString mistake = Refuse_Foreign_Options(parser, options.Command); !mistake.isEmpty())
         return mistake;
     if (QString mistake = Take_Choice(parser, options); !mistake.isEmpty())
+        return mistake;
+    if (QString mistake = Take_Jobs(parser, options); !mistake.isEmpty())
         return mistake;
     return Take_Positional(positional, options);
 }

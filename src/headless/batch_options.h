@@ -37,6 +37,7 @@ struct Batch_Options
     bool Check = false;               ///< a dry run that is told as a table
     std::optional<bool> Careful = {}; ///< --careful or --classic; nothing: as the settings say
     bool Recursive = false;
+    std::optional<int> At_Once = {}; ///< --jobs; nothing: as the settings say
     bool Resume = false;
     bool Only_Failed = false;   ///< run, journal
     QStringList Only = {};      ///< patterns of names; empty: all

@@ -35,11 +35,13 @@ static void Choose_Videos(Program& program, const Batch_Options& options)
                           .Part = options.Part};
     if (options.Recursive)
         program.Settings.Extensions.Include_Subfolders = true;
+    program.Settings.Extensions.Videos_At_Once = options.At_Once.value_or(program.Settings.Extensions.Videos_At_Once);
     const bool chosen = options.Recursive || options.Resume || options.Only_Failed || !options.Only.isEmpty() ||
-                        !options.Leave_Out.isEmpty() || options.Part.Of > 1;
+                        !options.Leave_Out.isEmpty() || options.Part.Of > 1 || options.At_Once.has_value();
     if (chosen && !options.Careful.value_or(program.Settings.Extensions.Careful_Batch))
-        throw Bad_Usage{u"--recursive, --resume, --failed, --only, --leave-out and --shard belong to a careful batch, "
-                        u"which the settings turn off: add --careful."_s};
+        throw Bad_Usage{
+            u"--recursive, --jobs, --resume, --failed, --only, --leave-out and --shard belong to a careful batch, "
+            u"which the settings turn off: add --careful."_s};
 }
 
 /// Where the window shows an unticked box nobody sees one here: what the settings ask for stays asked for, and each

@@ -86,7 +86,17 @@ void Batch_Report::File_Started(int, const QString& source)
 {
     source_ = source;
     // Now: it may be in the trash when it is done.
-    source_bytes_ = QFileInfo(source).size();
+    in_work_.insert(source, {.Bytes = QFileInfo(source).size(), .Percent = 0});
+}
+
+void Batch_Report::Progress(const QString& source, int percent, int)
+{
+    in_work_[source].Percent = percent;
+}
+
+double Batch_Report::Bytes_Done() const
+{
+    return static_cast<double>(counts_.Bytes) + Bytes_Done_Of(in_work_);
 }
 
 void Batch_Report::Warned(const QString& title, const QString& text)
@@ -131,12 +141,11 @@ void Batch_Report::Say_Reasons(const File_Outcome& outcome)
 
 void Batch_Report::File_Finished(const File_Outcome& outcome)
 {
-    Count_Outcome(outcome, source_bytes_, counts_);
+    Count_Outcome(outcome, in_work_.take(outcome.Source).Bytes, counts_);
     if (program_->Run.Dry_Run && !Problems_Of(outcome).isEmpty())
         ++counts_.Problems;
     Say_Reasons(outcome);
     source_.clear();
-    source_bytes_ = 0;
     warned_.clear();
     Say_Boxes();
 }

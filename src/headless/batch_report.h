@@ -53,6 +53,7 @@ class Batch_Report : public Run_Listener
 
     void Run_Started(int files) override;
     void File_Started(int index, const QString& source) override;
+    void Progress(const QString& source, int percent, int overall) override;
     void Warned(const QString& title, const QString& text) override;
     void File_Finished(const File_Outcome& outcome) override;
     void Refused(const QString& reason) override;
@@ -67,9 +68,8 @@ class Batch_Report : public Run_Listener
     /// Writes one line to standard error; control characters in it are made harmless.
     virtual void Complain(const QString& line);
 
-    const QString& Source_In_Work() const { return source_; }
-
-    qint64 Bytes_In_Work() const { return source_bytes_; }
+    /// How much was worked through, by the sizes of the sources.
+    double Bytes_Done() const;
 
     /// The boxes that wait for a result which never came, or which has no words of its own.
     void Say_Boxes();
@@ -89,8 +89,8 @@ class Batch_Report : public Run_Listener
     std::FILE* out_;
     std::FILE* err_;
     const Program* program_ = nullptr;
-    QString source_;
-    qint64 source_bytes_ = 0;
+    QString source_; ///< of the file that was taken in work last, until a file is done
+    Videos_In_Work in_work_;
     QElapsedTimer clock_;
     QStringList reasons_;
     QStringList habits_told_;

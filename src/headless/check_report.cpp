@@ -8,9 +8,9 @@
 
 using namespace Qt::StringLiterals;
 
-void Check_Report::Command_Ready(const QString&, const QString&, const Command_Line& command)
+void Check_Report::Command_Ready(const Program& video, const QString&, const QString&)
 {
-    facts_ = Check_Facts_Of(Watched(), command);
+    facts_ = Check_Facts_Of(video, video.Run.Mkvmerge_Arguments);
 }
 
 void Check_Report::Say_Reasons(const File_Outcome& outcome)

@@ -9,7 +9,7 @@ class Check_Report : public Batch_Report
   public:
     using Batch_Report::Batch_Report;
 
-    void Command_Ready(const QString& source, const QString& output, const Command_Line& command) override;
+    void Command_Ready(const Program& video, const QString& source, const QString& output) override;
     void Ended(Batch_End end, int exit) override;
 
   protected:

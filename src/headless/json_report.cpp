@@ -39,10 +39,11 @@ void Json_Report::File_Started(int index, const QString& source)
     Print_Json(Out(), {{"event", "file"}, {"index", index}, {"source", Text(source)}});
 }
 
-void Json_Report::Command_Ready(const QString& source, const QString& output, const Command_Line& command)
+void Json_Report::Command_Ready(const Program& video, const QString& source, const QString& output)
 {
+    const Command_Line& command = video.Run.Mkvmerge_Arguments;
     if (check_)
-        facts_ = Check_Facts_Of(Watched(), command);
+        facts_ = Check_Facts_Of(video, command);
     Print_Json(Out(), {{"event", "command"},
                        {"source", Text(source)},
                        {"output", Text(output)},
@@ -50,10 +51,9 @@ void Json_Report::Command_Ready(const QString& source, const QString& output, co
                        {"arguments", Texts(command.Arguments())}});
 }
 
-void Json_Report::Progress(int percent, int overall)
+void Json_Report::Progress(const QString& source, int percent, int overall)
 {
-    Print_Json(Out(),
-               {{"event", "progress"}, {"source", Text(Source_In_Work())}, {"percent", percent}, {"overall", overall}});
+    Print_Json(Out(), {{"event", "progress"}, {"source", Text(source)}, {"percent", percent}, {"overall", overall}});
 }
 
 void Json_Report::Tell(int code, const QString& title, const QString& text)

@@ -12,8 +12,8 @@ class Json_Report : public Batch_Report
 
     void Run_Started(int files) override;
     void File_Started(int index, const QString& source) override;
-    void Command_Ready(const QString& source, const QString& output, const Command_Line& command) override;
-    void Progress(int percent, int overall) override;
+    void Command_Ready(const Program& video, const QString& source, const QString& output) override;
+    void Progress(const QString& source, int percent, int overall) override;
     void File_Finished(const File_Outcome& outcome) override;
     void Ended(Batch_End end, int exit) override;
 

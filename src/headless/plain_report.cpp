@@ -18,11 +18,12 @@ void Plain_Report::Complain(const QString& line)
     Batch_Report::Complain(line);
 }
 
-void Plain_Report::Command_Ready(const QString&, const QString&, const Command_Line& command)
+void Plain_Report::Command_Ready(const Program& video, const QString&, const QString&)
 {
     if (Watched().Run.Dry_Run)
-        Print_Text(Out(),
-                   Shell_Quoted(QStringList{Watched().Tools.System_MKVMerge_Path} + command.Arguments()) + u'\n');
+        Print_Text(Out(), Shell_Quoted(QStringList{Watched().Tools.System_MKVMerge_Path} +
+                                       video.Run.Mkvmerge_Arguments.Arguments()) +
+                              u'\n');
 }
 
 void Plain_Report::Run_Started(int files)
@@ -37,16 +38,15 @@ void Plain_Report::File_Started(int index, const QString& source)
     index_ = index;
 }
 
-void Plain_Report::Progress(int percent, int overall)
+void Plain_Report::Progress(const QString& source, int percent, int overall)
 {
+    Batch_Report::Progress(source, percent, overall);
     // Speed and rest are guesses that need a moment.
     constexpr double first_guess = 2;
     const double seconds = static_cast<double>(Milliseconds()) / 1000;
-    Bar_Facts facts{
-        .Index = index_, .Files = files_, .Percent = overall, .Name = Printable(File_Name_Of(Source_In_Work()))};
+    Bar_Facts facts{.Index = index_, .Files = files_, .Percent = overall, .Name = Printable(File_Name_Of(source))};
     if (seconds >= first_guess) {
-        const double bytes = static_cast<double>(Counts().Bytes) + static_cast<double>(Bytes_In_Work()) * percent / 100;
-        facts.Bytes_A_Second = bytes / seconds;
+        facts.Bytes_A_Second = Bytes_Done() / seconds;
         if (overall > 0)
             facts.Seconds_Left = static_cast<qint64>(seconds * (100 - overall) / overall);
     }

@@ -11,10 +11,10 @@ class Plain_Report : public Batch_Report
   public:
     Plain_Report(bool quiet, std::FILE* out, std::FILE* err);
 
-    void Command_Ready(const QString& source, const QString& output, const Command_Line& command) override;
+    void Command_Ready(const Program& video, const QString& source, const QString& output) override;
     void Run_Started(int files) override;
     void File_Started(int index, const QString& source) override;
-    void Progress(int percent, int overall) override;
+    void Progress(const QString& source, int percent, int overall) override;
     void Ended(Batch_End end, int exit) override;
 
   protected:

@@ -159,6 +159,12 @@ static void Choose_Output_Exists(Program& program, Output_Exists choice)
     Default_Run(program);
 }
 
+static void Choose_At_Once(Program& program, int videos)
+{
+    program.Settings.Extensions.Videos_At_Once = videos;
+    Default_Run(program);
+}
+
 void mnu_KeepEnglishTitledAudio_Click(Program& program)
 {
     Flip(program, program.Options.Keep_English_Audio);
@@ -203,6 +209,26 @@ void mnu_OutputExistsSkip_Click(Program& program)
 void mnu_OutputExistsNumber_Click(Program& program)
 {
     Choose_Output_Exists(program, Output_Exists::Number);
+}
+
+void mnu_AtOnce1_Click(Program& program)
+{
+    Choose_At_Once(program, 1);
+}
+
+void mnu_AtOnce2_Click(Program& program)
+{
+    Choose_At_Once(program, 2);
+}
+
+void mnu_AtOnce4_Click(Program& program)
+{
+    Choose_At_Once(program, 4);
+}
+
+void mnu_AtOnce8_Click(Program& program)
+{
+    Choose_At_Once(program, 8);
 }
 
 void mnu_IncludeSubfolders_Click(Program& program)
@@ -313,6 +339,14 @@ const std::vector<Menu_Tick>& Menu_Choices()
              return program.Settings.Extensions.If_The_Output_Exists == Output_Exists::Number;
          },
          mnu_OutputExistsNumber_Click},
+        {u"mnu_AtOnce1"_s, u"1"_s,
+         [](const Program& program) { return program.Settings.Extensions.Videos_At_Once == 1; }, mnu_AtOnce1_Click},
+        {u"mnu_AtOnce2"_s, u"2"_s,
+         [](const Program& program) { return program.Settings.Extensions.Videos_At_Once == 2; }, mnu_AtOnce2_Click},
+        {u"mnu_AtOnce4"_s, u"4"_s,
+         [](const Program& program) { return program.Settings.Extensions.Videos_At_Once == 4; }, mnu_AtOnce4_Click},
+        {u"mnu_AtOnce8"_s, u"8"_s,
+         [](const Program& program) { return program.Settings.Extensions.Videos_At_Once == 8; }, mnu_AtOnce8_Click},
         {u"mnu_WhenDoneNothing"_s, u"Do Nothing"_s, [](const Program& program) { return !program.Form.Quit_When_Done; },
          mnu_WhenDoneNothing_Click},
         {u"mnu_WhenDoneQuit"_s, u"Quit"_s, [](const Program& program) { return program.Form.Quit_When_Done; },

@@ -39,6 +39,11 @@ void mnu_CarefulBatch_Click(Program& program);
 void mnu_OutputExistsReplace_Click(Program& program);
 void mnu_OutputExistsSkip_Click(Program& program);
 void mnu_OutputExistsNumber_Click(Program& program);
+/// How many videos a careful batch works on side by side: one of four items has the tick, or none.
+void mnu_AtOnce1_Click(Program& program);
+void mnu_AtOnce2_Click(Program& program);
+void mnu_AtOnce4_Click(Program& program);
+void mnu_AtOnce8_Click(Program& program);
 void mnu_IncludeSubfolders_Click(Program& program);
 void mnu_SensibleNamesAndSizes_Click(Program& program);
 void mnu_RunButtonFollowsFolders_Click(Program& program);

@@ -101,11 +101,9 @@ void Touch(Video_List& list, int number)
     list.Rows[static_cast<std::size_t>(number)].Stamp = list.Turned = ++list.Stamp;
 }
 
-void Set_Percent(Video_List& list, int percent)
+void Set_Percent(Video_List& list, int number, int percent)
 {
-    if (list.In_Work < 0)
-        return;
-    Video_Row& row = list.Rows[static_cast<std::size_t>(list.In_Work)];
+    Video_Row& row = list.Rows[static_cast<std::size_t>(number)];
     if (row.Percent == percent)
         return;
     row.Percent = percent;

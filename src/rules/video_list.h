@@ -28,8 +28,8 @@ bool Recount_Videos(Video_List& list, const QStringList& paths);
 /// A row has changed; the window shows it at its next turn.
 void Touch(Video_List& list, int number);
 
-/// The percentage of the row in work has changed.
-void Set_Percent(Video_List& list, int percent);
+/// The percentage of a row in work has changed.
+void Set_Percent(Video_List& list, int number, int percent);
 
 /// The number of the row of that path below the folder, made at the end of the list if there is none.
 int Row_Number(Video_List& list, const QString& path);

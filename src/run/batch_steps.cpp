@@ -116,7 +116,7 @@ After_Entry Run_Assembled_Command(Program& program, File_Outcome& outcome)
         return After_Entry::Halted;
     }
     if (program.Listener)
-        program.Listener->Command_Ready(outcome.Source, run.Output_Path, run.Mkvmerge_Arguments);
+        program.Listener->Command_Ready(program, outcome.Source, run.Output_Path);
     if (run.Dry_Run) {
         outcome.Status = File_Outcome::Kind::Not_Run;
         outcome.Reason = u"dry run"_s;

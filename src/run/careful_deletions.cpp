@@ -1,7 +1,7 @@
 #include "run/careful_deletions.h"
 
 #include "run/careful_walk.h"
-#include "state/program.h"
+#include "run/video_work.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
 #include "support/trash.h"
@@ -48,14 +48,14 @@ static bool Is_To_Go(const Program& program, const QString& path, const QString&
     return attached || path.startsWith(program.Options.Path_Videos + base + u"_Track"_s);
 }
 
-void Remember_Companions(Careful_Walk& walk)
+void Remember_Companions(const Video_Work& work)
 {
-    const Program& program = walk.Prog;
+    const Program& program = work.Prog;
     if (!program.Options.Delete_Video_After || !program.Options.Delete_Sundry_Files ||
         program.Options.chk_SplitVideos.Value == 1)
         return;
     const QString base = Get_Base_Name(program.Run.Current_Video_Path);
-    std::vector<Waiting_Companion>& waiting = walk.Run.Waiting;
+    std::vector<Waiting_Companion>& waiting = work.Walk.Run.Waiting;
     for (const QString& path : Files_Read(program)) {
         const auto known = [&path](const Waiting_Companion& companion) { return companion.Path == path; };
         const auto identity = Identity_Of(path);
@@ -64,16 +64,14 @@ void Remember_Companions(Careful_Walk& walk)
     }
 }
 
-void Trash_Source(Careful_Walk& walk, const Held_File& source, File_Outcome& outcome)
+void Trash_Source(Video_Work& work)
 {
-    if (!source.Is_Still_There()) {
-        outcome.Warnings += u"the source was changed meanwhile, so it stays"_s;
-        return;
-    }
+    if (!work.Source.Is_Still_There())
+        return Warn(work, u"the source was changed meanwhile, so it stays"_s);
     clsStringBuilder unused;
-    walk.Prog.Run.Source_Deleted = Delete_To_Recycle(outcome.Source, unused);
-    if (!walk.Prog.Run.Source_Deleted)
-        outcome.Warnings += u"the trash refused the source, so it stays"_s;
+    work.Prog.Run.Source_Deleted = Delete_To_Recycle(work.Outcome.Source, unused);
+    if (!work.Prog.Run.Source_Deleted)
+        Warn(work, u"the trash refused the source, so it stays"_s);
 }
 
 /// True if some video of that walk's folder would use the file and isn't done: taken, left out or failed.
@@ -116,9 +114,10 @@ static bool Trash_Unchanged(Program& program, const Waiting_Companion& companion
     return false;
 }
 
-void Trash_Companions(Careful_Run& run)
+void Trash_Companions(Video_Work& work)
 {
-    Program& program = run.Prog;
+    Careful_Run& run = work.Walk.Run;
+    Program& program = work.Prog;
     std::erase_if(run.Waiting, [&](const Waiting_Companion& companion) {
         if (std::any_of(run.Walks.begin(), run.Walks.end(),
                         [&companion](const auto& walk) { return Is_Wanted_In(*walk, companion.Path); }))

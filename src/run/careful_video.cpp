@@ -5,27 +5,71 @@
 #include "run/video_finish.h"
 #include "run/video_muxing.h"
 #include "run/video_preparation.h"
-#include "state/program.h"
+#include "run/video_work.h"
 #include "support/run_time_error.h"
 #include "support/shown_text.h"
 
+#include <functional>
 #include <new>
 
 using namespace Qt::StringLiterals;
 
-static bool Prepare(Video_Work& work)
+/// Takes some steps. What is thrown on the way is the video's failure.
+static void Take_Steps(Video_Work& work, const std::function<bool()>& steps)
 {
-    return Inspect(work) && Assemble(work) && Look_Ahead(work);
+    try {
+        work.Goes_On = steps();
+    } catch (const Run_Time_Error& error) {
+        work.Goes_On = Fail(work, error.In_One_Line());
+    } catch (const std::bad_alloc&) {
+        work.Goes_On = Fail(work, u"the memory did not suffice"_s);
+    } catch (const std::exception& error) {
+        work.Goes_On = Fail(work, QString::fromUtf8(error.what()));
+    }
 }
 
 /// A dry run tells all that is amiss with a video, and not just what came first.
+static bool Is_To_Look_Further(const Video_Work& work)
+{
+    return work.Prog.Run.Dry_Run && work.Outcome.Status == File_Outcome::Kind::Failed;
+}
+
+void Begin_Video(Video_Work& work, const Folder_Entry& entry)
+{
+    Take_Steps(work, [&] {
+        if (!Open_Source(work, entry))
+            return false;
+        work.Hash = Hash_Of_Video(work.Prog, work.Outcome.Source);
+        work.Has_Name = Choose_Output(work);
+        return work.Has_Name || Is_To_Look_Further(work);
+    });
+}
+
+/// Looks ahead on the conductor's thread: what the other videos need counts.
+static bool Ask_To_Go_On(Video_Work& work)
+{
+    bool goes_on = false;
+    work.Walk.Run.Calls.Do([&] {
+        goes_on = Look_Ahead(work);
+        if (goes_on)
+            Remember_Companions(work);
+    });
+    return goes_on;
+}
+
+static bool Prepare(Video_Work& work)
+{
+    return Inspect(work) && Assemble(work) && Ask_To_Go_On(work);
+}
+
+/// Looks for more that is amiss; what came first stays the reason.
 static void Look_Further(Video_Work& work)
 {
     const File_Outcome first = work.Outcome;
     if (work.Outcome.Output.isEmpty())
         work.Outcome.Output = work.Walk.Before.Folder() + work.Names.Name;
     Prepare(work);
-    if (work.Walk.Prog.Run.Halt_Requested)
+    if (work.Prog.Run.Halt_Requested)
         return;
     if (work.Outcome.Status == File_Outcome::Kind::Failed)
         Warn(work, work.Outcome.Reason);
@@ -33,23 +77,22 @@ static void Look_Further(Video_Work& work)
     Fail(work, first.Reason);
 }
 
-static void Take_All_Steps(Video_Work& work, const Folder_Entry& entry)
+/// What mkvmerge was to write is written: nothing more is kept free for it.
+static bool Need_No_More_Room(Video_Work& work)
 {
-    if (!Open_Source(work, entry))
-        return;
-    const Program& program = work.Walk.Prog;
-    work.Hash = Hash_Of_Video(program, work.Outcome.Source);
-    if (!Choose_Output(work) || !Reach_Companions(work)) {
-        if (program.Run.Dry_Run && work.Outcome.Status == File_Outcome::Kind::Failed)
+    work.Walk.Run.Calls.Post([&work] { work.Room_Needed = 0; });
+    return true;
+}
+
+void Work_On_Video(Video_Work& work)
+{
+    Take_Steps(work, [&] {
+        if (work.Has_Name && Reach_Companions(work))
+            return Prepare(work) && Mux(work) && Need_No_More_Room(work) && Check(work) && Bring_To_Disk(work);
+        if (Is_To_Look_Further(work))
             Look_Further(work);
-        return;
-    }
-    if (!Prepare(work))
-        return;
-    Remember_Companions(work.Walk);
-    QStringList old;
-    if (Mux(work) && Check(work) && Name_Outputs(work, old))
-        Note_And_Trash(work, old);
+        return false;
+    });
 }
 
 /// The lines that the log has from level 1 on.
@@ -66,35 +109,26 @@ static void Log_Outcome(Program& program, const File_Outcome& outcome)
         line(u"WARNING"_s, warning);
 }
 
-File_Outcome Run_Careful_Video(Careful_Walk& walk, const Folder_Entry& entry)
+void End_Video(Video_Work& work)
 {
-    Program& program = walk.Prog;
-    Video_Work work(walk);
-    work.Split = program.Options.chk_SplitVideos.Value == 1;
-    work.Outcome = {.Source = program.Options.Path_Videos + entry.Name,
-                    .Sub_Path = walk.Folders.Sub,
-                    .Output = {},
-                    .Status = File_Outcome::Kind::Failed,
-                    .Exit = -1};
-    try {
-        Take_All_Steps(work, entry);
-    } catch (const Run_Time_Error& error) {
-        Fail(work, error.In_One_Line());
-    } catch (const std::bad_alloc&) {
-        Fail(work, u"the memory did not suffice"_s);
-    } catch (const std::exception& error) {
-        Fail(work, QString::fromUtf8(error.what()));
-    }
-    walk.Working.Empty();
+    File_Outcome& outcome = work.Outcome;
+    if (work.Goes_On)
+        Take_Steps(work, [&] {
+            QStringList old;
+            if (!Name_Outputs(work, old))
+                return false;
+            Note_And_Trash(work, old);
+            return true;
+        });
+    work.Working->Empty();
+    int& unstarted = work.Walk.Run.Unstarted_In_A_Row;
     if (work.Tool_Was_Asked)
-        walk.Run.Unstarted_In_A_Row = work.Tool_Not_Started ? walk.Run.Unstarted_In_A_Row + 1 : 0;
-    work.Outcome.Seconds = work.Seconds();
-    work.Outcome.Source_Kept =
-        work.Outcome.Source_Kept || (Goes_To_Trash(work) && work.Outcome.Status == File_Outcome::Kind::Failed);
-    if (work.Outcome.Status != File_Outcome::Kind::Done)
-        Note_Result(program, work.Outcome, {}, work.Hash, false);
-    Log_Outcome(program, work.Outcome);
-    if (!work.Outcome.Pieces.isEmpty())
-        work.Outcome.Output = work.Outcome.Pieces.constFirst();
-    return work.Outcome;
+        unstarted = work.Tool_Not_Started ? unstarted + 1 : 0;
+    outcome.Seconds = work.Seconds();
+    outcome.Source_Kept = outcome.Source_Kept || (Goes_To_Trash(work) && outcome.Status == File_Outcome::Kind::Failed);
+    if (outcome.Status != File_Outcome::Kind::Done)
+        Note_Result(work.Prog, outcome, {}, work.Hash, false);
+    Log_Outcome(work.Prog, outcome);
+    if (!outcome.Pieces.isEmpty())
+        outcome.Output = outcome.Pieces.constFirst();
 }

@@ -69,7 +69,7 @@ static QString Append_Lines(const Program& program, const QByteArray& lines, boo
 }
 
 /// The settings that say what becomes of a video, as the settings file words them: all but the places and looks of
-/// windows, the recent lists, the log, and the lines that nobody reads.
+/// windows, the recent lists, the log, the number of videos at once, and the lines that nobody reads.
 static QStringList Options_In_Force(const Program& program)
 {
     const QStringList of_windows = {u"MainWindow"_s,
@@ -82,8 +82,9 @@ static QStringList Options_In_Force(const Program& program)
     QStringList options;
     for (const Settings_Row& row : Settings_Rows()) {
         const bool of_the_log = row.Number == Row::Append_Logs || row.Number == Row::Verbosity;
-        const bool of_the_list = row.Key.startsWith("Video List"_L1);
-        if (of_windows.contains(row.Section) || row.Key.contains("Window Size"_L1) || of_the_log || of_the_list)
+        // Nor how many videos are on their way together.
+        const bool no_matter = row.Key.startsWith("Video List"_L1) || row.Key == "Videos At Once"_L1;
+        if (of_windows.contains(row.Section) || row.Key.contains("Window Size"_L1) || of_the_log || no_matter)
             continue;
         options += row.Section + u'/' + row.Key.trimmed() + u'=' + Value_In_Force(row, program);
     }

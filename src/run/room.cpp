@@ -53,7 +53,7 @@ static double Added_Part(const Command_Line& command, const QString& source)
     return bytes;
 }
 
-Room_Check Check_Room(const Program& program)
+Room_Check Check_Room(const Program& program, double taken)
 {
     // Rates are averages, and the source's own may be wrong: only far below is it certain.
     constexpr double certainly_too_little = 0.7;
@@ -62,15 +62,16 @@ Room_Check Check_Room(const Program& program)
     while (!Folder_Exists(folder) && folder.contains(Path_Separator))
         folder.truncate(folder.lastIndexOf(Path_Separator));
     const std::optional<std::uint64_t> free = Free_Bytes(folder);
-    if (!free)
-        return {};
-    const double needed =
-        Source_Part(program) + Added_Part(program.Run.Mkvmerge_Arguments, program.Run.Current_Video_Path);
-    const auto room = static_cast<double>(*free);
-    if (room >= needed)
-        return {};
-    const QString words =
-        u"needs %1, %2 are free"_s.arg(Size_Text(static_cast<std::uint64_t>(needed)), Size_Text(*free));
-    return room < needed * certainly_too_little ? Room_Check{.Failure = words, .Warning = {}}
-                                                : Room_Check{.Failure = {}, .Warning = words};
+    Room_Check check;
+    check.Needed = Source_Part(program) + Added_Part(program.Run.Mkvmerge_Arguments, program.Run.Current_Video_Path);
+    const auto room = static_cast<double>(free.value_or(0));
+    const double needed = check.Needed + taken;
+    if (!free || room >= needed)
+        return check;
+    const auto size = [](double bytes) { return Size_Text(static_cast<std::uint64_t>(bytes)); };
+    QString words = u"needs %1, %2 are free"_s.arg(size(check.Needed), Size_Text(*free));
+    if (taken > 0)
+        words += u", of which the other videos in work need %1"_s.arg(size(taken));
+    (room < needed * certainly_too_little ? check.Failure : check.Warning) = words;
+    return check;
 }

@@ -147,14 +147,24 @@ static void Tell_Of_Subfolders(const Program& program)
                                  u"belongs to a careful batch."_s);
 }
 
+static void Tell_Of_One_By_One(const Program& program)
+{
+    if (program.Settings.Extensions.Videos_At_Once > 1 && !program.Run.Careful && program.Listener)
+        program.Listener->Warned(u"Videos at once"_s,
+                                 u"A classic run takes one video after the other: \"Videos At Once\" belongs to a "
+                                 u"careful batch."_s);
+}
+
 static void Run_Mode(Program& program)
 {
     Tell_Of_Careful_Batch(program);
     Tell_Of_Subfolders(program);
+    Tell_Of_One_By_One(program);
     program.Person.Pump_Events();
     program.Run.Run_In_Progress = true;
     program.Run.Started = program.Now();
     program.Run.Tally = {};
+    program.Run.At_Once = 1;
     program.Run.Halt_Asked = false;
     program.Run.Halt_After_Video = false;
     program.Run.Options_In_Force = Options_Text(program);

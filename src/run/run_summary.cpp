@@ -78,37 +78,60 @@ void Tally_File_Started(Program& program, int index, const QString& source)
 {
     Run_Tally& tally = program.Run.Tally;
     tally.Index = index;
-    tally.Percent = 0;
     // Now: it may be in the trash when it is done.
-    tally.Bytes_In_Work = QFileInfo(source).size();
+    tally.In_Work.insert(source, {.Bytes = QFileInfo(source).size(), .Percent = 0});
     Show_Running_Summary(program);
 }
 
-void Tally_Progress(Program& program, int percent)
+void Tally_Progress(Program& program, const QString& source, int percent)
 {
-    program.Run.Tally.Percent = percent;
+    program.Run.Tally.In_Work[source].Percent = percent;
     Show_Running_Summary(program);
 }
 
 void Tally_File_Finished(Program& program, const File_Outcome& outcome)
 {
     Run_Tally& tally = program.Run.Tally;
-    Count_Outcome(outcome, tally.Bytes_In_Work, tally.Counts);
-    tally.Bytes_Past += tally.Bytes_In_Work;
-    tally.Bytes_In_Work = 0;
-    tally.Percent = 0;
+    const qint64 bytes = tally.In_Work.take(outcome.Source).Bytes;
+    Count_Outcome(outcome, bytes, tally.Counts);
+    tally.Bytes_Past += bytes;
     Show_Running_Summary(program);
 }
 
-/// Seconds; 0: not known yet. What failed or was left alone says nothing about the speed, and is left no more.
-static qint64 Seconds_Left(const Run_Tally& tally, qint64 age)
+double Bytes_Done_Of(const Videos_In_Work& in_work)
 {
+    double bytes = 0;
+    for (const Video_In_Work& video : in_work)
+        bytes += static_cast<double>(video.Bytes) * video.Percent / 100;
+    return bytes;
+}
+
+/// Takes note of how much was worked through by now, and forgets what is older than a minute. Returns what stands
+/// first.
+static Worked_Sample Oldest_Of_Last_Minute(std::deque<Worked_Sample>& samples, const Worked_Sample& now)
+{
+    constexpr qint64 minute = 60'000;
+    constexpr qint64 between = 1000;
+    if (samples.empty() || now.Milliseconds - samples.back().Milliseconds >= between)
+        samples.push_back(now);
+    while (samples.front().Milliseconds < now.Milliseconds - minute)
+        samples.pop_front();
+    return samples.front();
+}
+
+/// Seconds; 0: not known yet. What failed or was left alone says nothing about the speed, and is left no more. One
+/// video is like the next on its way; of several at once now these are at work and now those.
+static qint64 Seconds_Left(Run_Tally& tally, qint64 age, bool several)
+{
+    const double in_work = Bytes_Done_Of(tally.In_Work);
+    const Worked_Sample now{.Milliseconds = age, .Bytes = static_cast<double>(tally.Counts.Bytes) + in_work};
+    const Worked_Sample since = several ? Oldest_Of_Last_Minute(tally.Last_Minute, now) : Worked_Sample();
     if (age < Before_First_Guess)
         return 0;
-    const double of_this = static_cast<double>(tally.Bytes_In_Work) * tally.Percent / 100;
-    const double worked = static_cast<double>(tally.Counts.Bytes) + of_this;
-    const double left = static_cast<double>(tally.Bytes_In_All - tally.Bytes_Past) - of_this;
-    return worked > 0 && left > 0 ? std::llround(static_cast<double>(age) / 1000 * left / worked) : 0;
+    const double worked = now.Bytes - since.Bytes;
+    const double left = static_cast<double>(tally.Bytes_In_All - tally.Bytes_Past) - in_work;
+    const double seconds = static_cast<double>(age - since.Milliseconds) / 1000;
+    return worked > 0 && left > 0 ? std::llround(seconds * left / worked) : 0;
 }
 
 static Summary_Look Look_Of(const Outcome_Counts& counts)
@@ -120,13 +143,13 @@ static Summary_Look Look_Of(const Outcome_Counts& counts)
 
 void Show_Running_Summary(Program& program)
 {
-    const Run_Tally& tally = program.Run.Tally;
+    Run_Tally& tally = program.Run.Tally;
     QStringList parts;
     if (tally.Index > 0)
         parts += u"%1 of %2"_s.arg(tally.Index).arg(std::max(tally.Index, tally.Files));
     if (program.Run.Halt_After_Video)
-        parts += u"stops after this video"_s;
-    else if (const qint64 seconds = Seconds_Left(tally, Age_Of_Run(program)); seconds > 0)
+        parts += tally.In_Work.size() > 1 ? u"stops after these videos"_s : u"stops after this video"_s;
+    else if (const qint64 seconds = Seconds_Left(tally, Age_Of_Run(program), program.Run.At_Once > 1); seconds > 0)
         parts += Time_Text(seconds) + u" left"_s;
     if (tally.Counts.Warnings > 0)
         parts += u"%1 with warnings"_s.arg(tally.Counts.Warnings);

@@ -11,6 +11,9 @@ struct Program;
 /// The words for how a run goes and how it went, at every log level: the line below the window's bar, the window's
 /// title, the last line of vantorra-batch.
 
+/// How much of the videos in work is done, by their sizes.
+double Bytes_Done_Of(const Videos_In_Work& in_work);
+
 /// Counts a file once. `source_bytes`: the size that its source had when its turn began.
 void Count_Outcome(const File_Outcome& outcome, qint64 source_bytes, Outcome_Counts& counts);
 
@@ -28,12 +31,13 @@ bool Is_Long_Run(const Program& program);
 void Tally_Sources(Run_Tally& tally, const QStringList& sources);
 void Tally_Run_Started(Program& program, int files);
 void Tally_File_Started(Program& program, int index, const QString& source);
-/// Percent of the file in work.
-void Tally_Progress(Program& program, int percent);
+/// Percent of a file in work.
+void Tally_Progress(Program& program, const QString& source, int percent);
 void Tally_File_Finished(Program& program, const File_Outcome& outcome);
 
 /// "17 of 40", "3:10 left", "1 failed" with dots between them: the file in work, the time left from the bytes that are
-/// done, once that can be guessed, what was warned of and what failed. What is unknown or zero is left out.
+/// done, once that can be guessed (of several at once by the last minute), what was warned of and what failed. What is
+/// unknown or zero is left out.
 void Show_Running_Summary(Program& program);
 
 /// The run is over: the line says how it went. Nothing where nobody kept the tally.

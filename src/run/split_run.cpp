@@ -59,6 +59,7 @@ static After_Entry Split_Entry(Program& program, const QString& name, Written_Ou
     const QString hash = Hash_Of_Video(program, path);
     QElapsedTimer clock;
     clock.start();
+    program.Run.Source_In_Work = path;
     if (program.Listener)
         program.Listener->File_Started(files_done + 1, path);
 

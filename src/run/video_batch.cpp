@@ -147,6 +147,7 @@ static After_Entry Process_Entry(Program& program, Batch& batch, const QString& 
     const QString hash = Hash_Of_Video(program, path);
     QElapsedTimer clock;
     clock.start();
+    run.Source_In_Work = path;
     if (program.Listener)
         program.Listener->File_Started(batch.Files_Done + 1, path);
 

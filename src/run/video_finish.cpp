@@ -42,7 +42,7 @@ static void Check_Pieces(const Video_Work& work, std::optional<double> seconds, 
 
 bool Check(Video_Work& work)
 {
-    Program& program = work.Walk.Prog;
+    Program& program = work.Prog;
     Collect_Outputs(work);
     if (work.Made.isEmpty())
         return Fail(work, u"mkvmerge wrote no piece"_s);
@@ -75,19 +75,29 @@ static QStringList Final_Paths(const Video_Work& work)
     return paths;
 }
 
+/// True where something goes to the trash for the output: then that has to be on the disk first.
+static bool Something_Goes(const Video_Work& work)
+{
+    return Goes_To_Trash(work) || !work.Names.Old.isEmpty();
+}
+
+bool Bring_To_Disk(Video_Work& work)
+{
+    for (const QString& made : work.Made)
+        if (const int error = Something_Goes(work) ? Sync_File(made) : 0; error != 0)
+            return Fail(work, u"the output couldn't be brought to the disk: "_s + System_Words(error));
+    return true;
+}
+
 bool Name_Outputs(Video_Work& work, QStringList& old)
 {
-    const bool trashes = Goes_To_Trash(work) || !work.Names.Old.isEmpty();
-    for (const QString& made : work.Made)
-        if (const int error = trashes ? Sync_File(made) : 0; error != 0)
-            return Fail(work, u"the output couldn't be brought to the disk: "_s + System_Words(error));
     const Name_Result named = Give_Names(work.Walk.Before, work.Names, work.Made, work.Final);
     if (!named.Failure.isEmpty())
         return Fail(work, named.Failure);
     for (const QString& warning : named.Warnings)
         Warn(work, warning);
     old = named.Old;
-    if (const int error = trashes ? Sync_Folder(work.Walk.Before.Folder()) : 0; error != 0)
+    if (const int error = Something_Goes(work) ? Sync_Folder(work.Walk.Before.Folder()) : 0; error != 0)
         Warn(work, u"the target folder couldn't be brought to the disk: "_s + System_Words(error));
     work.Outcome.Status = File_Outcome::Kind::Done;
     if (work.Split)
@@ -106,7 +116,7 @@ static void Trash_Old(Video_Work& work, const QStringList& old)
 
 void Note_And_Trash(Video_Work& work, const QStringList& old)
 {
-    const Program& program = work.Walk.Prog;
+    const Program& program = work.Prog;
     const bool trashes = Goes_To_Trash(work) || !old.isEmpty();
     work.Outcome.Seconds = work.Seconds();
     const QString unnoted = Note_Result(program, work.Outcome, Final_Paths(work), work.Hash, trashes);
@@ -121,7 +131,7 @@ void Note_And_Trash(Video_Work& work, const QStringList& old)
     const bool plainly_done = work.Outcome.Warnings.isEmpty();
     if (Goes_To_Trash(work)) {
         if (plainly_done)
-            Trash_Source(work.Walk, work.Source, work.Outcome);
+            Trash_Source(work);
         work.Outcome.Source_Kept = !program.Run.Source_Deleted;
     }
     // What the trash refused: the newest line counts.

@@ -69,17 +69,19 @@ void Video_List_Watch::File_Started(int index, const QString& source)
         Tally_File_Started(program_, index, source);
     const int number = Number_Of(source);
     Video_Row& row = Row(number);
-    before_check_ = row.State;
+    if (program_.Run.Checking)
+        before_check_.insert(number, row.State);
     row.State = Video_State::Working;
     row.Percent = program_.Run.Checking ? -1 : 0;
     program_.Videos.In_Work = number;
     Touch(program_.Videos, number);
 }
 
-void Video_List_Watch::Command_Ready(const QString& source, const QString& output, const Command_Line& command)
+void Video_List_Watch::Command_Ready(const Program& video, const QString& source, const QString& output)
 {
     const int number = Number_Of(source);
-    Check_Facts facts = Check_Facts_Of(program_, command);
+    const Command_Line& command = video.Run.Mkvmerge_Arguments;
+    Check_Facts facts = Check_Facts_Of(video, command);
     Video_Row& row = Row(number);
     row.Length = facts.Length;
     if (const auto file = Identity_Of(source))
@@ -93,10 +95,10 @@ void Video_List_Watch::Command_Ready(const QString& source, const QString& outpu
     Touch(program_.Videos, number);
 }
 
-void Video_List_Watch::Progress(int percent, int)
+void Video_List_Watch::Progress(const QString& source, int percent, int)
 {
-    Tally_Progress(program_, percent);
-    Set_Percent(program_.Videos, percent);
+    Tally_Progress(program_, source, percent);
+    Set_Percent(program_.Videos, Number_Of(source), percent);
 }
 
 void Video_List_Watch::Warned(const QString&, const QString& text)
@@ -119,14 +121,14 @@ static Video_State State_Of(const File_Outcome& outcome)
     return Video_State::Not_Run;
 }
 
-void Video_List_Watch::Take_In_Check(int number, const File_Outcome& outcome) const
+void Video_List_Watch::Take_In_Check(int number, const File_Outcome& outcome)
 {
     Video_Row& row = Row(number);
-    // One that the halt reached before its turn is as it was.
-    const bool looked_at = program_.Videos.In_Work == number && !program_.Run.Halt_Requested;
-    if (program_.Videos.In_Work == number)
-        row.State = before_check_;
-    if (looked_at) {
+    const bool had_its_turn = before_check_.contains(number);
+    if (had_its_turn)
+        row.State = before_check_.take(number);
+    // One that the halt reached is as it was.
+    if (had_its_turn && !program_.Run.Halt_Requested) {
         row.Problems = Problems_Of(outcome);
         row.Forecast = outcome.Status == File_Outcome::Kind::Skipped ? u"would be skipped: "_s + outcome.Reason
                        : outcome.Replaces.isEmpty()                  ? QString()
@@ -156,6 +158,7 @@ void Video_List_Watch::File_Finished(const File_Outcome& outcome)
         Take_Result(number, outcome);
     if (!program_.Run.Checking)
         Tally_File_Finished(program_, outcome);
-    program_.Videos.In_Work = -1;
+    if (program_.Videos.In_Work == number)
+        program_.Videos.In_Work = -1;
     Touch(program_.Videos, number);
 }

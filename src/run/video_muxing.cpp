@@ -1,5 +1,6 @@
 #include "run/video_muxing.h"
 
+#include "run/careful_share.h"
 #include "run/careful_walk.h"
 #include "state/program.h"
 #include "support/paths.h"
@@ -18,7 +19,7 @@ static constexpr qsizetype Most_Words = 8'000'000;
 /// The command's arguments with the names that stand in the working folder in the place of the final ones.
 static QStringList Working_Arguments(const Video_Work& work)
 {
-    const Program& program = work.Walk.Prog;
+    const Program& program = work.Prog;
     QStringList arguments = program.Run.Mkvmerge_Arguments.Arguments();
     arguments[arguments.indexOf(u"--output"_s) + 1] = Working_Output(work);
     if (!program.Run.Video.Chapter_Xml.isEmpty()) {
@@ -31,11 +32,9 @@ static QStringList Working_Arguments(const Video_Work& work)
 static void Take_Line(Video_Work& work, const QString& line)
 {
     const QString mark = u"Progress: "_s;
-    Program& program = work.Walk.Prog;
     if (line.startsWith(mark)) {
         const int percent = std::clamp(static_cast<int>(Number_Prefix(line.mid(mark.size()))), 0, 100);
-        const double share = program.Run.Videos_Done + percent / 100.0;
-        Show_Fraction(program, percent, std::min(share / std::max(program.Run.Videos_Chosen, 1), 1.0));
+        work.Walk.Run.Calls.Post([&work, percent] { Show_Percent(work, percent); });
     } else if (work.Words.size() < Most_Words) {
         work.Words += With_Final_Names(work, line) + u'\n';
     }
@@ -44,7 +43,7 @@ static void Take_Line(Video_Work& work, const QString& line)
 /// What mkvmerge printed, a line each; a name stays on its line, whatever it holds.
 static QStringList Lines_Said(const Video_Work& work)
 {
-    return With_Names_On_One_Line(work.Words, work.Walk.Prog.Run.Mkvmerge_Arguments.Arguments())
+    return With_Names_On_One_Line(work.Words, work.Prog.Run.Mkvmerge_Arguments.Arguments())
         .split(u'\n', Qt::SkipEmptyParts);
 }
 
@@ -61,7 +60,7 @@ static QString Why_It_Failed(int exit, const QStringList& said)
 
 bool Mux(Video_Work& work)
 {
-    Program& program = work.Walk.Prog;
+    Program& program = work.Prog;
     Run_State& run = program.Run;
     program.Logs.Log_Console.Clear();
     Run_Mkvmerge_Lines(program, program.Tools.System_MKVMerge_Path, Working_Arguments(work),

@@ -6,6 +6,7 @@
 #include "command/split_command.h"
 #include "inspect/chapter_check.h"
 #include "inspect/json_probe.h"
+#include "logs/results_digest.h"
 #include "run/careful_walk.h"
 #include "run/habits.h"
 #include "run/journal_results.h"
@@ -17,6 +18,7 @@
 #include "support/paths.h"
 #include "support/shown_text.h"
 
+#include <algorithm>
 #include <cerrno>
 
 using namespace Qt::StringLiterals;
@@ -60,7 +62,7 @@ static QString Why_Not_Replaced(Video_Work& work)
 bool Choose_Output(Video_Work& work)
 {
     Careful_Walk& walk = work.Walk;
-    const Program& program = walk.Prog;
+    const Program& program = work.Prog;
     if (!walk.Folders.Sub.isEmpty() && Same_Folder(walk.Folders.Target, walk.Folders.Videos))
         return Fail(work, u"the target's folder \"%1\" is the videos' own"_s.arg(walk.Folders.Sub));
     if (const QString why = work.Split ? Why_Not_Split_Into(walk.Before.Folder()) : QString(); !why.isEmpty())
@@ -97,7 +99,7 @@ bool Reach_Companions(Video_Work& work)
 {
     if (work.Split)
         return true;
-    const Program& program = work.Walk.Prog;
+    const Program& program = work.Prog;
     const JobOptions& options = program.Options;
     const auto on = [](const Check_Box& wanted, const Check_Box& elsewhere) {
         return wanted.Value == 1 && elsewhere.Value == 1;
@@ -116,7 +118,7 @@ bool Reach_Companions(Video_Work& work)
 
 bool Inspect(Video_Work& work)
 {
-    Program& program = work.Walk.Prog;
+    Program& program = work.Prog;
     const QString why_not = Probe_Video(program, work.Outcome.Source);
     Note_Start_Of_Tool(work);
     if (program.Run.Halt_Requested)
@@ -140,7 +142,7 @@ static QStringList Problems_Beside(Program& program)
 
 bool Assemble(Video_Work& work)
 {
-    Program& program = work.Walk.Prog;
+    Program& program = work.Prog;
     const QString& source = work.Outcome.Source;
     program.Media.Unread_Files.clear();
     program.Run.Video = {};
@@ -154,6 +156,9 @@ bool Assemble(Video_Work& work)
         program.Logs.Log_Faults.AppendLine(u"-- Processing video file - \""_s + As_One_Line(source) + u'"');
         Assemble_Command(program, work.Outcome.Output, program.Options.Path_Videos, source);
     }
+    // A fault beside the video is shown where a person looks.
+    if (program.Form.pic_ProcessFailed.Visible)
+        work.Walk.Run.Calls.Post([&run = work.Walk.Prog] { Flash_Process_Failed(run); });
     if (program.Run.Halt_Requested)
         return Halted(work);
     if (const QStringList problems = Problems_Beside(program); !problems.isEmpty()) {
@@ -170,14 +175,24 @@ bool Assemble(Video_Work& work)
         for (const QString& warning : warnings)
             Warn(work, warning);
     if (program.Listener)
-        program.Listener->Command_Ready(source, work.Outcome.Output, program.Run.Mkvmerge_Arguments);
+        program.Listener->Command_Ready(program, source, work.Outcome.Output);
     return true;
+}
+
+/// What the other videos in work still need of the room below the target folder, in bytes.
+static double Room_Taken(const Video_Work& work)
+{
+    double taken = 0;
+    for (const auto& other : work.Walk.Run.In_Work)
+        if (other.get() != &work)
+            taken += std::max(other->Room_Needed - static_cast<double>(other->Working->Bytes()), 0.0);
+    return taken;
 }
 
 bool Look_Ahead(Video_Work& work)
 {
-    Program& program = work.Walk.Prog;
-    const Room_Check room = Check_Room(program);
+    Program& program = work.Prog;
+    const Room_Check room = Check_Room(program, Room_Taken(work));
     if (!room.Failure.isEmpty())
         return Fail(work, room.Failure);
     if (!room.Warning.isEmpty() && program.Run.Dry_Run)
@@ -187,10 +202,11 @@ bool Look_Ahead(Video_Work& work)
     if (program.Run.Dry_Run)
         return Give_Up(work, File_Outcome::Kind::Not_Run, u"dry run"_s);
 
+    work.Room_Needed = room.Needed;
     if (const int error = Make_Folders(program.Options.Path_Target); error != 0)
         return Fail(work, u"the folder \"%1\" couldn't be made in the target folder: %2"_s.arg(work.Walk.Folders.Sub,
                                                                                                System_Words(error)));
-    Working_Folder& working = work.Walk.Working;
+    Working_Folder& working = *work.Working;
     if (const QString why = working.Make(program.Options.Path_Target, program.Settings.App_Folder); !why.isEmpty())
         return Fail(work, why);
     working.Empty();

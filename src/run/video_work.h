@@ -2,24 +2,40 @@
 
 #include "inspect/output_check.h"
 #include "run/final_name.h"
+#include "run/worker_ports.h"
+#include "run/working_folder.h"
+#include "state/program.h"
 #include "state/run_listener.h"
 #include "support/disk_steps.h"
 
 #include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
+#include <memory>
+#include <thread>
 
 struct Careful_Walk;
 
 /// One video of a careful batch on its way: what its steps leave for one another. Each step returns false where the
 /// video goes no further; its outcome then says why.
+///
+/// It has a program of its own, so that its thread meets nobody in it: the options as they were at the press and the
+/// folder's paths, and what is found out of the video and said of it.
 struct Video_Work
 {
-    explicit Video_Work(Careful_Walk& walk) : Walk(walk) { Clock.start(); }
+    /// The walk's folder has to be in force in the run's program.
+    Video_Work(Careful_Walk& walk, const Folder_Entry& entry);
+    Video_Work(const Video_Work&) = delete;
+    Video_Work& operator=(const Video_Work&) = delete;
 
     double Seconds() const { return static_cast<double>(Clock.elapsed()) / 1000; }
 
     Careful_Walk& Walk;
+    Worker_Operator Person;
+    Worker_Listener Listener;
+    Program Prog{Person};
+    int Number; ///< from 1, in the order in which the run hands its videos out
+    std::unique_ptr<Working_Folder> Working;
     File_Outcome Outcome;
     Held_File Source;
     Name_Choice Names;
@@ -28,10 +44,15 @@ struct Video_Work
     QStringList Made;  ///< paths in the working folder
     QStringList Final; ///< their names in the target folder, place by place
     QString Hash;
+    int Percent = 0;        ///< for the conductor
+    double Room_Needed = 0; ///< bytes; for the conductor
     bool Split = false;
+    bool Has_Name = false; ///< its output has one that is free
+    bool Goes_On = false;  ///< no step has given up
     bool Tool_Was_Asked = false;
     bool Tool_Not_Started = false;
     QElapsedTimer Clock;
+    std::jthread Thread; ///< the last one: it has ended when the rest goes
 };
 
 /// Where mkvmerge writes the output, or makes the names of the pieces from, and where it finds the chapters: paths in

@@ -115,6 +115,17 @@ QString Working_Folder::Try_Name(const QString& name) const
     return error == 0 ? QString() : System_Words(error);
 }
 
+std::int64_t Working_Folder::Bytes() const
+{
+    std::int64_t bytes = 0;
+    int error = 0;
+    if (!path_.isEmpty())
+        for (const Folder_Entry& entry : List_Entries(path_, error))
+            if (const auto file = Identity_Of_Name(path_ + entry.Name))
+                bytes += file->Size;
+    return bytes;
+}
+
 void Working_Folder::Empty() const
 {
     int error = 0;

@@ -2,9 +2,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 
 /// The folder inside the target in which a careful batch lets mkvmerge write: what stands under a final name was made
-/// here, is complete, and came there in one step.
+/// here, is complete, and came there in one step. Each of the videos in work has one for itself.
 ///
 /// It is noted in the program's folder before it is made, with the process that it belongs to. So the next run finds
 /// what a kill or a power cut left behind, and touches nothing that isn't noted: docs/formats/working-folder.md.
@@ -25,6 +26,9 @@ class Working_Folder
 
     /// Tries a name as an empty file, which is removed at once: the file system may refuse it. Returns why, in words.
     QString Try_Name(const QString& name) const;
+
+    /// The sizes of the files in it.
+    std::int64_t Bytes() const;
 
     /// Removes what the video in work has left in it.
     void Empty() const;

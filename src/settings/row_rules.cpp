@@ -306,7 +306,7 @@ Settings_Row Extension_Row(const QString& key, bool Extension_Switches::*flag)
             }};
 }
 
-Settings_Row Extension_Number_Row(const QString& key, int Extension_Switches::*number)
+Settings_Row Extension_Number_Row(const QString& key, int Extension_Switches::*number, int least, int most)
 {
     const int at_rest = Extension_Switches{}.*number;
     return {
@@ -315,11 +315,10 @@ Settings_Row Extension_Number_Row(const QString& key, int Extension_Switches::*n
         .Default = QString::number(at_rest),
         .Written = [number](const Program& program) { return QString::number(program.Settings.Extensions.*number); },
         .Take =
-            [number, at_rest](Program& program, const QString& text, const QString&) {
-                constexpr int most = 100'000;
+            [=](Program& program, const QString& text, const QString&) {
                 bool is_number = false;
                 const int value = text.trimmed().toInt(&is_number);
-                program.Settings.Extensions.*number = is_number && value >= 0 && value <= most ? value : at_rest;
+                program.Settings.Extensions.*number = is_number && value >= least && value <= most ? value : at_rest;
             }};
 }
 

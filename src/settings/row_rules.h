@@ -55,8 +55,8 @@ std::vector<Settings_Row> Sticky_Rows(const QString& section, const QString& for
 /// "On" or "Off" of one of the additions; any other word leaves the default.
 Settings_Row Extension_Row(const QString& key, bool Extension_Switches::*flag);
 
-/// A whole number of one of the additions; anything else leaves the default.
-Settings_Row Extension_Number_Row(const QString& key, int Extension_Switches::*number);
+/// A whole number of one of the additions, from `least` to `most`; anything else leaves the default.
+Settings_Row Extension_Number_Row(const QString& key, int Extension_Switches::*number, int least, int most);
 
 /// "Replace", "Skip" or "Number"; any other word is Replace.
 Settings_Row Output_Exists_Row(const QString& key);

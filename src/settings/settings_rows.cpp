@@ -227,13 +227,14 @@ static std::vector<Settings_Row> Closing_Rows()
                  }),
         Extension_Row(u"Careful Batch"_s, &Extension_Switches::Careful_Batch),
         Output_Exists_Row(u"If The Output Exists"_s),
+        Extension_Number_Row(u"Videos At Once"_s, &Extension_Switches::Videos_At_Once, 1, Most_At_Once),
         Extension_Row(u"Include Subfolders"_s, &Extension_Switches::Include_Subfolders),
         Extension_Row(u"Sensible Names And Sizes"_s, &Extension_Switches::Sensible_Names_And_Sizes),
         Extension_Row(u"Run Button Follows Folders"_s, &Extension_Switches::Run_Button_Follows_Folders),
         Extension_Row(u"Delete Source Only After Success"_s, &Extension_Switches::Delete_Source_Only_After_Success),
         Extension_Row(u"Identify With Any mkvmerge"_s, &Extension_Switches::Identify_With_Any_Mkvmerge),
         Extension_Row(u"Video List Open"_s, &Extension_Switches::Video_List_Open),
-        Extension_Number_Row(u"Video List Height"_s, &Extension_Switches::Video_List_Height),
+        Extension_Number_Row(u"Video List Height"_s, &Extension_Switches::Video_List_Height, 0, 100'000),
         Extension_Row(u"Tell At The End"_s, &Extension_Switches::Tell_At_The_End),
     };
 }

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "support/command_line.h"
 #include "support/paths.h"
 
 #include <QString>
 #include <QStringList>
+
+struct Program;
 
 /// How one file of a run ended. A file that is done and has warnings counts as done with warnings.
 struct File_Outcome
@@ -33,7 +34,8 @@ struct File_Outcome
 };
 
 /// What a driver may want to hear while a run goes on. The headless driver prints it; the window
-/// keeps its list of videos by it.
+/// keeps its list of videos by it. All of it comes on the thread that the run was started on; several files may be in
+/// work at a time.
 class Run_Listener
 {
   public:
@@ -45,17 +47,18 @@ class Run_Listener
     /// The loop begins; `files` accepted videos were found.
     virtual void Run_Started(int /*files*/) {}
 
-    /// A careful batch takes these in work, one after the other; paths of the sources.
+    /// A careful batch takes these in work, in this order; paths of the sources.
     virtual void Videos_Chosen(const QStringList& /*sources*/) {}
 
     /// `index` counts from 1.
     virtual void File_Started(int /*index*/, const QString& /*source*/) {}
 
-    /// A command was assembled and is about to be run (or, in a dry run, not).
-    virtual void Command_Ready(const QString& /*source*/, const QString& /*output*/, const Command_Line&) {}
+    /// A command was assembled and is about to be run (or, in a dry run, not): Run.Mkvmerge_Arguments of `video`, the
+    /// program that knows the source and what lies beside it. A careful batch has one for each video in work.
+    virtual void Command_Ready(const Program& /*video*/, const QString& /*source*/, const QString& /*output*/) {}
 
-    /// Percent of the file in work and of the whole batch.
-    virtual void Progress(int /*percent*/, int /*overall*/) {}
+    /// Percent of a file in work and of the whole batch.
+    virtual void Progress(const QString& /*source*/, int /*percent*/, int /*overall*/) {}
 
     /// A numbered report was raised.
     virtual void Reported(int /*code*/) {}

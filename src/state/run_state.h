@@ -45,7 +45,7 @@ struct Run_State
     QDateTime Started;                      ///< by the program's clock; invalid: nothing has run yet
     Run_Tally Tally;                        ///< of the run that goes on, else of the last one
     bool Halt_Asked = false;                ///< the person was asked in this run what a halt is to stop
-    bool Halt_After_Video = false;          ///< careful: the run ends behind the video in work
+    bool Halt_After_Video = false;          ///< careful: the run ends behind the videos in work
     std::int64_t Press_Time = 0;            ///< when the mouse pressed the run button last; 0: a key did
     QStringList Video_File_List{QString()}; ///< accepted names; an empty first entry: nothing found
 
@@ -53,6 +53,7 @@ struct Run_State
     std::int16_t Files_Left = 0;
     std::int16_t File_Index = 0;
     QString Current_Video_Path;
+    QString Source_In_Work; ///< classic: of the file that has its turn, whatever it is
     bool Source_Deleted = false;
     bool Ancillary_Deleted = false;
     bool Attachment_Files_Deleted = false;
@@ -90,6 +91,7 @@ struct Run_State
     std::optional<bool> Careful_Asked = {}; ///< careful or classic for this run, whatever the settings say
     bool Careful = false;                   ///< the run that goes on is a careful one
     Run_Choice Choice;
+    int At_Once = 1;       ///< careful: on how many videos the run works at a time, at most
     int Videos_Chosen = 0; ///< careful: how many videos the run takes in work
     int Videos_Done = 0;   ///< careful: how many had their turn
     Careful_Video Video;

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QHash>
+#include <QString>
+#include <deque>
 
 /// How many files of a run ended how; each counts once.
 struct Outcome_Counts
@@ -16,15 +18,32 @@ struct Outcome_Counts
     qint64 Bytes = 0; ///< sizes of the sources that are done
 };
 
+/// How far one video in work is.
+struct Video_In_Work
+{
+    qint64 Bytes = 0; ///< size that its source had when its turn began
+    int Percent = 0;
+};
+
+/// By the paths of their sources.
+using Videos_In_Work = QHash<QString, Video_In_Work>;
+
+/// How much of a run was worked through by then.
+struct Worked_Sample
+{
+    qint64 Milliseconds = 0; ///< since the run began
+    double Bytes = 0;
+};
+
 /// How far a run is, for the line below the bar. Kept by who listens to the run for the window; the run itself doesn't
 /// read it.
 struct Run_Tally
 {
     Outcome_Counts Counts;
-    int Files = 0;            ///< that the run takes in work
-    int Index = 0;            ///< of the video in work, from 1
-    int Percent = 0;          ///< of the video in work
-    qint64 Bytes_In_All = 0;  ///< sizes of all sources
-    qint64 Bytes_Past = 0;    ///< of those that had their turn, whatever became of them
-    qint64 Bytes_In_Work = 0; ///< of the one in work
+    int Files = 0; ///< that the run takes in work
+    int Index = 0; ///< of the video that was taken in work last, from 1
+    Videos_In_Work In_Work = {};
+    qint64 Bytes_In_All = 0;                    ///< sizes of all sources
+    qint64 Bytes_Past = 0;                      ///< of those that had their turn, whatever became of them
+    std::deque<Worked_Sample> Last_Minute = {}; ///< of a run with several at once; the oldest first
 };

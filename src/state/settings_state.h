@@ -41,11 +41,15 @@ enum class Output_Exists : std::uint8_t
     Number   ///< the new file becomes "NAME (1).mkv"
 };
 
+/// More videos than that at once only get into each other's way.
+inline constexpr int Most_At_Once = 16;
+
 /// What this program adds; each is a key of the section "Extensions".
 struct Extension_Switches
 {
     bool Careful_Batch = false; ///< a new installation begins with it on
     Output_Exists If_The_Output_Exists = Output_Exists::Replace;
+    int Videos_At_Once = 1;          ///< careful: so many are worked on side by side; 1 to Most_At_Once
     bool Include_Subfolders = false; ///< careful: the folders below the videos' folder are walked, too
     bool Sensible_Names_And_Sizes = false;
     bool Run_Button_Follows_Folders = true;

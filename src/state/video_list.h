@@ -88,7 +88,7 @@ struct Video_List
     QString Folder;               ///< whose videos these are, ending in a separator; empty: none is chosen
     std::vector<Video_Row> Rows;  ///< in the order of the walk
     QHash<QString, int> Places;   ///< a row's Path() to its number
-    int In_Work = -1;             ///< number of the row that is processed or checked; -1: none
+    int In_Work = -1;             ///< number of the row that is processed or checked, of several the last one; -1: none
     bool With_Subfolders = false; ///< the folders below Folder are in it, too
     bool Takes_Ticks = false;     ///< the boxes count: the next run is a careful one
     int Failed_Before = 0;        ///< ticked rows whose newest result in the journal is a failure

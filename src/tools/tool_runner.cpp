@@ -265,7 +265,7 @@ void Run_Mkvmerge_Lines(Program& program, const QString& executable, const QStri
         take(rest);
 }
 
-void Show_Fraction(Program& program, int percent, double fraction)
+void Show_Fraction(Program& program, const QString& source, int percent, double fraction)
 {
     const int overall = static_cast<int>(std::nearbyint(fraction * 100));
     program.Form.Progress = Progress_Look::Running;
@@ -275,7 +275,7 @@ void Show_Fraction(Program& program, int percent, double fraction)
     program.Person.Pump_Events();
     program.Form.Progress_Fraction = fraction;
     if (program.Listener)
-        program.Listener->Progress(percent, overall);
+        program.Listener->Progress(source, percent, overall);
 }
 
 void Show_Progress(Program& program, int percent, int total)
@@ -288,5 +288,5 @@ void Show_Progress(Program& program, int percent, int total)
     const int reached = Checked_Percent(run, Checked_Percent(run, run.File_Index * 100) + percent);
     const double fraction = static_cast<double>(reached) / total;
     Checked_Percent(run, fraction * 100);
-    Show_Fraction(program, percent, fraction);
+    Show_Fraction(program, run.Source_In_Work, percent, fraction);
 }

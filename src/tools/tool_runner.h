@@ -32,8 +32,8 @@ QString With_Names_On_One_Line(QString words, const QStringList& names);
 void Run_Mkvmerge_Lines(Program& program, const QString& executable, const QStringList& arguments,
                         const std::function<void(const QString& line)>& take);
 
-/// Shows the progress: `percent` of the current file, `fraction` of the whole batch.
-void Show_Fraction(Program& program, int percent, double fraction);
+/// Shows the progress: `percent` of the file at `source`, `fraction` of the whole batch.
+void Show_Fraction(Program& program, const QString& source, int percent, double fraction);
 
 /// Shows the progress of the whole batch for `percent` of the current file. 16-bit arithmetic: error 6 above 327
 /// videos.

@@ -28,8 +28,9 @@ struct Played_Run
         Command_Line command;
         command.Add_Path(u" --output "_s, u"/t/my film.mkv"_s);
         Report->File_Started(1, u"/v/"_s + name);
-        Report->Command_Ready(u"/v/"_s + name, u"/t/my film.mkv"_s, command);
-        Report->Progress(24, 3);
+        Prog.Run.Mkvmerge_Arguments = command;
+        Report->Command_Ready(Prog, u"/v/"_s + name, u"/t/my film.mkv"_s);
+        Report->Progress(u"/v/"_s + name, 24, 3);
         Report->File_Finished({.Source = u"/v/"_s + name,
                                .Output = u"/t/my film.mkv"_s,
                                .Status = status,

@@ -8,13 +8,12 @@ TEST(Run_Summary, TheLineLeavesOutWhatIsUnknownOrZero)
     third.Counts.Bytes = 300;
     third.Files = 4;
     third.Index = 3;
-    third.Percent = 50;
     third.Bytes_In_All = 1000;
     third.Bytes_Past = 400;
-    third.Bytes_In_Work = 200;
+    third.In_Work = {{u"c.mkv"_s, {.Bytes = 200, .Percent = 50}}};
     Run_Tally odd = third;
     odd.Counts = {.Warnings = 1, .Failed = 1};
-    odd.Percent = 0;
+    odd.In_Work = {};
     const std::tuple<Run_Tally, int, QString> moments[] = {
         {{}, 90, u""_s},
         {third, 4, u"3 of 4"_s},

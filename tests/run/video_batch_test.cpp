@@ -49,7 +49,7 @@ struct Recorder : Run_Listener
             On_Start();
     }
 
-    void Command_Ready(const QString&, const QString& output, const Command_Line&) override
+    void Command_Ready(const Program&, const QString&, const QString& output) override
     {
         Commands += output;
         if (On_Command)
