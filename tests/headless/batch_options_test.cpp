@@ -41,6 +41,9 @@ TEST(Batch_Options, FoldersAreAbsoluteNeedNoOptionsAndChoicesAddUp)
     EXPECT_EQ(options.Part.Number * 100 + options.Part.Of, 210);
     EXPECT_EQ(Options_Of(u"run /a /b --classic"_s).Careful, false);
     EXPECT_TRUE(Options_Of(u"--check"_s).Dry_Run);
+    EXPECT_EQ(Options_Of(u"--jobs 16"_s).At_Once, 16);
+    const int by_itself = Options_Of(u"--jobs auto"_s).At_Once.value_or(0);
+    EXPECT_TRUE(by_itself >= 1 && by_itself <= 4);
 
     options = Options_Of(u"identify /a \"b c\" --codec-private"_s);
     EXPECT_EQ(options.Files, (QStringList{u"/a"_s, here + u"/b c"_s}));
@@ -74,6 +77,10 @@ TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
         {u"--careful --classic"_s, u"either"_s},
         {u"--classic --resume"_s, u"--resume belongs to a careful batch"_s},
         {u"--classic --leave-out x"_s, u"--leave-out belongs to a careful batch"_s},
+        {u"--classic --jobs 2"_s, u"--jobs belongs to a careful batch"_s},
+        {u"--jobs 17"_s, u"--jobs wants a number from 1 to 16, or \"auto\": \"17\" is none."_s},
+        {u"--jobs 0"_s, u"\"0\" is none"_s},
+        {u"--jobs two"_s, u"\"two\" is none"_s},
         {u"--only="_s, u"want a pattern"_s},
         {u"--shard 0/3"_s, u"it is \"0/3\""_s},
         {u"--shard 4/3"_s, u"wants K/N"_s},

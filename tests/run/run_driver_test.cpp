@@ -144,7 +144,7 @@ TEST(Run_Driver, MissingFoldersAndVideosAreRefusedWithOneLineInTheLog)
     }
 }
 
-TEST(Run_Driver, ACarefulRunTakesWhatIsTickedAndAClassicOneSaysThatItTakesNoSubfolders)
+TEST(Run_Driver, ACarefulRunTakesWhatIsTickedAndAClassicOneSaysThatItTakesNoSubfoldersAndOneVideoAtATime)
 {
     struct Warnings : Run_Listener
     {
@@ -155,7 +155,7 @@ TEST(Run_Driver, ACarefulRunTakesWhatIsTickedAndAClassicOneSaysThatItTakesNoSubf
 
     Driver_Test test;
     Warnings heard;
-    test.Prog.Settings.Extensions = {.Careful_Batch = true, .Include_Subfolders = true};
+    test.Prog.Settings.Extensions = {.Careful_Batch = true, .Videos_At_Once = 2, .Include_Subfolders = true};
     Follow_Videos_Folder(test.Prog);
     Tick_Video(test.Prog, 0);
     test.Prog.Listener = &heard;
@@ -165,7 +165,7 @@ TEST(Run_Driver, ACarefulRunTakesWhatIsTickedAndAClassicOneSaysThatItTakesNoSubf
 
     test.Prog.Settings.Extensions.Careful_Batch = false;
     EXPECT_EQ(test.Press(), Press_Result::Finished);
-    EXPECT_EQ(heard.Texts.size(), 1);
+    EXPECT_EQ(heard.Texts.size(), 2);
 }
 
 TEST(Run_Driver, WithoutFfprobeOrAnyMkvmergeAPressEndsWithItsReportAndNoLogEntry)

@@ -1,6 +1,8 @@
 #include "run/run_summary.h"
 
 #include "common/test_program.h"
+#include "rules/video_list.h"
+#include "run/video_list_watch.h"
 
 TEST(Run_Summary, TheLineLeavesOutWhatIsUnknownOrZero)
 {
@@ -30,4 +32,38 @@ TEST(Run_Summary, TheLineLeavesOutWhatIsUnknownOrZero)
         EXPECT_EQ(test.Prog.Form.lbl_RunSummary.Caption, text);
         EXPECT_EQ(test.Prog.Form.Summary == Summary_Look::Failures, text.endsWith(u"failed"_s));
     }
+}
+
+TEST(Run_Summary, OfSeveralVideosInWorkEachRowHasItsPercentAndTheLastMinuteTellsTheTimeLeft)
+{
+    Test_Program test;
+    Program& program = test.Prog;
+    Video_List_Watch watch(program);
+    program.Run.Careful = true;
+    program.Run.At_Once = 2;
+    program.Run.Started = QDateTime(QDate(2026, 3, 7), QTime(13, 0));
+    const auto at = [&program](int seconds) {
+        program.Now = [=, &program] { return program.Run.Started.addSecs(seconds); };
+    };
+    at(0);
+    QStringList sources;
+    for (const QString& name : {u"a"_s, u"b"_s, u"c"_s})
+        sources += test.Write(u"videos/"_s + name, QByteArray(1000, 'x'));
+    Fill_Videos(program.Videos, test.Path(u"videos/"_s), {u"a"_s, u"b"_s, u"c"_s});
+    watch.Videos_Chosen(sources);
+    watch.Run_Started(3);
+    for (int index : {1, 2})
+        watch.File_Started(index, sources[index - 1]);
+    // Slow at first: what is older than a minute counts no more.
+    at(100);
+    watch.Progress(sources[0], 10, 3);
+    at(130);
+    watch.Progress(sources[1], 40, 16);
+    at(160);
+    watch.Progress(sources[0], 40, 26);
+    EXPECT_EQ(program.Form.lbl_RunSummary.Caption, u"2 of 3 \u00B7 3:09 left"_s); // 2200 bytes, at 700 a minute
+    watch.File_Finished({.Source = sources[1], .Status = File_Outcome::Kind::Done});
+    const auto& rows = program.Videos.Rows;
+    EXPECT_TRUE(rows[0].State == Video_State::Working && rows[0].Percent == 40);
+    EXPECT_TRUE(rows[1].State == Video_State::Done && rows[2].State == Video_State::Waiting);
 }

@@ -108,6 +108,7 @@ static const Text_Claims Texts[] = {
     {u"Vantorra - by Zarnegar"_s, u"Version"_s, "1.0.0>2.5.5"},
     {u"Extensions"_s, u"Careful Batch"_s, "perhaps>Off"},
     {u"Extensions"_s, u"If The Output Exists"_s, "number>Number|perhaps>Replace"},
+    {u"Extensions"_s, u"Videos At Once"_s, "16>16|3>3|17>1|0>1|two>1"},
     {u"Extensions"_s, u"Run Button Follows Folders"_s, "perhaps>On"},
     {u"Extensions"_s, u"Delete Source Only After Success"_s, "perhaps>Off"},
     {u"Extensions"_s, u"Identify With Any mkvmerge"_s, "perhaps>On"},
