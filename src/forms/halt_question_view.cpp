@@ -21,7 +21,8 @@ void Halt_Question_View::Open()
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     const QAbstractButton* now = box->addButton(u"&Stop now"_s, QMessageBox::DestructiveRole);
-    const QAbstractButton* after = box->addButton(u"&After this video"_s, QMessageBox::AcceptRole);
+    const QAbstractButton* after = box->addButton(
+        program_.Run.At_Once > 1 ? u"&After those in work"_s : u"&After this video"_s, QMessageBox::AcceptRole);
     QPushButton* go_on = box->addButton(u"&Go on"_s, QMessageBox::RejectRole);
     box->setDefaultButton(go_on);
     box->setEscapeButton(go_on);

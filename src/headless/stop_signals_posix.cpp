@@ -1,13 +1,15 @@
 #include "headless/stop_signals.h"
 
+#include <atomic>
 #include <csignal>
 
-/// All that a signal's handler may touch.
-static volatile std::sig_atomic_t stop_signal_came = 0;
+/// All that a signal's handler may touch; any thread may be the one that it interrupts.
+static std::atomic<bool> stop_signal_came = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
 
 static void Remember_Stop(int)
 {
-    stop_signal_came = 1;
+    stop_signal_came = true;
 }
 
 static void Watch(int signal_number)
@@ -38,5 +40,5 @@ void Watch_For_Stop_Signals()
 
 bool Stop_Signal_Came()
 {
-    return stop_signal_came != 0;
+    return stop_signal_came;
 }

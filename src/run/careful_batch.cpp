@@ -30,9 +30,11 @@ static bool Has_Stopped(const Careful_Run& run)
     return run.Unstarted_In_A_Row >= Most_Unstarted;
 }
 
-static bool Is_Halted(const Run_State& run)
+/// True if a halt keeps videos from their turns, or is to end those in work. One behind the last video halts nothing.
+static bool Is_Halted(const Careful_Run& run)
 {
-    return run.Halt_Requested || run.Halt_After_Video;
+    const Run_State& state = run.Prog.Run;
+    return state.Halt_Requested || (state.Halt_After_Video && run.Handed_Out < state.Videos_Chosen);
 }
 
 /// The videos of a walk that weren't handed out get their results without their turns.
@@ -132,7 +134,7 @@ static void Hand_Out_All(Careful_Run& run)
     for (const auto& walk : run.Walks)
         while (walk->Begun < walk->Chosen.size()) {
             Await(run, others);
-            if (Is_Halted(run.Prog.Run) || Has_Stopped(run))
+            if (Is_Halted(run) || Has_Stopped(run))
                 return;
             if (walk->Begun == 0)
                 Enter(*walk);
@@ -176,7 +178,7 @@ bool Run_Carefully(Program& program)
 
     Hand_Out_All(careful);
     Await(careful, 0);
-    run.Halt_Requested = Is_Halted(run);
+    run.Halt_Requested = Is_Halted(careful);
     for (const auto& walk : careful.Walks)
         Tell_Not_Run(*walk, run.Halt_Requested ? Halted_Reason : Stopped_Reason);
     if (run.Halt_Requested)

@@ -21,8 +21,10 @@ static bool Ask_Before_Halt(Program& program)
     if (!in_careful_run || run.Halt_Asked || !Is_Long_Run(program))
         return false;
     run.Halt_Asked = true;
-    program.Form.Halt_Question = u"The run goes on until you choose. What is done stays, and \"Continue\" takes up "
-                                 u"the rest later. Stopped now, the video in work has to begin anew."_s;
+    program.Form.Halt_Question =
+        u"The run goes on until you choose. What is done stays, and \"Continue\" takes up the "
+        u"rest later. Stopped now, "_s +
+        (run.At_Once > 1 ? u"the videos in work have to begin anew."_s : u"the video in work has to begin anew."_s);
     return true;
 }
 

@@ -148,7 +148,7 @@ void Show_Running_Summary(Program& program)
     if (tally.Index > 0)
         parts += u"%1 of %2"_s.arg(tally.Index).arg(std::max(tally.Index, tally.Files));
     if (program.Run.Halt_After_Video)
-        parts += tally.In_Work.size() > 1 ? u"stops after these videos"_s : u"stops after this video"_s;
+        parts += tally.In_Work.size() > 1 ? u"stops after the videos in work"_s : u"stops after this video"_s;
     else if (const qint64 seconds = Seconds_Left(tally, Age_Of_Run(program), program.Run.At_Once > 1); seconds > 0)
         parts += Time_Text(seconds) + u" left"_s;
     if (tally.Counts.Warnings > 0)

@@ -142,12 +142,12 @@ static int Spawn(pid_t& process, const QByteArray& executable, std::vector<QByte
     sigset_t all;
     sigset_t before;
     sigfillset(&all);
-    ::sigprocmask(SIG_SETMASK, &all, &before);
+    ::pthread_sigmask(SIG_SETMASK, &all, &before);
     process = ::vfork(); // NOLINT(clang-analyzer-security.insecureAPI.vfork): see above
     if (process == 0)
         Become(plan);
     const int error = process < 0 ? errno : plan.Error;
-    ::sigprocmask(SIG_SETMASK, &before, nullptr);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     if (process > 0 && error != 0)
         ::waitpid(process, nullptr, 0);
     return error;
