@@ -115,6 +115,7 @@ TEST_F(Window_List, ARestartKnowsWhatIsLeft)
 TEST_F(Window_List, RunStopsACheckAndFollowsItAndEscapeStopsIt)
 {
     Prepare();
+    Window.Choose("mnu_AtOnce2");
     bool pressed = false;
     QTimer look;
     const auto in_check = [&](const std::function<void()>& action) {
