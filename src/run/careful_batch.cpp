@@ -25,11 +25,6 @@ static const QString Stopped_Reason =
 /// While nothing comes from the threads, events have their turn that often.
 static constexpr std::chrono::milliseconds Between_Events{20};
 
-static bool Has_Stopped(const Careful_Run& run)
-{
-    return run.Unstarted_In_A_Row >= Most_Unstarted;
-}
-
 /// True if a halt keeps videos from their turns, or is to end those in work. One behind the last video halts nothing.
 static bool Is_Halted(const Careful_Run& run)
 {
@@ -72,6 +67,7 @@ static void Finish(Video_Work& work)
     if (work.Thread.joinable())
         work.Thread.join();
     End_Video(work);
+    run.Stopped = run.Stopped || run.Unstarted_In_A_Row >= Most_Unstarted;
     const File_Outcome& outcome = work.Outcome;
     if (outcome.Status == File_Outcome::Kind::Done)
         Trash_Companions(work);
@@ -134,7 +130,7 @@ static void Hand_Out_All(Careful_Run& run)
     for (const auto& walk : run.Walks)
         while (walk->Begun < walk->Chosen.size()) {
             Await(run, others);
-            if (Is_Halted(run) || Has_Stopped(run))
+            if (Is_Halted(run) || run.Stopped)
                 return;
             if (walk->Begun == 0)
                 Enter(*walk);
@@ -183,8 +179,8 @@ bool Run_Carefully(Program& program)
         Tell_Not_Run(*walk, run.Halt_Requested ? Halted_Reason : Stopped_Reason);
     if (run.Halt_Requested)
         program.Logs.Log_Faults.AppendLine(u"*** Process halted before finishing."_s);
-    else if (Has_Stopped(careful))
+    else if (careful.Stopped)
         program.Logs.Log_Faults.AppendLine(u"*** "_s + Stopped_Reason);
     Digest_Results(program);
-    return !run.Halt_Requested && !Has_Stopped(careful);
+    return !run.Halt_Requested && !careful.Stopped;
 }

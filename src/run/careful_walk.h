@@ -56,6 +56,7 @@ struct Careful_Run
     int Handed_Out = 0;                     ///< videos
     int Logged = 0;                         ///< number of the last video that is in the log
     int Unstarted_In_A_Row = 0;             ///< videos for which a tool couldn't be started, as they ended
+    bool Stopped = false;                   ///< too many of them: no other video is handed out
     std::int64_t Bytes_In_All = 0;          ///< sizes of the chosen sources, where several are in work at a time
     std::int64_t Bytes_Past = 0;            ///< of those that had their turn
     std::optional<QHash<QString, QString>> Makers = {}; ///< Makers_Of_Outputs, once an old output is in the way
