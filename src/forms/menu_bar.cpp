@@ -8,6 +8,7 @@
 #include "life/start_up.h"
 #include "rules/folder_changes.h"
 #include "rules/option_rules.h"
+#include "rules/presets.h"
 #include "rules/recent_folders.h"
 #include "rules/verbosity.h"
 #include "run/list_runs.h"
@@ -57,6 +58,8 @@ const Menu_Command Commands[] = {
     {"mnu_RunVantorra", mnu_RunVantorra_Click},
     {"mnu_Check", Check_Videos},
     {"mnu_ViewVidInfo", View_Video_File_Info},
+    {"mnu_SavePreset", mnu_SavePreset_Click},
+    {"mnu_ManagePresets", mnu_ManagePresets_Click},
     {"mnu_SaveNow", mnu_SaveNow_Click},
     {"mnu_Quit", mnu_Quit_Click},
     {"mnu_ViewLog", mnu_ViewLog_Click},

@@ -7,6 +7,7 @@
 #include "forms/options_layout.h"
 #include "forms/path_edit.h"
 #include "forms/popup_menus.h"
+#include "forms/preset_menu.h"
 #include "forms/slot_guard.h"
 #include "forms/status_line.h"
 #include "forms/video_list_view.h"
@@ -48,6 +49,7 @@ Startform::Startform(Program& program, Slot_Guard& guard)
     Connect_List();
     Connect_Popups(*this, program_, guard_);
     Connect_Menus(*this, program_, guard_);
+    new Preset_Menu(*this, program_, guard_);
     // What stands beside or below them stays under the pointer while they are hidden.
     const std::initializer_list<QWidget*> come_and_go = {ui_->pic_QuitButton, ui_->pic_AudioPath, ui_->pic_SubsPath,
                                                          ui_->pic_ChaptersPath};
@@ -157,7 +159,7 @@ void Startform::Measure()
 void Startform::Render()
 {
     const Main_Form& form = program_.Form;
-    setWindowTitle(Window_Title(program_));
+    setWindowTitle(Window_Title(program_).replace(u"[*]"_s, u"[*][*]"_s)); // where Qt would put a mark of its own
     for (const Click_Rule& rule : Click_Rules())
         if (auto* box = findChild<QCheckBox*>(rule.Name))
             Show_Check_Box(*box, program_.Options.*rule.Box);

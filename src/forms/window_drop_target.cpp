@@ -3,6 +3,7 @@
 #include "forms/drop_panel.h"
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
+#include "rules/presets.h"
 #include "rules/window_drop.h"
 #include "state/program.h"
 
@@ -28,9 +29,11 @@ bool Window_Drop_Target::eventFilter(QObject*, QEvent* event)
     case QEvent::Drop: {
         auto& drop = static_cast<QDropEvent&>(*event);
         const bool taken = !program_.Run.Press_In_Work;
+        if (event->type() == QEvent::DragEnter)
+            is_preset_ = Is_Preset_Drop(Drop_Data_Of(drop.mimeData()->urls()));
         drop.setDropAction(Qt::CopyAction);
         drop.setAccepted(taken);
-        panel_.Show_Hover(taken && event->type() != QEvent::Drop);
+        panel_.Show_Hover(taken && event->type() != QEvent::Drop && !is_preset_);
         if (taken && event->type() == QEvent::Drop)
             guard_.Call([&] { Drop_On_Window(program_, Drop_Data_Of(drop.mimeData()->urls())); });
         return true;

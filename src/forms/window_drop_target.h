@@ -23,4 +23,5 @@ class Window_Drop_Target : public QObject
     Drop_Panel& panel_;
     Program& program_;
     Slot_Guard& guard_;
+    bool is_preset_ = false; ///< what hangs there goes to no panel
 };

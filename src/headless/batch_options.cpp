@@ -30,6 +30,7 @@ static const std::vector<Command_Row>& Command_Rows()
         {Batch_Command::Identify, u"identify"_s, u"print what mkvmerge says of each file"_s, u"FILE..."_s},
         {Batch_Command::Log, u"log"_s, u"print the process log"_s, {}},
         {Batch_Command::Journal, u"journal"_s, u"print the last result of each video, on whatever machine"_s, {}},
+        {Batch_Command::Presets, u"presets"_s, u"print the names of the presets"_s, {}},
     };
     return rows;
 }
@@ -86,7 +87,7 @@ static const std::vector<Option_Row>& Option_Rows()
 {
     static const std::vector<Option_Row> rows = [] {
         using enum Batch_Command;
-        const QList<Batch_Command> all{Run, Settings, Identify, Log, Journal};
+        const QList<Batch_Command> all{Run, Settings, Identify, Log, Journal, Presets};
         const QList<Batch_Command> set_up{Run, Settings, Identify};
         std::vector<Option_Row> list = {
             {{u"videos"_s}, u"Take the videos from DIR instead of the remembered folder."_s, u"DIR"_s, set_up},
@@ -95,6 +96,7 @@ static const std::vector<Option_Row>& Option_Rows()
              u"The program's folder, where Vantorra.ini, ffprobe and the logs are."_s,
              u"DIR"_s,
              all},
+            {{u"preset"_s}, u"Take the options of that preset (vantorra-batch presets)."_s, u"NAME"_s, set_up},
             {{u"set"_s},
              u"Read a setting as if Vantorra.ini said so. Repeatable, never saved."_s,
              u"Section/Key=Value"_s,
@@ -300,6 +302,8 @@ static QString Take_Options(const QCommandLineParser& parser, Batch_Options& opt
         if (QString mistake = Take_Folder(parser, name, *folder); !mistake.isEmpty())
             return mistake;
 
+    if (parser.isSet(u"preset"_s))
+        options.Preset = parser.value(u"preset"_s);
     options.Settings = parser.values(u"set"_s);
     options.Clicks = Take_Clicks(parser);
     options.Check = parser.isSet(u"check"_s);
@@ -352,7 +356,7 @@ Batch_Line Parse_Batch_Line(const QStringList& arguments)
     else if (parser.isSet(u"help"_s) || parser.isSet(u"help-all"_s))
         line.Text = Help_Text(parser);
     else if (parser.isSet(u"complete"_s))
-        line.Text = Completion_List(parser.value(u"complete"_s)).join(u'\n') + u'\n';
+        line.Text = Completion_List(parser.value(u"complete"_s), parser.value(u"app-folder"_s)).join(u'\n') + u'\n';
     else if (parser.isSet(u"version"_s))
         line.Text = QStringLiteral("vantorra-batch " VANTORRA_VERSION "\n");
     else if (Batch_Options options; (line.Mistake = Take_Options(parser, options)).isEmpty())

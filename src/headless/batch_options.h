@@ -14,7 +14,8 @@ enum class Batch_Command
     Settings,
     Identify,
     Log,
-    Journal
+    Journal,
+    Presets
 };
 
 /// --tick and --untick: a click on a check box.
@@ -31,6 +32,7 @@ struct Batch_Options
     QString Videos = {};                ///< absolute; empty: the remembered folder
     QString Target = {};                ///< absolute; empty: the remembered folder
     QString App_Folder = {};            ///< absolute; empty: found as the window finds it
+    std::optional<QString> Preset = {}; ///< its name
     QStringList Settings = {};          ///< --set: "Section/Key=Value" each
     std::vector<Box_Click> Clicks = {}; ///< in the order of the command line
     bool Dry_Run = false;

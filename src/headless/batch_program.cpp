@@ -9,12 +9,14 @@
 #include "headless/identify_command.h"
 #include "headless/journal_command.h"
 #include "headless/log_command.h"
+#include "headless/presets_command.h"
 #include "headless/print.h"
 #include "headless/refusal.h"
 #include "headless/settings_command.h"
 #include "life/app_folder.h"
 #include "life/start_up.h"
 #include "run/run_driver.h"
+#include "settings/preset_names.h"
 #include "state/program.h"
 #include "support/run_time_error.h"
 #include "support/shown_text.h"
@@ -60,6 +62,7 @@ static void Miss_Attachments(Program& program)
 static void Set_Up(Program& program, const Batch_Options& options, Batch_Report& report)
 {
     Check_Box_Names(options.Clicks);
+    const Ini_Document preset = options.Preset ? Take_Preset_Rows(program, *options.Preset) : Ini_Document();
     Take_Assignments(program, options.Settings, report);
     // No lock: several batches may share a folder, each holding it only while it writes the log.
     Start_Up(program, nullptr);
@@ -70,6 +73,7 @@ static void Set_Up(Program& program, const Batch_Options& options, Batch_Report&
         program.Options.Path_Target = options.Target;
     if (options.Careful.value_or(program.Settings.Extensions.Careful_Batch))
         Miss_Attachments(program);
+    Warn_Of_What_Stays_Off(program, preset, report);
     Click_Boxes(program, options.Clicks);
     Choose_Videos(program, options);
 }
@@ -118,8 +122,10 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
                        std::FILE* err)
 {
     program.Settings.App_Folder = Choose_App_Folder(App_Folder_Places_Of_This_Process(options.App_Folder));
-    // Only the folder of log and journal is needed to print them.
-    if (options.Command != Batch_Command::Log && options.Command != Batch_Command::Journal)
+    // Only the folder of log, journal and presets is needed to print them.
+    const bool prints_files = options.Command == Batch_Command::Log || options.Command == Batch_Command::Journal ||
+                              options.Command == Batch_Command::Presets;
+    if (!prints_files)
         Set_Up(program, options, report);
     // What a halted tool left unsaid would pass for the whole.
     if (options.Command != Batch_Command::Run && Was_Halted(program))
@@ -142,6 +148,11 @@ static int Run_Command(Program& program, const Batch_Options& options, Batch_Rep
         if (!Print_Journal(program.Settings.App_Folder, options.Only_Failed, options.Json, out))
             Print_Text(
                 err, u"vantorra-batch: there is no journal in %1 yet.\n"_s.arg(Printable(program.Settings.App_Folder)));
+        return Exit_Finished;
+    case Batch_Command::Presets:
+        if (!Print_Presets(program.Settings.App_Folder, options.Json, out))
+            Print_Text(err, u"vantorra-batch: there are no presets in %1 yet.\n"_s.arg(
+                                Printable(Presets_Folder(program.Settings.App_Folder))));
         return Exit_Finished;
     }
     return Exit_Finished;

@@ -1,8 +1,11 @@
 #include "headless/completion_list.h"
 
 #include "headless/batch_options.h"
+#include "life/app_folder.h"
 #include "rules/click_rules.h"
+#include "settings/preset_names.h"
 #include "settings/settings_rows.h"
+#include "support/shown_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +37,15 @@ static QStringList Values_Of(const QString& name)
     return is_switch ? QStringList{u"On"_s, u"Off"_s} : QStringList();
 }
 
-QStringList Completion_List(const QString& what)
+/// Without those that no line can hold.
+static QStringList Presets(const QString& app_folder)
+{
+    QStringList names = Preset_Names(Choose_App_Folder(App_Folder_Places_Of_This_Process(app_folder)));
+    names.removeIf([](const QString& name) { return Printable(name) != name; });
+    return names;
+}
+
+QStringList Completion_List(const QString& what, const QString& app_folder)
 {
     const QString of_key = u"values:"_s;
     if (what == "options"_L1)
@@ -45,5 +56,7 @@ QStringList Completion_List(const QString& what)
         return Boxes();
     if (what == "keys"_L1)
         return Keys();
+    if (what == "presets"_L1)
+        return Presets(app_folder);
     return what.startsWith(of_key) ? Values_Of(what.mid(of_key.size())) : QStringList();
 }

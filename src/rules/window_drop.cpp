@@ -2,6 +2,7 @@
 
 #include "inspect/video_names.h"
 #include "rules/folder_changes.h"
+#include "rules/presets.h"
 #include "rules/video_list.h"
 #include "state/program.h"
 #include "support/drop_data.h"
@@ -99,6 +100,10 @@ void Drop_On_Window(Program& program, const Drop_Data& data)
 {
     if (program.Run.Press_In_Work)
         return;
+    if (Is_Preset_Drop(data)) {
+        Load_Preset_File(program, data.Paths.constFirst());
+        return;
+    }
     Label& notice = program.Form.lbl_Notice;
     const Dropped_Items items = Sorted_Out(data);
     notice.Caption = Why_Not_Taken(data, items);

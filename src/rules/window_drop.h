@@ -4,6 +4,7 @@ struct Drop_Data;
 struct Program;
 
 /// Something was dropped on the window, beside the folders' panels. One folder becomes the videos' path, as if dropped
-/// on its panel. Of videos of one folder that folder does, and in a careful batch only they are ticked. Anything else
-/// changes nothing. What there is to say about it is Form.lbl_Notice. Nothing happens while a run goes on.
+/// on its panel. Of videos of one folder that folder does, and in a careful batch only they are ticked. A preset's file
+/// is loaded. Anything else changes nothing. What there is to say about it is Form.lbl_Notice. Nothing happens while a
+/// run goes on.
 void Drop_On_Window(Program& program, const Drop_Data& data);

@@ -1,5 +1,6 @@
 #include "run/run_summary.h"
 
+#include "settings/preset_file.h"
 #include "state/program.h"
 #include "support/amount_text.h"
 #include "support/shown_text.h"
@@ -180,7 +181,9 @@ void Tell_At_The_End(Program& program)
 QString Window_Title(const Program& program)
 {
     const Main_Form& form = program.Form;
+    QString title = Preset_Title(program);
+    title += (title.isEmpty() ? u""_s : u" - "_s) + form.Caption;
     if (!program.Run.Run_In_Progress || program.Run.Checking)
-        return form.Caption;
-    return u"%1% - "_s.arg(static_cast<int>(std::nearbyint(form.Progress_Fraction * 100))) + form.Caption;
+        return title;
+    return u"%1% - "_s.arg(static_cast<int>(std::nearbyint(form.Progress_Fraction * 100))) + title;
 }

@@ -46,5 +46,5 @@ void Show_Last_Summary(Program& program);
 /// Tells a person who has gone away of the end of a long run, if the settings have it so ("Tell At The End").
 void Tell_At_The_End(Program& program);
 
-/// The window's title: ahead of it the percentage, while a run goes on.
+/// The window's title: ahead of it the preset, and the percentage while a run goes on.
 QString Window_Title(const Program& program);

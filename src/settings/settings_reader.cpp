@@ -1,4 +1,5 @@
 #include "settings/filter_modes.h"
+#include "settings/preset_file.h"
 #include "settings/row_rules.h"
 #include "settings/settings_store.h"
 #include "settings/verbosity_levels.h"
@@ -14,11 +15,19 @@ struct Settings_Reader
 {
     Program& Prog;
     const Ini_Document& Document;
+    bool Is_Preset = false; ///< only a preset's rows are taken, and one that is missing leaves its field as it is
 
-    /// Takes one row into its field; returns the text that was read.
+    bool Leaves(const Settings_Row& row) const
+    {
+        return Is_Preset && !(Is_Of_Preset(row) && Document.Value(row.Section, row.Key));
+    }
+
+    /// Takes one row into its field; returns the text that was read, or that stands for what the field holds already.
     QString Take(int number) const
     {
         const Settings_Row& row = number == 0 ? Settings_Rows().back() : Row_Of(number);
+        if (Leaves(row))
+            return row.Written(Prog).value_or(QString());
         QString text = Read_Ini_Key(Prog.Settings, Document, row.Section, row.Key, Default_Of(row, Prog));
         row.Take(Prog, text, Source_Of(Prog.Settings, row));
         return text;
@@ -164,7 +173,8 @@ static void Take_Audio(const Settings_Reader& reader)
     Take_Filter(reader, Audio_Group);
 
     reader.Take(Row::Delay_Adjust);
-    options.chk_AudioDelayAdjust.Value = 0; // Deliberate: the box starts unticked whatever the file says.
+    if (!reader.Leaves(Row_Of(Row::Delay_Adjust)))
+        options.chk_AudioDelayAdjust.Value = 0; // Deliberate: the box starts unticked whatever the file says.
     reader.Take(Row::Strip_Audio);
     if (options.chk_StripOrigAudio.Value == 1)
         for (Check_Box* const box : {&options.chk_StripOrigAudioTitle, &options.chk_CustomAudioFilter,
@@ -270,7 +280,7 @@ static void Take_Attachments(const Settings_Reader& reader)
     Attachments_Form& form = reader.Prog.Attachments_Dialog;
     if (options.Path_Attachments.isEmpty()) {
         Untick_And_Disable(options.chk_AddAttachments);
-    } else if (!Folder_Exists(options.Path_Attachments)) {
+    } else if (!reader.Is_Preset && !Folder_Exists(options.Path_Attachments)) {
         reader.Prog.Settings.Lost_Attachments =
             options.chk_AddAttachments.Value == 1 ? options.Path_Attachments : QString();
         options.Path_Attachments.clear();
@@ -298,15 +308,11 @@ static void Rest_Number_Boxes(JobOptions& options, Main_Form& form)
     form.pic_SplitVideosValue.Enabled = false;
 }
 
-void Read_Settings_From(Program& program, const Ini_Document& document)
+/// What makes a way to work: all but folders and places.
+static void Take_Options(const Settings_Reader& reader)
 {
-    const Settings_Reader reader{program, document};
-    JobOptions& options = program.Options;
-    Take_Places(reader);
-    Take_Paths(reader);
     Take_Video_Format(reader);
     Take_Menu(reader);
-    Rest_Number_Boxes(options, program.Form);
     Take_Sticky_Values(reader, Row::Audio_Sticky);
     Take_Audio(reader);
     Take_Sticky_Values(reader, Row::Subtitle_Sticky);
@@ -316,16 +322,55 @@ void Read_Settings_From(Program& program, const Ini_Document& document)
     Take_Titles(reader);
     Take_Attachments(reader);
     reader.Take(Row::Split_Minutes);
-    program.Form.txt_SplitVideosValue.Text = options.Split_Minutes;
+    reader.Prog.Form.txt_SplitVideosValue.Text = reader.Prog.Options.Split_Minutes;
     for (const Settings_Row& row : Settings_Rows())
         if (row.Section == u"Extensions"_s)
             reader.Take(row.Number);
+    Set_Audio_Filter_Mode(reader.Prog.Options);
+    Set_Subs_Filter_Mode(reader.Prog.Options);
+}
+
+void Read_Settings_From(Program& program, const Ini_Document& document)
+{
+    const Settings_Reader reader{program, document};
+    const JobOptions& options = program.Options;
+    Take_Places(reader);
+    Take_Paths(reader);
+    Rest_Number_Boxes(program.Options, program.Form);
+    Take_Options(reader);
     reader.Take(Row::Sources);
     reader.Take(Row::Targets);
     program.Form.btn_RunVantorra.Enabled = !options.Path_Videos.isEmpty() && !options.Path_Target.isEmpty();
-    Set_Audio_Filter_Mode(options);
-    Set_Subs_Filter_Mode(options);
     program.Settings.Careful_Key_Missing =
         Read_Ini_Key(program.Settings, document, u"Extensions"_s, u"Careful Batch"_s, {}).isEmpty();
     program.Settings.Settings_Loaded = true;
+}
+
+/// As the boxes are before the first settings are read: what disables one is another's value.
+static void Enable_All(JobOptions& options)
+{
+    for (Check_Box* const box :
+         {&options.chk_StripOrigAudioTitle, &options.chk_CustomAudioFilter, &options.chk_EngAudioOnly,
+          &options.chk_AudioDelayAdjust, &options.chk_StripOrigSubsTitle, &options.chk_CustomSubsFilter,
+          &options.chk_EngSubsOnly, &options.chk_SubDefaults, &options.chk_SubForces, &options.chk_SetFileTitle,
+          &options.chk_CustomFileTitle, &options.chk_SetVideoTitle, &options.chk_CustomVideoTitle,
+          &options.chk_AddAttachments})
+        box->Enabled = true;
+}
+
+/// The delay's box follows its tick, which a preset may have taken back.
+static void Follow_Delay_Tick(const Check_Box& tick, Main_Form& form)
+{
+    form.Delay_Toggle = tick.Value == 1;
+    form.txt_AudioDelayValue.Enabled = form.Delay_Toggle;
+    form.txt_AudioDelayValue.Active = form.pic_AudioDelayValue.Enabled = form.Delay_Toggle && tick.Enabled;
+}
+
+void Take_Preset(Program& program, const Ini_Document& preset)
+{
+    Enable_All(program.Options);
+    Take_Options({program, preset, true});
+    Follow_Delay_Tick(program.Options.chk_AudioDelayAdjust, program.Form);
+    // What was loaded is what a bad key returns to.
+    program.Form.Split_Minutes_Last_Good = QString();
 }

@@ -43,6 +43,11 @@ bool Is_Understood(const Settings_Row& row, const QString& text, Operator& perso
     return refused || kept != of_nonsense;
 }
 
+void Set_Override(Settings_State& settings, const Settings_Row& row, const QString& value)
+{
+    settings.Overrides[Override_Name(row.Section, row.Key)] = value;
+}
+
 QString Source_Of(const Settings_State& settings, const Settings_Row& row)
 {
     const QString key = row.Key.trimmed();
@@ -66,7 +71,7 @@ Override_Result Add_Override(Program& program, const QString& assignment)
     const bool is_read = row->Used == Settings_Row::Use::Read;
     if (is_read && !Is_Understood(*row, Ini_Value_As_Read(value), program.Person))
         return Override_Result::Not_Understood;
-    program.Settings.Overrides[Override_Name(section, key)] = value;
+    Set_Override(program.Settings, *row, value);
     return is_read ? Override_Result::Taken : Override_Result::Without_Effect;
 }
 

@@ -46,6 +46,8 @@ void mnu_SaveOnQuit_Click(Program& program);
 /// One key of the settings: the override if there is one, else the document's value, else `missing`.
 QString Read_Ini_Key(const Settings_State& settings, const Ini_Document& document, const QString& section,
                      const QString& key, const QString& missing);
+/// Has the row read as if the settings file said so.
+void Set_Override(Settings_State& settings, const Settings_Row& row, const QString& value);
 /// Where a row's text comes from, for an error: the override, or the file, section and key.
 QString Source_Of(const Settings_State& settings, const Settings_Row& row);
 /// One key into the document; an empty value writes the key with nothing behind its "=".

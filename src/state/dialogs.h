@@ -91,6 +91,35 @@ struct Recent_List_Form
     bool Arrow_Pressed = false; ///< img_SourceMRU, img_TargetMRU: shifted by half its height
 };
 
+/// frm_Presets: the presets there are, to be loaded, renamed and moved to the trash. Opened and ended by
+/// mnu_ManagePresets_Click; the view renders the record, keeps Row in step with its list and closes once Visible is
+/// False.
+struct Presets_Form
+{
+    QStringList Names; ///< as the disk has them; the menu shows them, too
+    int Row = -1;      ///< of Names, the marked one; -1: none
+    Label lbl_PresetsNote;
+    Button btn_Load{.Caption = QStringLiteral("Load")};
+    Button btn_Rename{.Caption = QStringLiteral("Rename...")};
+    Button btn_Trash{.Caption = QStringLiteral("Move To Trash")};
+    QString Focus;
+    bool Visible = false;
+};
+
+/// frm_PresetName: asks what a preset is to be called. Opened and ended by the rules of presets; the view renders the
+/// record, puts what is typed into txt_PresetName, and closes once Visible is False.
+struct Preset_Name_Form
+{
+    QString Caption;
+    Text_Box txt_PresetName;
+    Label lbl_PresetNameFault; ///< why it can't be called so
+    Button btn_Done;
+    QString Keeps;         ///< rename: the present name; empty: a preset is saved
+    bool Accepted = false; ///< btn_Done ended the form
+    QString Focus;
+    bool Visible = false;
+};
+
 /// frm_Help: the help file, where the desktop has no program for it.
 struct Help_Form
 {

@@ -35,6 +35,8 @@ struct Program
     Custom_Title_Form Custom_Title;
     Frame_Rate_Form Frame_Rate_Dialog;
     Video_Format_Form Video_Format_Dialog;
+    Presets_Form Presets_Dialog;
+    Preset_Name_Form Preset_Name_Dialog;
     Help_Form Help;
     About_Form About_Box;
     Tool_Paths Tools;

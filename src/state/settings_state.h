@@ -60,6 +60,13 @@ struct Extension_Switches
     int Video_List_Height = 0;    ///< in pixels; 0: as much as it takes at first
 };
 
+/// The preset that the options were loaded from, or saved as, last.
+struct Loaded_Preset
+{
+    QString Name;       ///< as its file has it; empty: there was none
+    QStringList Values; ///< of its rows, as they were then
+};
+
 /// All settings that are no options of a run, and where the settings are.
 struct Settings_State
 {
@@ -95,6 +102,7 @@ struct Settings_State
     bool Frame_Rate_Usable = false;
     bool Video_Format_Usable = false;
     Extension_Switches Extensions;
+    Loaded_Preset Preset;
 
     /// "Section/Key" (lower case) to value: read as if the settings file said so, never written.
     std::map<QString, QString> Overrides;
