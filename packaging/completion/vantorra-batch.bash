@@ -1,7 +1,7 @@
 # bash completion for vantorra-batch. The program itself names its options, boxes, keys and their values.
 
 _vantorra_batch_list() {
-    "${COMP_WORDS[0]/#\~/$HOME}" --complete "$1" 2>/dev/null
+    "${COMP_WORDS[0]/#\~/$HOME}" --complete "$@" 2>/dev/null
 }
 
 # Offers the lines of standard input that begin with $1, in the quoting that was begun with $2; $3 goes behind each.
@@ -19,10 +19,14 @@ _vantorra_batch_offer() {
 
 _vantorra_batch()
 {
-    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= key= quote= at
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= key= quote= folder= at
     for ((at = 1; at < COMP_CWORD; ++at)); do
         case ${COMP_WORDS[at]} in
-            run | settings | identify | log | journal) command=${COMP_WORDS[at]} ;;
+            run | settings | identify | log | journal | presets) command=${COMP_WORDS[at]} ;;
+            --app-folder)
+                folder=${COMP_WORDS[at + 1]}
+                [[ $folder == = ]] && folder=${COMP_WORDS[at + 2]}
+                ;;
         esac
     done
     # bash takes "=" for a word of its own: --set KEY = VALUE, or --tick = NAME.
@@ -55,6 +59,12 @@ _vantorra_batch()
             ;;
         --tick | --untick)
             mapfile -t COMPREPLY < <(compgen -W "$(_vantorra_batch_list boxes)" -- "$word")
+            return
+            ;;
+        --preset)
+            folder=${folder//[\\\"\']/}
+            folder=${folder/#\~/$HOME}
+            _vantorra_batch_offer "$word" "$quote" '' < <(_vantorra_batch_list presets --app-folder "$folder")
             return
             ;;
         --set)

@@ -5,6 +5,21 @@ function __vantorra_batch_list
     $words[1] --complete $argv[1] 2>/dev/null
 end
 
+# The presets of the folder that the line names.
+function __vantorra_batch_presets
+    set -l words (commandline -opc)
+    set -l folder
+    for at in (seq (count $words))
+        if string match -q -- '--app-folder=*' $words[$at]
+            set folder (string replace -- '--app-folder=' '' $words[$at])
+        else if test "$words[$at]" = --app-folder
+            set folder $words[(math $at + 1)]
+        end
+    end
+    set folder (string replace -r -- '^~' $HOME (string unescape -- "$folder"))
+    $words[1] --complete presets --app-folder "$folder" 2>/dev/null
+end
+
 # "Section/Key=" of each key, and behind the "=" the values that it knows.
 function __vantorra_batch_settings
     set -l typed (string unescape -- (commandline -ct))
@@ -20,18 +35,20 @@ function __vantorra_batch_settings
     end
 end
 
-set -l run 'not __fish_seen_subcommand_from settings identify log journal'
+set -l run 'not __fish_seen_subcommand_from settings identify log journal presets'
 complete -c vantorra-batch -f
 complete -c vantorra-batch -n '__fish_use_subcommand' -a run -d 'process the folder (the default)'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a settings -d 'print the options in force'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a identify -d 'print what mkvmerge says of each file'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a log -d 'print the process log'
 complete -c vantorra-batch -n '__fish_use_subcommand' -a journal -d 'print the last result of each video, on whatever machine'
+complete -c vantorra-batch -n '__fish_use_subcommand' -a presets -d 'print the names of the presets'
 complete -c vantorra-batch -n "$run" -a '(__fish_complete_directories)'
 complete -c vantorra-batch -n '__fish_seen_subcommand_from identify' -F
 complete -c vantorra-batch -l videos -x -a '(__fish_complete_directories)' -d 'take the videos from this folder'
 complete -c vantorra-batch -l target -x -a '(__fish_complete_directories)' -d 'put the Matroska files into this folder'
 complete -c vantorra-batch -l app-folder -x -a '(__fish_complete_directories)' -d 'where Vantorra.ini, ffprobe and the logs are'
+complete -c vantorra-batch -l preset -x -a '(__vantorra_batch_presets)' -d 'take the options of that preset'
 complete -c vantorra-batch -l set -x -a '(__vantorra_batch_settings)' -d 'read a setting as if Vantorra.ini said so'
 complete -c vantorra-batch -l tick -x -a '(__vantorra_batch_list boxes)' -d 'tick a check box'
 complete -c vantorra-batch -l untick -x -a '(__vantorra_batch_list boxes)' -d 'untick a check box'

@@ -10,6 +10,12 @@ _vantorra_batch_boxes() {
     _vantorra_batch_list boxes
 }
 
+_vantorra_batch_presets() {
+    local folder=${(Q)opt_args[--app-folder]}
+    local -a names=("${(@f)$(_call_program names ${(q)words[1]} --complete presets --app-folder ${(q)folder/#\~/$HOME} 2>/dev/null)}")
+    compadd -a names
+}
+
 _vantorra_batch_setting() {
     if compset -P 1 '*='; then
         _vantorra_batch_list "values:${${(Q)IPREFIX}%%=*}"
@@ -25,6 +31,7 @@ _vantorra_batch_commands() {
         'identify:print what mkvmerge says of each file'
         'log:print the process log'
         'journal:print the last result of each video, on whatever machine'
+        'presets:print the names of the presets'
     )
     _describe command commands
     _files -/
@@ -34,6 +41,7 @@ _arguments -s \
     '--videos[take the videos from this folder]:folder:_files -/' \
     '--target[put the Matroska files into this folder]:folder:_files -/' \
     '--app-folder[where Vantorra.ini, ffprobe and the logs are]:folder:_files -/' \
+    '--preset[take the options of that preset]:preset:_vantorra_batch_presets' \
     '*--set[read a setting as if Vantorra.ini said so]:Section/Key=Value:_vantorra_batch_setting' \
     '*--tick[tick a check box]:check box:_vantorra_batch_boxes' \
     '*--untick[untick a check box]:check box:_vantorra_batch_boxes' \

@@ -91,8 +91,10 @@ void Override_By_Preset(Program& program, const Ini_Document& preset)
 QStringList What_Stays_Off(const Program& program, const Ini_Document& preset)
 {
     QStringList keys;
-    For_Each_Row(preset, [&](const Settings_Row& row, const QString& text) {
-        if (text.compare(u"on"_s, Qt::CaseInsensitive) == 0 && row.Written(program) == u"Off"_s)
+    For_Each_Row(preset, [&](const Settings_Row& row, const QString&) {
+        // An override may have turned it off on purpose.
+        const QString asked = Read_Ini_Key(program.Settings, preset, row.Section, row.Key, {});
+        if (asked.compare(u"on"_s, Qt::CaseInsensitive) == 0 && row.Written(program) == u"Off"_s)
             keys += row.Key.trimmed();
     });
     return keys;

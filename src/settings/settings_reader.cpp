@@ -346,9 +346,10 @@ void Read_Settings_From(Program& program, const Ini_Document& document)
     program.Settings.Settings_Loaded = true;
 }
 
-/// As the boxes are before the first settings are read: what disables one is another's value.
+/// As the options are before the first settings are read: what disables a box is another's value.
 static void Enable_All(JobOptions& options)
 {
+    options.SubsFilterKeep = 0;
     for (Check_Box* const box :
          {&options.chk_StripOrigAudioTitle, &options.chk_CustomAudioFilter, &options.chk_EngAudioOnly,
           &options.chk_AudioDelayAdjust, &options.chk_StripOrigSubsTitle, &options.chk_CustomSubsFilter,

@@ -2,8 +2,10 @@
 #include "headless/batch_options.h"
 #include "rules/click_rules.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 namespace {
@@ -91,6 +93,18 @@ TEST(Completion, BashOffersKeysWithTheirBlanksAndWhatTheyKnow)
               (QStringList{u"Number"_s, u"Replace"_s, u"Skip"_s}));
     EXPECT_EQ(Bash_Offers({Batch_Program, word, u"'Extensions/Careful Batch=Of"_s}),
               QStringList(u"'Extensions/Careful Batch=Off"_s));
+}
+
+TEST(Completion, BashOffersThePresetsOfTheFolderThatTheLineNames)
+{
+    const QTemporaryDir app;
+    QDir(app.path()).mkdir(u"presets"_s);
+    for (const QString& name : {u"Anime two"_s, u"Tom & Jerry"_s, u"Tom\nx"_s})
+        QFile(app.filePath(u"presets/"_s + name + u".ini"_s)).open(QIODevice::WriteOnly);
+    const QStringList line{Batch_Program, u"--app-folder"_s, app.path(), u"--preset"_s};
+    EXPECT_EQ(Bash_Offers(line + QStringList{u"An"_s}), QStringList(u"Anime\\ two"_s));
+    EXPECT_EQ(Bash_Offers(line + QStringList{u"\"T"_s}), QStringList(u"\"Tom & Jerry"_s));
+    EXPECT_EQ(Bash_Offers(line + QStringList{u"="_s, {}}).size(), 2);
 }
 
 TEST(Completion, ZshAndFishNameWhatTheParserUnderstands)
