@@ -56,8 +56,10 @@ void Presets_View::Show_Names()
     if (shown_ != form.Names) {
         shown_ = form.Names;
         ui_->lst_Presets->clear();
-        for (const QString& name : shown_)
-            ui_->lst_Presets->addItem(Printable(name));
+        for (const QString& name : shown_) {
+            auto* line = new QListWidgetItem(Printable(name), ui_->lst_Presets);
+            line->setToolTip(Literal_Tool_Tip(line->text())); // where it is cut
+        }
     }
     if (ui_->lst_Presets->currentRow() != form.Row)
         ui_->lst_Presets->setCurrentRow(form.Row);
