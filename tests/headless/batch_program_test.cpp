@@ -39,34 +39,22 @@ TEST(Batch_Program, AnAnswerThatDoesNotGetThroughIsNeverASuccess)
 TEST(Batch_Program, APresetIsTakenByItsNameAndSetWinsOverIt)
 {
     const Test_Program test;
-    test.Write(u"app/presets/Anime & more.ini"_s, "[Audio]\nAudio Delay=7\nAdd Audio Files=On\n");
+    test.Write(u"app/presets/A & b.ini"_s, "[Other Options]\nSet Custom File Title Text=\"\"q\" \"\n");
     test.Write(u"app/presets/bad.ini"_s, "[Audio]\nAdd Audio Files=perhaps\n");
-
-    const struct
-    {
-        QStringList Arguments;
-        int Exit;
-        QString Said;
-    } claims[] = {
-        {{u"presets"_s}, Exit_Finished, u"Anime & more\nbad\n"_s},
-        {{u"presets"_s, u"--json"_s}, Exit_Finished, u"{\"event\":\"preset\",\"name\":\"bad\",\"path\":\"/"_s},
-        {{u"settings"_s, u"--json"_s, u"--preset"_s, u"anime & more"_s}, Exit_Finished, u"\"value\":\"7\""_s},
-        {{u"settings"_s, u"--json"_s, u"--set"_s, u"Audio/Audio Delay=8"_s, u"--preset=Anime & more"_s},
-         Exit_Finished,
-         u"\"value\":\"8\""_s},
+    const QString title = u"Other Options/Set Custom File Title Text"_s;
+    const std::tuple<QStringList, int, QString> claims[] = {
+        {{u"presets"_s}, 0, u"A & b\nbad\n"_s},
+        {{u"presets"_s, u"--json"_s}, 0, u"{\"event\":\"preset\",\"name\":\"bad\",\"path\":\"/"_s},
+        {{u"settings"_s, u"--preset"_s, u"a & b"_s}, 0, title.leftJustified(74) + u"\"q\"\n"_s},
+        {{u"settings"_s, u"--set"_s, title + u"=x"_s, u"--preset=A & b"_s}, 0, title.leftJustified(74) + u"x\n"_s},
         {{u"settings"_s, u"--preset"_s, u"bed"_s}, Exit_Bad_Usage, u"no such preset (vantorra-batch presets"_s},
         {{u"--preset"_s, u"../Vantorra"_s}, Exit_Bad_Usage, u"no such preset"_s},
         {{u"--preset"_s, u"bad"_s}, Exit_Run_Time_Error, u"[Audio] \"Add Audio Files\""_s},
-        {{u"log"_s, u"--preset"_s, u"bad"_s}, Exit_Bad_Usage, u"belongs to the command"_s},
     };
-
-    for (const auto& claim : claims) {
+    for (const auto& [arguments, exit, said] : claims) {
         Memory_Stream out;
-        const QStringList folder = {u"--app-folder"_s, test.Path(u"app"_s)};
-        EXPECT_EQ(Run_Batch_Program(QStringList{u"vantorra-batch"_s} + claim.Arguments + folder, out.Stream(),
-                                    out.Stream(), [] { return false; }),
-                  claim.Exit)
-            << claim.Arguments.join(u' ').toStdString();
-        EXPECT_TRUE(out.Text().contains(claim.Said)) << out.Text().toStdString();
+        const QStringList line = QStringList{u"vantorra-batch"_s, u"--app-folder"_s, test.Path(u"app"_s)} + arguments;
+        EXPECT_EQ(Run_Batch_Program(line, out.Stream(), out.Stream(), [] { return false; }), exit);
+        EXPECT_TRUE(out.Text().contains(said)) << out.Text().toStdString();
     }
 }

@@ -3,13 +3,13 @@
 #include "common/test_program.h"
 #include "rules/click_rules.h"
 #include "rules/control_states.h"
+#include "rules/folders.h"
 #include "rules/preset_dialogs.h"
 #include "rules/window_drop.h"
 #include "settings/preset_file.h"
 #include "settings/settings_store.h"
 #include "support/drop_data.h"
 
-#include <QDir>
 #include <QFile>
 
 static const QByteArray Place = "[MainWindow]\nLeft=1\nTop=1\nWidth=9\nHeight=9\n";
@@ -75,7 +75,7 @@ TEST_F(Preset_Rules, WhatWasSavedInOneProgramIsAsAfterTheStartInAnother)
             Save_Ini_File(Path(u"x.ini"_s), preset);
             ASSERT_TRUE(Load_Preset_File(loaded, Path(u"x.ini"_s)));
             EXPECT_EQ(Preset_Values(loaded), Preset_Values(saved)) << from.toStdString() << to.toStdString();
-            Load_Preset_File(saved, Path(u"x.ini"_s)); // its panels, which the start shows later
+            Show_Folder_Panels(saved.Options, saved.Form); // as the start does behind the settings
             EXPECT_EQ(Difference(States_Of(saved), States_Of(loaded)), u""_s) << from.toStdString();
             for (const Click_Rule& rule : Click_Rules())
                 EXPECT_EQ((loaded.Options.*rule.Box).Caption, (saved.Options.*rule.Box).Caption);
@@ -92,7 +92,6 @@ TEST_F(Preset_Rules, ARowThatThePresetLacksKeepsItsValue)
     options.chk_RemoveAllTags.Value = 0; // a missing key means On at the start
     options.chk_SplitVideos.Value = Prog.Form.txt_SplitVideosValue.Active = 1;
     options.chk_AudioDelayAdjust.Value = 1;
-    const QString settings_file = QString::fromUtf8(Read(u"app/Vantorra.ini"_s));
     const QStringList before = Preset_Values(Prog);
     ASSERT_TRUE(Load_Preset_File(
         Prog, Write(u"p.ini"_s, "[audio]\nstrip existing audio title=on\n[Menu]\nDelete Processed File=True\n"
@@ -105,19 +104,10 @@ TEST_F(Preset_Rules, ARowThatThePresetLacksKeepsItsValue)
     EXPECT_FALSE(options.Delete_Video_After || Prog.Settings.Extensions.Careful_Batch);
     EXPECT_TRUE(options.chk_SplitVideos.Value == 1 && Prog.Form.txt_SplitVideosValue.Active);
     EXPECT_TRUE(options.chk_AudioDelayAdjust.Value == 1 && Prog.Form.txt_AudioDelayValue.Active);
-    EXPECT_EQ(QString::fromUtf8(Read(u"app/Vantorra.ini"_s)), settings_file);
-}
-
-TEST_F(Preset_Rules, TheTitleTellsWhetherAnOptionDiffers)
-{
-    EXPECT_EQ(Preset_Title(Prog), u""_s);
-    Save(u" Tom & Jerry "_s);
-    EXPECT_EQ(Preset_Title(Prog), u"Tom & Jerry"_s);
-    Prog.Options.chk_AddSubs.Value = 1;
-    Prog.Options.Delete_Video_After = true;
-    EXPECT_EQ(Preset_Title(Prog), u"Tom & Jerry *"_s);
-    Prog.Options.chk_AddSubs.Value = 0;
-    EXPECT_EQ(Preset_Title(Prog), u"Tom & Jerry"_s) << "what a preset lacks is no difference";
+    options.Delete_Video_After = true;
+    EXPECT_EQ(Preset_Title(Prog), u"p *"_s); // the title's one that was taken back
+    options.chk_StripOrigAudioTitle.Value = 1;
+    EXPECT_EQ(Preset_Title(Prog), u"p"_s) << "what a preset lacks is no difference";
 }
 
 TEST_F(Preset_Rules, ABrokenOneAndOneInARunChangeNothing)
@@ -135,9 +125,6 @@ TEST_F(Preset_Rules, ABrokenOneAndOneInARunChangeNothing)
     EXPECT_FALSE(Load_Preset_File(Prog, fine));
     Save(u"Other"_s);
     EXPECT_FALSE(QFile::exists(Path(u"app/presets/Other.ini"_s)) || Prog.Options.chk_AddAudio.Value);
-    Prog.Run.Press_In_Work = false;
-    Drop_On_Window(Prog, {.Has_File_List = true, .Paths = {fine}});
-    EXPECT_EQ(Preset_Title(Prog), u"fine"_s);
 }
 
 TEST_F(Preset_Rules, SavingAsksBeforeItReplacesAndKeepsWhatItDoesNotKnow)
@@ -157,8 +144,6 @@ TEST_F(Preset_Rules, SavingAsksBeforeItReplacesAndKeepsWhatItDoesNotKnow)
     const QByteArray now = Read(u"app/presets/Anime.ini"_s);
     EXPECT_TRUE(now.startsWith("; mine\n[Audio]\nAdd Audio Files=Off\nFuture=1\n")) << now.toStdString();
     EXPECT_TRUE(now.contains("[New]\nKey=x\n"));
-    EXPECT_EQ(QDir(Path(u"app/presets"_s)).entryList(QDir::Files), QStringList(u"Anime.ini"_s));
-
     Prog.Options.chk_AddAudio.Value = 2; // neither on nor off
     Save(u"Half"_s);
     EXPECT_TRUE(Person.Messages.back().Text.contains(u"\"Add Audio Files\""));
@@ -189,13 +174,9 @@ TEST_F(Preset_Rules, RenamingNeverTakesAnotherPresetsPlaceAndTheTrashIsAsked)
         EXPECT_EQ(form.Names.size(), 2);
         Person.Answer = Message_Answer::Ok;
         btn_Presets_Trash_Click(Prog);
-        EXPECT_EQ(form.Names.value(form.Row), u"b"_s);
-        EXPECT_TRUE(Names_In_Trash().contains(u"z & y.ini"_s));
         EXPECT_EQ(Preset_Title(Prog), u""_s);
-        btn_Presets_Load_Click(Prog);
-        EXPECT_FALSE(form.Visible);
+        EXPECT_TRUE(Names_In_Trash().contains(u"z & y.ini"_s));
     };
     mnu_ManagePresets_Click(Prog);
-    EXPECT_EQ(Preset_Title(Prog), u"b"_s);
-    EXPECT_EQ(Prog.Options.chk_AddAudio.Value, 1);
+    EXPECT_EQ(Prog.Presets_Dialog.Names.value(Prog.Presets_Dialog.Row), u"b"_s);
 }
