@@ -56,6 +56,7 @@ static void Look_Beside(Program& program, const std::function<void()>& look)
 static void Find_Files_Beside(Program& program, const QString& videos_path, Assembly& work)
 {
     const JobOptions& options = program.Options;
+    const bool say_origin = program.Settings.Extensions.Language_From_File_Name;
     Companions& found = program.Companions;
     Reset_Companions(found);
     if (options.chk_AddAudio.Value == 1) {
@@ -63,7 +64,7 @@ static void Find_Files_Beside(Program& program, const QString& videos_path, Asse
             Find_External_Audio(program, External_Audio_Folder(options, videos_path), work.Video_Base_Name,
                                 found.External_Audio, work.Audio_Default_Claimed);
         });
-        Log_External_Audio(found.External_Audio, options, program.Language_Table, program.Logs.Log_Faults);
+        Log_External_Audio(found.External_Audio, options, program.Language_Table, program.Logs.Log_Faults, say_origin);
     }
     if (options.chk_AddSubs.Value == 1) {
         Look_Beside(program, [&] {
@@ -71,7 +72,7 @@ static void Find_Files_Beside(Program& program, const QString& videos_path, Asse
                                     found.External_Subtitles, found.External_Subtitles_Unpaired);
         });
         Log_External_Subtitles(found.External_Subtitles, found.External_Subtitles_Unpaired, options,
-                               program.Language_Table, program.Logs.Log_Faults);
+                               program.Language_Table, program.Logs.Log_Faults, say_origin);
     }
     Look_Beside(program, [&] { found.Chapter_File = Find_Chapter_File(program, videos_path, work.Video_Base_Name); });
 }

@@ -54,8 +54,11 @@ void Take_Option_Values(ExternalTrack& track, const Option_Values& values)
     track.Title = values[Title_Slot];
     track.Literal = false;
     track.Language = values[Language_Slot];
+    track.Language_From = track.Language.isEmpty() ? Language_Origin::Nowhere : Language_Origin::Option_File;
     track.DefaultFlag = values[Default_Slot];
+    track.Default_Chosen = !track.DefaultFlag.isEmpty();
     track.ForcedFlag = values[Forced_Slot];
+    track.Forced_Chosen = !track.ForcedFlag.isEmpty();
     track.Delay = values[Delay_Slot];
 }
 
@@ -65,14 +68,65 @@ void Apply_Sticky_Values(ExternalTrack& track, const StickyValues& sticky, const
         track.Title = sticky.Title;
         track.Literal = false;
     }
-    if (sticky.Sticky_Languages == 1 && !sticky.Language.isEmpty())
+    if (sticky.Sticky_Languages == 1 && !sticky.Language.isEmpty()) {
         track.Language = Language_Code_Of_File(table, sticky.Language, u"the sticky language"_s);
-    if (sticky.Sticky_Default == 1 && !sticky.Default.isEmpty())
+        track.Language_From = track.Language.isEmpty() ? Language_Origin::Nowhere : Language_Origin::Sticky_Value;
+    }
+    track.Default_Chosen = sticky.Sticky_Default == 1 && !sticky.Default.isEmpty();
+    if (track.Default_Chosen)
         track.DefaultFlag = sticky.Default;
-    if (sticky.Sticky_Forced == 1 && !sticky.Forced.isEmpty())
+    track.Forced_Chosen = sticky.Sticky_Forced == 1 && !sticky.Forced.isEmpty();
+    if (track.Forced_Chosen)
         track.ForcedFlag = sticky.Forced;
     if (sticky.Sticky_Delay == 1 && !sticky.Delay.isEmpty())
         track.Delay = sticky.Delay;
+}
+
+void Take_Name_Facts(ExternalTrack& track, const Name_Facts& facts)
+{
+    const bool chosen =
+        track.Language_From == Language_Origin::Option_File || track.Language_From == Language_Origin::Sticky_Value;
+    if (!facts.Language.isEmpty() && !chosen) {
+        track.Language = facts.Language;
+        track.Language_From = Language_Origin::Its_Name;
+    }
+    if (facts.Default && !track.Default_Chosen) {
+        track.DefaultFlag = u"yes"_s;
+        track.Flags_Of_Name += u"default"_s;
+    }
+    if (facts.Forced && !track.Forced_Chosen) {
+        track.ForcedFlag = u"yes"_s;
+        track.Flags_Of_Name += u"forced"_s;
+    }
+    track.Hearing_Impaired = facts.Hearing_Impaired;
+    if (facts.Hearing_Impaired)
+        track.Flags_Of_Name += u"hearing impaired"_s;
+}
+
+static QString Origin_Words(Language_Origin origin)
+{
+    switch (origin) {
+    case Language_Origin::The_File:
+        return u"from the file itself"_s;
+    case Language_Origin::Option_File:
+        return u"from the option file"_s;
+    case Language_Origin::Sticky_Value:
+        return u"from the sticky values"_s;
+    case Language_Origin::Its_Name:
+        return u"from the file's name"_s;
+    case Language_Origin::Nowhere:
+        break;
+    }
+    return u"not known"_s;
+}
+
+QString Origin_Text(const ExternalTrack& track)
+{
+    const QString text = Origin_Words(track.Language_From);
+    if (track.Flags_Of_Name.isEmpty())
+        return text;
+    const bool both = track.Language_From == Language_Origin::Its_Name;
+    return text + (both ? u"; also from it: "_s : u"; from the file's name: "_s) + track.Flags_Of_Name.join(u", "_s);
 }
 
 QString Language_Part(const LanguageTable& table, const QString& language)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "options/name_facts.h"
 #include "options/option_file.h"
 #include "state/companions.h"
 #include "state/settings_state.h"
@@ -38,6 +39,14 @@ ExternalTrack& Add_Track(ExternalTrackList& list);
 void Take_Option_Values(ExternalTrack& track, const Option_Values& values);
 /// Overwrites each setting whose sticky flag is 1 and whose sticky text isn't empty.
 void Apply_Sticky_Values(ExternalTrack& track, const StickyValues& sticky, const LanguageTable& table);
+
+/// What the file's name tells, for each setting that neither the option file nor a sticky value has settled. Called
+/// behind those two.
+void Take_Name_Facts(ExternalTrack& track, const Name_Facts& facts);
+
+/// Where a track's language, and what flags it has by its name, came from: "from the file's name; also from it:
+/// forced".
+QString Origin_Text(const ExternalTrack& track);
 
 /// " ;English (eng)" for a log line; " ;Undetermined (und)" for anything that isn't a three-letter code of the table.
 QString Language_Part(const LanguageTable& table, const QString& language);

@@ -56,10 +56,14 @@ void Find_External_Audio(Program& program, const QString& folder, const QString&
         track.Title = info.HandlerName;
         track.Literal = program.Run.Careful;
         track.Language = Language_Code_Of_File(program.Language_Table, info.Language, path);
+        if (!track.Language.isEmpty() && track.Language != "und"_L1)
+            track.Language_From = Language_Origin::The_File;
         track.DefaultFlag = info.Default;
         track.ForcedFlag = info.Forced;
         if (program.Options.chk_UseAudioOpts.Value == 1)
             Read_Audio_Options(program, track, default_claimed);
+        if (program.Settings.Extensions.Language_From_File_Name)
+            Take_Name_Facts(track, Facts_Of_Name(program.Language_Table, track.FileName, base_name));
     }
     program.Person.Pump_Events();
 }
@@ -85,7 +89,7 @@ static const std::array<QString, 6> Status_Lines = {
 };
 
 void Log_External_Audio(const ExternalTrackList& list, const JobOptions& options, const LanguageTable& table,
-                        clsStringBuilder& faults)
+                        clsStringBuilder& faults, bool say_origin)
 {
     if (options.chk_AddAudio.Value != 1 || options.Log_Verbosity == 0)
         return;
@@ -101,6 +105,8 @@ void Log_External_Audio(const ExternalTrackList& list, const JobOptions& options
                           Language_Part(table, language));
         if (options.chk_UseAudioOpts.Value == 1)
             faults.AppendLine(Status_Lines.at(static_cast<std::size_t>(track.OptionStatus)));
+        if (say_origin)
+            faults.AppendLine(u"  *** Language "_s + Origin_Text(track));
     }
 }
 
@@ -122,6 +128,8 @@ void Append_External_Audio_Arguments(Command_Line& command, const ExternalTrackL
             command.Add_Option(u" --default-track "_s, u"0:no"_s);
         if (track.ForcedFlag == u"yes"_s)
             command.Add_Option(u" --forced-track "_s, u"0:yes"_s);
+        if (track.Hearing_Impaired)
+            command.Add_Option(u" --hearing-impaired-flag "_s, u"0:yes"_s);
         if (!track.Delay.isEmpty())
             command.Add_Option(u" --sync "_s, u"0:"_s + track.Delay);
         command.Add_Input(track.Folder + track.FileName);

@@ -57,6 +57,13 @@ static void Add_Plain_File(Program& program, const QString& folder, const QStrin
         Read_Subtitle_Options(program, track);
 }
 
+static void Read_Names(const Program& program, const QString& base_name, ExternalTrackList& list)
+{
+    for (ExternalTrack& track : list)
+        if (track.InUse)
+            Take_Name_Facts(track, Facts_Of_Name(program.Language_Table, track.FileName, base_name));
+}
+
 static void Add_Idx_File(Program& program, const QString& folder, const QString& name, ExternalTrackList& list,
                          ExternalTrackList& unpaired)
 {
@@ -96,6 +103,8 @@ void Find_External_Subtitles(Program& program, const QString& folder, const QStr
     for (const QString& name : names)
         if (is_idx(name))
             Add_Idx_File(program, folder, name, list, unpaired);
+    if (program.Settings.Extensions.Language_From_File_Name)
+        Read_Names(program, base_name, list);
     program.Person.Pump_Events();
 }
 
@@ -124,6 +133,9 @@ bool Read_Idx_File(const QString& folder, const QString& file_name, bool use_opt
     Option_Values values;
     if (use_option_files)
         Read_Option_File(table, path, values);
+    ExternalTrack& track = list.back();
+    track.Default_Chosen = !values[Default_Slot].isEmpty();
+    track.Forced_Chosen = !values[Forced_Slot].isEmpty();
     if (!File_Exists(path))
         return false;
     for (const QString& line : Read_Lines(path)) {
@@ -131,7 +143,8 @@ bool Read_Idx_File(const QString& folder, const QString& file_name, bool use_opt
         if (line.contains(u"forced subs:"_s, Qt::CaseInsensitive) || !Names_A_Language(line))
             continue;
         const QString& chosen = values[Language_Slot];
-        list.back().Language = chosen.isEmpty() ? Language_Of_Id_Line(line, path) : chosen;
+        track.Language = chosen.isEmpty() ? Language_Of_Id_Line(line, path) : chosen;
+        track.Language_From = chosen.isEmpty() ? Language_Origin::The_File : Language_Origin::Option_File;
     }
     return true;
 }
@@ -147,7 +160,7 @@ static QString No_Subtitle_Found_Line(const JobOptions& options)
 }
 
 static void Log_Files(const ExternalTrackList& list, const JobOptions& options, const LanguageTable& table,
-                      clsStringBuilder& faults)
+                      clsStringBuilder& faults, bool say_origin)
 {
     QString option_line;
     if (options.chk_UseSubOpts.Value == 1) {
@@ -160,11 +173,13 @@ static void Log_Files(const ExternalTrackList& list, const JobOptions& options, 
                           Language_Part(table, track.Language));
         if (!track.OptionFileUsed && !option_line.isEmpty())
             faults.AppendLine(option_line);
+        if (say_origin)
+            faults.AppendLine(u"   *** Language "_s + Origin_Text(track));
     }
 }
 
 void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackList& unpaired, const JobOptions& options,
-                            const LanguageTable& table, clsStringBuilder& faults)
+                            const LanguageTable& table, clsStringBuilder& faults, bool say_origin)
 {
     if (options.chk_AddSubs.Value != 1 || options.Log_Verbosity == 0)
         return;
@@ -172,7 +187,7 @@ void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackLi
     if (!list.front().InUse)
         faults.AppendLine(No_Subtitle_Found_Line(options));
     else if (!brief)
-        Log_Files(list, options, table, faults);
+        Log_Files(list, options, table, faults, say_origin);
     if (!unpaired.front().InUse)
         return;
     // Deliberate: the two wordings, misspelling included.
@@ -202,6 +217,8 @@ void Append_External_Subtitle_Arguments(Command_Line& command, const ExternalTra
             command.Add_Option(u" --default-track "_s, id + track.DefaultFlag);
         if (track.ForcedFlag == u"yes"_s)
             command.Add_Option(u" --forced-track "_s, id + track.ForcedFlag);
+        if (track.Hearing_Impaired)
+            command.Add_Option(u" --hearing-impaired-flag "_s, id + u"yes"_s);
         command.Add_Input(track.Folder + track.FileName);
         added.Add(track.FileName);
         order_extra += Order_Entry(track, next_file_index);

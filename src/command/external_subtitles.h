@@ -31,9 +31,10 @@ void Find_External_Subtitles(Program& program, const QString& folder, const QStr
 bool Read_Idx_File(const QString& folder, const QString& file_name, bool use_option_files, const LanguageTable& table,
                    ExternalTrackList& list);
 
-/// The lines about external subtitles in `faults`, by the log verbosity.
+/// The lines about external subtitles in `faults`, by the log verbosity. `say_origin`: also where each language is
+/// from.
 void Log_External_Subtitles(const ExternalTrackList& list, const ExternalTrackList& unpaired, const JobOptions& options,
-                            const LanguageTable& table, clsStringBuilder& faults);
+                            const LanguageTable& table, clsStringBuilder& faults, bool say_origin = false);
 
 /// The options and the input of each file of `list`, if subtitles are added at all, and their entries in `order_extra`.
 /// `sensible`: also of one whose name is a part of others'.

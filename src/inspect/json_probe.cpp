@@ -199,6 +199,7 @@ QString Probe_Video(Program& program, const QString& path)
         media.Probe_Warnings = Take_Mkvmerge_Numbers(file->Streams, *identified);
     }
     media.FileInfoList = std::move(file->Streams);
+    Note_Languages(media);
     media.Video_Duration = file->Duration;
     return {};
 }

@@ -156,6 +156,22 @@ void Parse_Stream_List(QStringList& elements, FileInfoList& list, const QString&
     }
 }
 
+static QStringList Languages_Of_Kind(const FileInfoList& streams, const QString& type)
+{
+    QStringList languages;
+    for (const FileInfo& stream : streams)
+        if (stream.StreamType == type)
+            languages += stream.Language;
+    languages.removeDuplicates();
+    return languages;
+}
+
+void Note_Languages(Media_State& media)
+{
+    media.Audio_Languages = Languages_Of_Kind(media.FileInfoList, u"audio"_s);
+    media.Subtitle_Languages = Languages_Of_Kind(media.FileInfoList, u"subtitle"_s);
+}
+
 bool Parse_FFProbe_Output(Media_State& media, const QString& file)
 {
     media.FileInfoList.assign(1, {});
@@ -163,6 +179,7 @@ bool Parse_FFProbe_Output(Media_State& media, const QString& file)
         return false;
     QStringList elements = Stream_Elements(media.FFProbe_Output);
     Parse_Stream_List(elements, media.FileInfoList, file);
+    Note_Languages(media);
     return true;
 }
 

@@ -20,8 +20,12 @@ QStringList Stream_Elements(const QString& ffprobe_output);
 /// one empty record at the end.
 void Parse_Stream_List(QStringList& elements, FileInfoList& list, const QString& file = {});
 
-/// Resets the list of the file in work to one empty record and fills it from FFProbe_Output. False if that is empty.
+/// Resets the list of the file in work to one empty record and fills it from FFProbe_Output, the
+/// languages too. False if that is empty.
 bool Parse_FFProbe_Output(Media_State& media, const QString& file);
+
+/// Takes the languages of the tracks from the records, before an option drops any track.
+void Note_Languages(Media_State& media);
 
 /// Looks for the first `key` (given in lower case, "tag:title=") in any case; what follows, up to the next "|", becomes
 /// `output`, trimmed. The last item of a text is not trimmed. `output` stays as it was if there is no such key. Always

@@ -241,6 +241,11 @@ void mnu_SensibleNamesAndSizes_Click(Program& program)
     Flip(program, program.Settings.Extensions.Sensible_Names_And_Sizes);
 }
 
+void mnu_LanguageFromFileName_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Language_From_File_Name);
+}
+
 void mnu_RunButtonFollowsFolders_Click(Program& program)
 {
     Flip(program, program.Settings.Extensions.Run_Button_Follows_Folders);
@@ -308,6 +313,9 @@ const std::vector<Menu_Tick>& Menu_Ticks()
         {u"mnu_SensibleNamesAndSizes"_s, u"Sensible Names And Sizes"_s,
          [](const Program& program) { return program.Settings.Extensions.Sensible_Names_And_Sizes; },
          mnu_SensibleNamesAndSizes_Click},
+        {u"mnu_LanguageFromFileName"_s, u"Language From File Name"_s,
+         [](const Program& program) { return program.Settings.Extensions.Language_From_File_Name; },
+         mnu_LanguageFromFileName_Click},
         {u"mnu_RunButtonFollowsFolders"_s, u"Run Button Follows Folders"_s,
          [](const Program& program) { return program.Settings.Extensions.Run_Button_Follows_Folders; },
          mnu_RunButtonFollowsFolders_Click},

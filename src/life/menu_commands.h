@@ -46,6 +46,7 @@ void mnu_AtOnce4_Click(Program& program);
 void mnu_AtOnce8_Click(Program& program);
 void mnu_IncludeSubfolders_Click(Program& program);
 void mnu_SensibleNamesAndSizes_Click(Program& program);
+void mnu_LanguageFromFileName_Click(Program& program);
 void mnu_RunButtonFollowsFolders_Click(Program& program);
 void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program);
 void mnu_IdentifyWithAnyMkvmerge_Click(Program& program);

@@ -4,6 +4,7 @@
 #include "support/text.h"
 
 #include <QFile>
+#include <QHash>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -94,6 +95,16 @@ QString Language_Code_Of(const LanguageTable& table, const QString& text)
     QString iso1, iso2, name;
     Parse_Language_Text(table, text, iso1, iso2, name);
     return iso2.toLower();
+}
+
+QString Table_Code(const QString& code)
+{
+    static const QHash<QString, QString> others = {
+        {u"sqi"_s, u"alb"_s}, {u"hye"_s, u"arm"_s}, {u"eus"_s, u"baq"_s}, {u"mya"_s, u"bur"_s}, {u"zho"_s, u"chi"_s},
+        {u"ces"_s, u"cze"_s}, {u"nld"_s, u"dut"_s}, {u"fra"_s, u"fre"_s}, {u"kat"_s, u"geo"_s}, {u"deu"_s, u"ger"_s},
+        {u"ell"_s, u"gre"_s}, {u"isl"_s, u"ice"_s}, {u"mkd"_s, u"mac"_s}, {u"mri"_s, u"mao"_s}, {u"msa"_s, u"may"_s},
+        {u"fas"_s, u"per"_s}, {u"ron"_s, u"rum"_s}, {u"slk"_s, u"slo"_s}, {u"bod"_s, u"tib"_s}, {u"cym"_s, u"wel"_s}};
+    return others.value(code, code);
 }
 
 QString Language_Line(const LanguageRow& row)

@@ -32,5 +32,8 @@ bool Parse_Language_Text(const LanguageTable& table, const QString& text, QStrin
 /// empty text.
 QString Language_Code_Of(const LanguageTable& table, const QString& text);
 
+/// The code that the table has for a language with two of three letters: "ger" for "deu". Any other code as it is.
+QString Table_Code(const QString& code);
+
 /// The line "Name (code)" of a three-letter code; false, with `display` left alone, if no row has it.
 bool Language_Display_Of(const LanguageTable& table, const QString& code, QString& display);

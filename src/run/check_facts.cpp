@@ -1,10 +1,13 @@
 #include "run/check_facts.h"
 
+#include "command/companion_files.h"
 #include "command/external_audio.h"
 #include "inspect/asked_output.h"
 #include "state/program.h"
 #include "state/run_listener.h"
 #include "support/paths.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -80,20 +83,40 @@ static QString Sum_Of_Added(const Program& program, const Asked_Output& asked)
     return parts.join(u", "_s);
 }
 
+/// "Movie.en.srt - English (eng), from the file's name"; the name alone of what is no added track.
+static QString Hint_Of(const Program& program, const QString& path)
+{
+    QString hint = File_Name_Of(path);
+    const Companions& found = program.Companions;
+    for (const ExternalTrackList* list : {&found.External_Audio, &found.External_Subtitles})
+        for (const ExternalTrack& track : *list)
+            if (track.InUse && track.Folder + track.FileName == path) {
+                const QString language = track.Language.isEmpty() ? u"und"_s : track.Language;
+                QString display = language;
+                Language_Display_Of(program.Language_Table, language, display);
+                return hint + u" - "_s + display + u", "_s + Origin_Text(track);
+            }
+    return hint;
+}
+
 Check_Facts Check_Facts_Of(const Program& program, const Command_Line& command)
 {
     const FileInfoList& streams = program.Media.FileInfoList;
     const Asked_Output asked = Asked_Of(command, streams);
     Check_Facts facts{.Tracks = Kept_Tracks(streams),
                       .Added = {},
+                      .Hints = {},
                       .Chapters = u"kept"_s,
                       .Keeps = Sum_Of_Kept(streams),
                       .Adds = Sum_Of_Added(program, asked),
                       .Length = Seconds_Of(streams.front())};
-    for (std::size_t i = 1; i < asked.Inputs.size(); ++i)
-        facts.Added += File_Name_Of(asked.Inputs[i].Path);
-    for (const QString& path : asked.Attached)
+    QStringList added = asked.Attached;
+    for (std::size_t i = asked.Inputs.size(); i-- > 1;)
+        added.prepend(asked.Inputs[i].Path);
+    for (const QString& path : std::as_const(added)) {
         facts.Added += File_Name_Of(path);
+        facts.Hints += Hint_Of(program, path);
+    }
     if (asked.Has_Chapter_File)
         facts.Chapters = File_Name_Of(program.Companions.Chapter_File);
     else if (!asked.Inputs.empty() && asked.Inputs.front().No_Chapters)

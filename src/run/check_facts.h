@@ -13,6 +13,7 @@ struct Check_Facts
 {
     QStringList Tracks; ///< "0 video h264 eng": kept, with the number that mkvmerge gives them
     QStringList Added;  ///< names of the files that are added or attached
+    QStringList Hints;  ///< the same, with the languages of added tracks and where they are from
     QString Chapters;   ///< "kept", "removed" or the name of the file that replaces them
 
     QString Keeps;                ///< "2 audio, 1 subtitle": Tracks, summed up

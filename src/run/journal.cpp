@@ -79,8 +79,12 @@ static QStringList Options_In_Force(const Program& program)
                                     u"Most Recently Used Destinations"_s,
                                     u"Vantorra - by Zarnegar"_s,
                                     u"Experimental"_s};
+    // Younger than journals: at rest they leave it as it was, or nothing that is done would count as done.
+    const QStringList younger = {u"Language From File Name"_s};
     QStringList options;
     for (const Settings_Row& row : Settings_Rows()) {
+        if (younger.contains(row.Key) && Value_In_Force(row, program) == row.Default)
+            continue;
         const bool of_the_log = row.Number == Row::Append_Logs || row.Number == Row::Verbosity;
         // Nor how many videos are on their way together.
         const bool no_matter = row.Key.startsWith("Video List"_L1) || row.Key == "Videos At Once"_L1;

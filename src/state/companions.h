@@ -1,8 +1,19 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <vector>
+
+/// Where the language of an added file is from.
+enum class Language_Origin : std::uint8_t
+{
+    Nowhere,
+    The_File, ///< its own tag, or an ".idx" file's "id:" line
+    Option_File,
+    Sticky_Value,
+    Its_Name
+};
 
 /// One external audio or subtitle file that goes with a video.
 struct ExternalTrack
@@ -13,6 +24,10 @@ struct ExternalTrack
     bool HasSubFile = false;       ///< the ".idx" file's ".sub" was found
     bool OptionFileUsed = false;   ///< an option file was read and applied
     bool Literal = false;          ///< the title is as the file has it: nothing in it is escaped
+    bool Default_Chosen = false;   ///< an option file or a sticky value says what DefaultFlag is
+    bool Forced_Chosen = false;    ///< the same of ForcedFlag
+    bool Hearing_Impaired = false; ///< its name says so
+    Language_Origin Language_From = Language_Origin::Nowhere;
     QString Title;
     QString Language;
     QString DefaultFlag;
@@ -22,6 +37,7 @@ struct ExternalTrack
     QString FileName;
     std::int16_t FileIndex = 0; ///< place in the matched list, from 0
     std::int16_t TrackId = 0;   ///< always 0
+    QStringList Flags_Of_Name;  ///< those that its name gave it, in words
 };
 
 /// One file to attach.

@@ -55,7 +55,9 @@ struct Media_State
     QString FFProbe_Output; ///< the format text followed by the streams' text of the current video
     QString FFProbe_ExtAudio_Output;
     QString FFProbe_ExtSubtitle_Output;
-    QString Video_Duration; ///< HH:MM:SS and the fraction, of the current video
+    QString Video_Duration;         ///< HH:MM:SS and the fraction, of the current video
+    QStringList Audio_Languages;    ///< of the current video's tracks, kept or not, each once, as they are tagged
+    QStringList Subtitle_Languages; ///< the same
     QString MKVMerge_Ident_Output;
     QStringList Video_Info_Lines;
     QStringList Probe_Warnings; ///< careful: what is odd about the current video, in words

@@ -52,6 +52,7 @@ struct Extension_Switches
     int Videos_At_Once = 1;          ///< careful: so many are worked on side by side; 1 to Most_At_Once
     bool Include_Subfolders = false; ///< careful: the folders below the videos' folder are walked, too
     bool Sensible_Names_And_Sizes = false;
+    bool Language_From_File_Name = false; ///< an added file's name tells what neither option file nor sticky value does
     bool Run_Button_Follows_Folders = true;
     bool Delete_Source_Only_After_Success = false;
     bool Identify_With_Any_Mkvmerge = true;

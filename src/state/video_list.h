@@ -38,7 +38,10 @@ struct Video_Row
     QString Keeps;                     ///< "2 audio, 1 subtitle"
     QStringList Kept_Tracks;           ///< a line each, with codec and language
     QString Adds;                      ///< "1 audio (ger), chapters, 3 fonts"
-    QStringList Added_Files;           ///< their names
+    QStringList Added_Files;           ///< their names, and where the languages of added tracks are from
+    bool Languages_Known = false;      ///< the next two count
+    QStringList Audio_Languages;       ///< codes of the source's audio tracks, kept or not, each once
+    QStringList Subtitle_Languages;    ///< the same of its subtitles
     QStringList Command;               ///< the program and its arguments
     QStringList Problems;              ///< of a check, in words: what speaks against a run
     QString Forecast;                  ///< of a check: that it would be skipped, or replace something

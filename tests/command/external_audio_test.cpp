@@ -68,6 +68,22 @@ TEST_F(External_Audio, SettingsComeFromTheOptionFileElseTheStickyValuesElseThePr
     }
 }
 
+TEST_F(External_Audio, ANameThatCountsSaysMoreThanTheProbeAndClaimsNoDefaultForOthers)
+{
+    Prog.Settings.Extensions.Language_From_File_Name = true;
+    Prog.Options.Log_Verbosity = 2;
+    Write_All({u"m [ja].default.mka"_s, u"m.mka"_s});
+    Find(u"m"_s);
+    EXPECT_EQ(Command(), u" --language 0:jpn --track-name 0:Handler --default-track 0:yes ( \"m [ja].default.mka\" )"
+                         " --language 0:ger --track-name 0:Handler ( m.mka )"_s);
+    EXPECT_EQ(Order_Default + u'|' + Order_Extra, u",1:0,|,2:0"_s);
+    Log_External_Audio(List, Prog.Options, Prog.Language_Table, Prog.Logs.Log_Faults, true);
+    EXPECT_EQ(Faults(), (QStringList{u"-- Adding audio track - \"m [ja].default.mka\" ;Japanese (jpn)"_s,
+                                     u"  *** Language from the file's name; also from it: default"_s,
+                                     u"-- Adding audio track - \"m.mka\" ;German (ger)"_s,
+                                     u"  *** Language from the file itself"_s}));
+}
+
 TEST_F(External_Audio, ABlankStickyLanguageTextIsAnErrorThatSaysWhere)
 {
     Prog.Options.chk_UseAudioOpts.Value = Prog.Options.chk_ApplyDefaultAudioOpts.Value = 1;

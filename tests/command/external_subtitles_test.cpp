@@ -94,6 +94,45 @@ TEST_F(External_Subtitles, SettingsComeFromTheOptionFileElseTheStickyValuesAndNe
     }
 }
 
+TEST_F(External_Subtitles, ANameTellsWhatNeitherOptionFileNorStickyValueDoesIfItCounts)
+{
+    // The file, its option file, whether sticky values are; what is said of it, and of where that is from.
+    const std::tuple<QString, const char*, int, QString, QString> claims[] = {
+        {u"m.en.sdh.srt"_s, nullptr, 0, u"0:eng --hearing-impaired-flag 0:yes"_s,
+         u"from the file's name; also from it: hearing impaired"_s},
+        {u"m.de.forced.default.srt"_s, "Forced=no", 0, u"0:ger --default-track 0:yes"_s,
+         u"from the file's name; also from it: default"_s},
+        {u"m.de.forced.srt"_s, "Language=French (fre)\nDefault=no", 0,
+         u"0:fre --default-track 0:no --forced-track 0:yes"_s, u"from the option file; from the file's name: forced"_s},
+        {u"m.de.srt"_s, nullptr, 1, u"0:fre"_s, u"from the sticky values"_s},
+        {u"m.de.idx"_s, "Forced=no", 0, u"0:ger"_s, u"from the file's name"_s},
+        {u"m.forced.idx"_s, nullptr, 0, u"0:en --forced-track 0:yes"_s,
+         u"from the file itself; from the file's name: forced"_s},
+        {u"m.srt"_s, nullptr, 0, u"0:und"_s, u"not known"_s},
+    };
+    Prog.Settings.Subtitle_Sticky.Sticky_Languages = 1;
+    Prog.Settings.Subtitle_Sticky.Language = u"fre"_s;
+    Prog.Options.chk_UseSubOpts.Value = 1;
+    Prog.Options.Log_Verbosity = 2;
+    for (const auto& [name, option_file, sticky, told, origin] : claims) {
+        QDir(Videos()).removeRecursively();
+        Write(u"videos/"_s + name, Index_Text);
+        Write(u"videos/"_s + name.chopped(4) + u".sub"_s);
+        if (option_file != nullptr)
+            Write(u"videos/"_s + name + u".opt"_s, option_file);
+        Prog.Options.chk_ApplyDefaultSubOpts.Value = sticky;
+        Prog.Settings.Extensions.Language_From_File_Name = false;
+        Find(u"m"_s);
+        EXPECT_FALSE(Command().contains(u"0:ger"_s) || Command().contains(u"0:eng"_s)) << name.toStdString();
+        Prog.Settings.Extensions.Language_From_File_Name = true;
+        Find(u"m"_s);
+        EXPECT_EQ(Command(), u" --language %1 ( %2 )"_s.arg(told, name));
+        Prog.Logs.Log_Faults.Clear();
+        Log_External_Subtitles(List, Unpaired, Prog.Options, Prog.Language_Table, Prog.Logs.Log_Faults, true);
+        EXPECT_EQ(Faults().constLast(), u"   *** Language "_s + origin);
+    }
+}
+
 TEST_F(External_Subtitles, TheLastIdLineGivesTheLanguageUnlessTheOptionFileDoes)
 {
     // Of an id line, places 10 and 1 have no bit in common; 1 and 11 have one. A line that can't be read is no error

@@ -64,6 +64,7 @@ docs/manual.md)
     of_type() { echo "[.tracks[] | select(.type == \"$1\") | .properties$2] | map(tostring) | join(\" \")"; }
     holds "kept/two languages.mkv" eng "$(of_type audio .language)"
     holds "subtitled/Episode 1.mkv" "eng und" "$(of_type subtitles .language)"
+    holds "spoken/Episode 1.mkv" "eng eng" "$(of_type subtitles .language)"
     holds "commented/Episode 1.mkv" "eng ger ger" "$(of_type audio .language)"
     holds "commented/Episode 1.mkv" "null null Comments" "$(of_type audio .track_name)"
     holds "chaptered/Episode 1.mkv" 2 '.chapters[0].num_entries'

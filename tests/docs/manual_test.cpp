@@ -1,6 +1,7 @@
 #include "common/test_program.h"
 #include "docs/manual_page.h"
 #include "inspect/video_names.h"
+#include "options/name_facts.h"
 #include "rules/click_rules.h"
 #include "rules/folders.h"
 #include "settings/settings_rows.h"
@@ -71,6 +72,26 @@ TEST_F(Manual, TheKeysItNamesAreThoseOfTheSettingsFile)
     for (const Settings_Row& row : Settings_Rows())
         kept += row.Section + u'/' + row.Key.trimmed();
     EXPECT_THAT(Named_Keys(), testing::UnorderedElementsAreArray(kept));
+}
+
+TEST_F(Manual, TheNamesThatTellALanguageTellTheOneInItsTable)
+{
+    LanguageTable table;
+    ASSERT_TRUE(Load_Language_Table(table, {}));
+    const QString task = Page.section(u"\n### Let the names of the files tell their languages\n"_s, 1);
+    const std::vector<QStringList> rows = Table_Rows(task.section(u"\n### "_s, 0, 0));
+    EXPECT_GE(rows.size(), 15U);
+    for (const QStringList& cells : rows) {
+        const Name_Facts facts = Facts_Of_Name(table, cells[0].mid(1).chopped(1), u"Movie"_s);
+        QString language;
+        Language_Display_Of(table, facts.Language, language);
+        QStringList flags;
+        for (const auto& [is_set, word] : {std::pair(facts.Default, u"default"_s), std::pair(facts.Forced, u"forced"_s),
+                                           std::pair(facts.Hearing_Impaired, u"hearing impaired"_s)})
+            if (is_set)
+                flags += word;
+        EXPECT_EQ(language + u'|' + flags.join(u", "_s), cells[1] + u'|' + cells[2]) << cells[0].toStdString();
+    }
 }
 
 TEST_F(Manual, EachNumberedReportAndPathErrorIsExplained)
