@@ -8,6 +8,7 @@
 
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QShortcut>
 
 Language_Filter_View::Language_Filter_View(Program& program, Slot_Guard& guard, QWidget* owner)
     : Program_Dialog(program, guard, owner), ui_(std::make_unique<Ui::frm_CustomFilter>())
@@ -18,7 +19,13 @@ Language_Filter_View::Language_Filter_View(Program& program, Slot_Guard& guard, 
     On_Click(ui_->btn_CustomClear, [this] { btn_CustomClear_Click(program_); });
     On_Click(ui_->btn_Done, [this] { btn_CustomFilter_Done_Click(program_); });
     On_Click(ui_->btn_Cancel, [this] { btn_CustomFilter_Cancel_Click(program_); });
-    for (QListWidget* list : {ui_->lst_LanguageList, ui_->lst_LanguageSelection}) {
+    connect(ui_->txt_Find, &QLineEdit::textEdited, this, [this](const QString& text) { Find(text); });
+    ui_->txt_Find->installEventFilter(this);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        ui_->txt_Find->setFocus(Qt::ShortcutFocusReason);
+        ui_->txt_Find->selectAll();
+    });
+    for (QListWidget* list : {ui_->lst_Found, ui_->lst_LanguageList, ui_->lst_LanguageSelection}) {
         list->installEventFilter(this);
         connect(list, &QListWidget::clicked, this,
                 [this, list](const QModelIndex& index) { Line_Clicked(list, index.row()); });
@@ -30,19 +37,51 @@ Language_Filter_View::~Language_Filter_View() = default;
 void Language_Filter_View::Line_Clicked(const QListWidget* list, int index)
 {
     guard_.Call([&] {
-        if (list == ui_->lst_LanguageList)
+        if (list == ui_->lst_Found)
+            lst_Found_Click(program_, index);
+        else if (list == ui_->lst_LanguageList)
             lst_LanguageList_Click(program_, index);
         else
             lst_LanguageSelection_Click(program_, index);
     });
 }
 
+void Language_Filter_View::Find(const QString& text)
+{
+    guard_.Call([&] { txt_Find_Change(program_, text); });
+}
+
+/// Return chooses, Escape empties the field, Down goes to the list. What is left is the dialog's.
+bool Language_Filter_View::Key_In_Find(int key)
+{
+    const QString text = ui_->txt_Find->text();
+    bool taken = false;
+    if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        guard_.Call([&] { taken = txt_Find_Return(program_); });
+    else if (key == Qt::Key_Escape && !text.isEmpty()) {
+        Find({});
+        taken = true;
+    } else if (key == Qt::Key_Down) {
+        ui_->lst_LanguageList->setFocus(Qt::OtherFocusReason);
+        for (int row = 0; row < ui_->lst_LanguageList->count() && !taken; ++row)
+            if (!ui_->lst_LanguageList->isRowHidden(row)) {
+                ui_->lst_LanguageList->setCurrentRow(row);
+                taken = true;
+            }
+    }
+    return taken;
+}
+
 bool Language_Filter_View::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto* list = qobject_cast<QListWidget*>(watched);
-    if (!list || event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress)
         return Program_Dialog::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
+    if (watched == ui_->txt_Find)
+        return Key_In_Find(key);
+    const auto* list = qobject_cast<QListWidget*>(watched);
+    if (!list)
+        return Program_Dialog::eventFilter(watched, event);
     if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
         return false;
     if (list->currentRow() >= 0)
@@ -77,6 +116,29 @@ static void Show_Lines(QListWidget& list, const QStringList& lines)
     list.clearSelection();
 }
 
+/// Each line with a box that is ticked for a selected language; the click is the list's, not the box's.
+void Language_Filter_View::Show_Found()
+{
+    const Language_Filter_Form& form = program_.Language_Filter;
+    QListWidget& list = *ui_->lst_Found;
+    QStringList lines;
+    for (int i = 0; i < static_cast<int>(form.lst_Found.size()); ++i)
+        lines += Found_Text(form, i);
+    Show_Lines(list, lines);
+    for (int i = 0; i < list.count(); ++i) {
+        const bool choosable = form.lst_Found[static_cast<std::size_t>(i)].Choosable;
+        list.item(i)->setFlags(choosable ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
+        list.item(i)->setCheckState(Is_Selected(form, i) ? Qt::Checked : Qt::Unchecked);
+    }
+    constexpr int fewest = 2;
+    constexpr int most = 5;
+    const int rows = std::clamp(list.count(), fewest, most);
+    list.setFixedHeight(rows * std::max(list.sizeHintForRow(0), fontMetrics().height()) + 2 * list.frameWidth());
+    list.setVisible(list.count() > 0);
+    Show_Label(*ui_->lbl_FoundCount, form.lbl_FoundCount);
+    Show_Label(*ui_->lbl_FoundHint, form.lbl_FoundHint);
+}
+
 void Language_Filter_View::Render()
 {
     const Language_Filter_Form& form = program_.Language_Filter;
@@ -85,7 +147,12 @@ void Language_Filter_View::Render()
     ui_->opt_CustomFilter_1->setText(With_Letter(form.opt_CustomFilter_Captions[1], u'K'));
     ui_->opt_CustomFilter_0->setChecked(form.opt_CustomFilter == 0);
     ui_->opt_CustomFilter_1->setChecked(form.opt_CustomFilter != 0);
+    Show_Found();
     Show_Lines(*ui_->lst_LanguageList, form.lst_LanguageList);
+    for (int i = 0; i < ui_->lst_LanguageList->count(); ++i)
+        ui_->lst_LanguageList->setRowHidden(i, !Is_Looked_For(program_, form.lst_LanguageList[i]));
+    if (ui_->txt_Find->text() != form.txt_Find)
+        ui_->txt_Find->setText(form.txt_Find);
     Show_Lines(*ui_->lst_LanguageSelection, form.lst_LanguageSelection);
     Show_Label(*ui_->lbl_SelLanguages, form.lbl_SelLanguages);
     Show_Label(*ui_->lbl_List1Count, form.lbl_List1Count);

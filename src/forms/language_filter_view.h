@@ -10,7 +10,8 @@ namespace Ui {
 class frm_CustomFilter;
 }
 
-/// frm_CustomFilter: two lists; a click, Enter or Space on a line moves it to the other one.
+/// frm_CustomFilter: two lists; a click, Enter or Space on a line moves it to the other one. Above them the languages
+/// of the listed videos, which go the same way.
 class Language_Filter_View : public Program_Dialog
 {
     Q_OBJECT
@@ -29,6 +30,9 @@ class Language_Filter_View : public Program_Dialog
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void Show_Found();
+    void Find(const QString& text);
+    bool Key_In_Find(int key);
     void Line_Clicked(const QListWidget* list, int index);
     void Note_Place();
 

@@ -14,6 +14,7 @@
 #include "forms/window_drop_target.h"
 #include "life/hand_clicks.h"
 #include "rules/click_rules.h"
+#include "rules/language_filter.h"
 #include "rules/option_rules.h"
 #include "run/run_summary.h"
 #include "state/program.h"
@@ -156,6 +157,17 @@ void Startform::Measure()
                   fontMetrics().height() + ui_->lay_Work->spacing() + row}));
 }
 
+/// A filter's box tells what is chosen, and what it was drawn with where nothing is.
+static void Show_Filter_Tip(QCheckBox& box, const QString& chosen)
+{
+    static const char* const own = "own_tip";
+    if (!box.property(own).isValid())
+        box.setProperty(own, box.toolTip());
+    const QString tip = chosen.isEmpty() ? box.property(own).toString() : Literal_Tool_Tip(chosen);
+    if (box.toolTip() != tip)
+        box.setToolTip(tip);
+}
+
 void Startform::Render()
 {
     const Main_Form& form = program_.Form;
@@ -163,6 +175,8 @@ void Startform::Render()
     for (const Click_Rule& rule : Click_Rules())
         if (auto* box = findChild<QCheckBox*>(rule.Name))
             Show_Check_Box(*box, program_.Options.*rule.Box);
+    Show_Filter_Tip(*ui_->chk_CustomAudioFilter, Filter_Tip(program_.Options.AudioFilter, u"audio"_s));
+    Show_Filter_Tip(*ui_->chk_CustomSubsFilter, Filter_Tip(program_.Options.SubsFilter, u"subtitle"_s));
     ui_->btn_Check->setText(With_Letter(form.btn_Check.Caption, u'k'));
     ui_->btn_RunFailed->setText(With_Letter(form.btn_RunFailed.Caption, u'g'));
     ui_->btn_Continue->setText(With_Letter(form.btn_Continue.Caption, u'n'));

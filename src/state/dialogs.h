@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <array>
 #include <cstdint>
+#include <vector>
 
 /// The main form's dialogs as records: what each shows, and what was typed or chosen there. The rules that open and
 /// end them stand in rules/, the About box's in life/.
@@ -64,6 +65,14 @@ struct Attachments_Form
     bool Visible = false;
 };
 
+/// A language that tracks of the listed videos have.
+struct Found_Language
+{
+    QString Line; ///< as the lists of frm_CustomFilter have it: "German (ger)"
+    int Videos = 0;
+    bool Choosable = true; ///< no filter could hold a tag like "a:b"
+};
+
 /// frm_CustomFilter: up to ten languages to cut from, or to keep in, the source's audio or subtitle tracks. It works
 /// on Settings.WorkingFilter, which the filter commands fill and take back. The commands open the record before the
 /// view shows it and end it afterwards; the view renders it, keeps Place up to date and closes once Visible is False.
@@ -71,12 +80,17 @@ struct Attachments_Form
 struct Language_Filter_Form
 {
     QString Caption;
-    QStringList lst_LanguageList;      ///< languages not selected, "Name (code)"
-    QStringList lst_LanguageSelection; ///< languages selected
-    int opt_CustomFilter = 0;          ///< the option chosen: 0 cut, 1 keep
+    QStringList lst_LanguageList;          ///< languages not selected, "Name (code)"
+    QStringList lst_LanguageSelection;     ///< languages selected
+    std::vector<Found_Language> lst_Found; ///< those of the videos' tracks, selected or not, the most frequent first
+    int Videos_Known = 0;                  ///< of so many videos of the list the languages are known
+    QString txt_Find;                      ///< only lines that hold it are shown of lst_LanguageList; empty: all
+    int opt_CustomFilter = 0;              ///< the option chosen: 0 cut, 1 keep
     std::array<QString, 2> opt_CustomFilter_Captions;
     Label lbl_SelLanguages;
     Label lbl_List1Count;
+    Label lbl_FoundCount;
+    Label lbl_FoundHint; ///< why lst_Found is empty; hidden where it isn't
     Label lbl_MaxLanguages{.Caption = QStringLiteral("(10  max)")};
     Form_Place Place;
     bool Has_Place = false; ///< False: centre the form over the main form; True: at Place, within the screen

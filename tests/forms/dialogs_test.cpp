@@ -151,6 +151,58 @@ TEST_F(Dialogs, TenLanguagesMoveByMouseAndKeyAndTheEleventhStays)
     EXPECT_FALSE(Window.Get("chk_CustomAudioFilter").isEnabled());
 }
 
+TEST_F(Dialogs, WhatACheckFoundIsChosenByAClickAndAnyOtherLanguageByItsCode)
+{
+    Place(Window.Files, Rich_Video(), u"videos/a.mkv"_s);
+    Place(Window.Files, Short_Video(), u"videos/b.mkv"_s);
+    Window.Files.Write(u"videos/a.de.srt"_s, "1\n00:00:00,000 --> 00:00:00,200\nHallo\n");
+    Program& program = Window.Prog();
+    program.Settings.Extensions.Language_From_File_Name = true;
+    program.Options.chk_AddSubs.Value = 1;
+    program.Options.chk_StripOrigAudio.Value = 1; // what is dropped counts, too
+    Window.Set_Folders();
+    Open("mnu_CustomAudioFilter", "frm_CustomFilter", [](QWidget& form) {
+        EXPECT_TRUE(In<QLabel>(form, "lbl_FoundHint").text().startsWith(u"Press Check"_s));
+        EXPECT_FALSE(In<QWidget>(form, "lst_Found").isVisible());
+        Click_On(In(form, "btn_Cancel"));
+    });
+    const QString tip = Window.Get("chk_CustomAudioFilter").toolTip();
+    Window.Choose("mnu_Check");
+    EXPECT_EQ(program.Videos.Rows.at(0).Added_Files, QStringList{u"a.de.srt - German (ger), from the file's name"_s});
+    Open("mnu_CustomAudioFilter", "frm_CustomFilter", [](QWidget& form) {
+        auto& found = In<QListWidget>(form, "lst_Found");
+        auto& selection = In<QListWidget>(form, "lst_LanguageSelection");
+        EXPECT_FALSE(In<QWidget>(form, "lbl_FoundHint").isVisible());
+        ASSERT_EQ(found.count(), 3);
+        EXPECT_EQ(found.item(1)->text(), u"German (ger) - 1 of 2");
+        // On the box, too: it is the line that is clicked.
+        Click_On(*found.viewport(), found.visualItemRect(found.item(1)).center(), Qt::LeftButton, {});
+        Click_On(*found.viewport(), found.visualItemRect(found.item(2)).topLeft() + QPoint(8, 8), Qt::LeftButton, {});
+        EXPECT_EQ(found.item(2)->checkState(), Qt::Checked);
+        found.setFocus();
+        found.setCurrentRow(2);
+        Press(form, Qt::Key_Space);
+        EXPECT_EQ(found.item(2)->checkState(), Qt::Unchecked);
+        Press(form, Qt::Key_F, Qt::ControlModifier);
+        auto& find = In<QLineEdit>(form, "txt_Find");
+        EXPECT_TRUE(find.hasFocus());
+        QTest::keyClicks(&find, u"ja"_s);
+        EXPECT_TRUE(In<QListWidget>(form, "lst_LanguageList").isRowHidden(0));
+        Press(form, Qt::Key_Return);
+        EXPECT_EQ(selection.item(1)->text(), u"Japanese (jpn)");
+        Press(form, Qt::Key_Escape);
+        EXPECT_TRUE(form.isVisible() && find.text().isEmpty());
+        EXPECT_FALSE(In<QListWidget>(form, "lst_LanguageList").isRowHidden(0));
+        Click_On(In(form, "btn_Done"));
+    });
+    auto& box = Window.Get("chk_CustomAudioFilter");
+    EXPECT_EQ(box.toolTip(),
+              u"<qt>Cuts the audio tracks in German (ger), Japanese (jpn); a right click opens the list.");
+    program.Options.AudioFilter.Languages.clear();
+    Window.Form().Render();
+    EXPECT_EQ(box.toolTip(), tip);
+}
+
 TEST_F(Dialogs, AnAttachmentFolderIsDroppedClearedAndRestored)
 {
     const QString folder = Window.Files.Path(u"fonts/"_s);
