@@ -91,8 +91,8 @@ void Video_List_Watch::Command_Ready(const Program& video, const QString& source
     row.Adds = std::move(facts.Adds);
     row.Added_Files = std::move(facts.Hints);
     row.Languages_Known = true;
-    row.Audio_Languages = program_.Media.Audio_Languages;
-    row.Subtitle_Languages = program_.Media.Subtitle_Languages;
+    row.Audio_Languages = video.Media.Audio_Languages;
+    row.Subtitle_Languages = video.Media.Subtitle_Languages;
     row.Command = QStringList{program_.Tools.System_MKVMerge_Path} + command.Arguments();
     row.Output = output;
     Touch(program_.Videos, number);
