@@ -63,3 +63,11 @@ TEST(Journal, TheNewestResultCountsWhateverMachineAndZoneItIsFrom)
             << row.Beta.constData();
     }
 }
+
+TEST(Journal, AYoungerKeyCountsAmongTheOptionsOnlyWhereItIsOn)
+{
+    Test_Program test;
+    EXPECT_FALSE(Options_Text(test.Prog).contains(u"Language From File Name"));
+    test.Prog.Settings.Extensions.Language_From_File_Name = true;
+    EXPECT_TRUE(Options_Text(test.Prog).contains(u"Language From File Name=On"));
+}
