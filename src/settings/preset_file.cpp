@@ -60,7 +60,7 @@ Ini_Document Read_Preset(const QString& path, Operator& person)
                              u"The name isn't valid UTF-8. Give the file another one."_s);
     if (!Path_Exists(path) && !File_Exists(path))
         throw Run_Time_Error(Error_Number::File_Not_Found, doing, Printable(path));
-    const Ini_Document preset = Load_Ini_File(path);
+    Ini_Document preset = Load_Ini_File(path);
     int rows = 0;
     For_Each_Row(preset, [&](const Settings_Row& row, const QString& text) {
         ++rows;

@@ -58,12 +58,25 @@ TEST_F(Preset_Rules, WhatWasSavedInOneProgramIsAsAfterTheStartInAnother)
     const QByteArray states[] = {
         {},
         full,
-        "[Audio]\nCustom Audio Filter Language(s)=English (eng)\nApply custom Audio Filter=On\nAudio Delay=-250\n",
-        "[Audio]\nStrip Existing Audio=On\n[Video Format Options]\nAspect Ratio or Video Dimensions=Aspect Ratio\n"
-        "Settings=16/9\nUse Video Format Options=On\n",
-        "[Subtitles]\nCustom Subtitle Filter Language(s)=A (a):B (b)\nCut or Keep Subtitle Languages=Keep\n"
-        "Apply custom Subtitle Filter=On\nSet All Subtitle forces to no/yes=no\nAlternate Subtitle File Path=On\n",
-        "[Extensions]\nIf The Output Exists=Number\n",
+        R"([Audio]
+Custom Audio Filter Language(s)=English (eng)
+Apply custom Audio Filter=On
+Audio Delay=-250
+)",
+        R"([Audio]
+Strip Existing Audio=On
+[Video Format Options]
+Aspect Ratio or Video Dimensions=Aspect Ratio
+Settings=16/9
+Use Video Format Options=On
+)",
+        R"([Subtitles]
+Custom Subtitle Filter Language(s)=A (a):B (b)
+Cut or Keep Subtitle Languages=Keep
+Apply custom Subtitle Filter=On
+Set All Subtitle forces to no/yes=no
+Alternate Subtitle File Path=On
+)",
     };
     for (const QByteArray& from : states)
         for (const QByteArray& to : states) {
