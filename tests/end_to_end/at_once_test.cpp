@@ -110,6 +110,8 @@ TEST_F(At_Once, TheRoomThatVideosInWorkStillNeedCountsAsTaken)
 
 TEST_F(At_Once, ToolsThatCantBeStartedEndTheBatch)
 {
+    if (!Failed_Starts_Are_Told)
+        GTEST_SKIP();
     for (int number = 9; number <= 20; ++number)
         Place(*this, Short_Video(), Video(number));
     Put_Ahead_Of_Mkvmerge("");

@@ -477,8 +477,11 @@ struct CarefulFaults : testing::TestWithParam<Fault>
 TEST_P(CarefulFaults, NothingIsLostHalfWrittenOrPassedOver)
 {
     const Fault& fault = GetParam();
+    const bool is_gone = QLatin1StringView(fault.Merge) == "#gone"_L1;
+    if (is_gone && !Failed_Starts_Are_Told)
+        GTEST_SKIP();
     Fault_Run run(fault, Jobs_Of(fault));
-    if (QLatin1StringView(fault.Merge) == "#gone"_L1)
+    if (is_gone)
         run.Write(u"tools/mkvmerge"_s, "#!/nowhere\n");
     Batch_Result result = run.Run_It(fault.More);
     run.Expect_Nothing_Lost();
