@@ -7,6 +7,7 @@
 #include "support/form_placement.h"
 #include "ui_option_editor_view.h"
 #include "workbenches/option_editor.h"
+#include "workbenches/option_marks.h"
 #include "workbenches/viewer_place.h"
 
 #include <QCompleter>
@@ -23,18 +24,14 @@ QWidget* Option_Editor_View::Box_Controls::Widget() const
 }
 
 Option_Editor_View::Option_Editor_View(Program& program, Slot_Guard& guard, QWidget* owner)
-    : Program_Dialog(program, guard, owner), ui_(std::make_unique<Ui::frm_OptionsFiles>()), place_(*this, kept_)
+    : Program_Dialog(program, guard, owner), ui_(std::make_unique<Ui::frm_OptionsFiles>()), place_(*this, kept_),
+      files_(program.Option_Files), cells_(program.Option_Files, this)
 {
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    order_.setSourceModel(&files_);
-    ui_->lvw_Files->setModel(&order_);
-    ui_->lvw_Files->sortByColumn(0, Qt::AscendingOrder);
-    ui_->lvw_Files->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    ui_->lvw_Files->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    connect(ui_->lvw_Files->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &Option_Editor_View::Selection_Changed);
+    Connect_List();
     Connect_Boxes();
+    Add_Commands();
 
     On_Click(ui_->lbl_PickFile, [this] { Refresh(); });
     connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, ui_->lbl_PickFile,
@@ -70,11 +67,8 @@ void Option_Editor_View::Connect_Boxes()
         connect(box.Sticky, &QAbstractButton::clicked, this,
                 [this, slot](bool ticked) { guard_.Call([&] { program_.Option_Files.At(slot).Sticky = ticked; }); });
     }
-    // Any part of a language's name finds it.
-    QCompleter* finder = ui_->cmbo_Language->completer();
-    finder->setCompletionMode(QCompleter::PopupCompletion);
-    finder->setFilterMode(Qt::MatchContains);
-    proposals_ = finder->popup();
+    Find_By_Any_Part(*ui_->cmbo_Language);
+    proposals_ = ui_->cmbo_Language->completer()->popup();
     proposals_->installEventFilter(this); // behind the finder's own, so that it comes first
 }
 
@@ -88,7 +82,7 @@ void Option_Editor_View::Open()
         kept_ = {editor.Box.Left, editor.Box.Top, editor.Box.Width, editor.Box.Height, editor.Box.MM == 2 ? 2 : 0};
     } else {
         kept_ = {};
-        place_.Propose_Size({760, 600});
+        place_.Propose_Size({1000, 680});
         Place_Form(Placement::Centred, kept_, program_.Form.Shown_Place());
     }
     place_.Open();
@@ -97,23 +91,28 @@ void Option_Editor_View::Open()
 
 void Option_Editor_View::Leave()
 {
+    Finish_Cell();
+    if (!May_Leave_Marks(program_))
+        return;
     Close_Option_Editor(program_, Viewer_Box(kept_));
     done(0);
 }
 
 void Option_Editor_View::Refresh()
 {
+    Finish_Cell();
     const Input_Pause pause;
-    Scan_Option_Folder(program_);
+    lbl_PickFile_Click(program_);
 }
 
 void Option_Editor_View::Apply()
 {
+    Finish_Cell();
     const Input_Pause pause;
     btn_Apply_Click(program_);
     Render_List();
     if (const std::vector<int>& selected = program_.Option_Files.Selection; !selected.empty())
-        ui_->lvw_Files->scrollTo(order_.mapFromSource(files_.index(selected.front(), 0)));
+        ui_->lvw_Files->scrollTo(files_.index(files_.Row_Of(selected.front()), 0));
 }
 
 std::vector<int> Option_Editor_View::Selected_Rows() const
@@ -121,7 +120,7 @@ std::vector<int> Option_Editor_View::Selected_Rows() const
     std::vector<int> rows;
     for (const QItemSelectionRange& range : ui_->lvw_Files->selectionModel()->selection())
         for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.push_back(order_.mapToSource(order_.index(row, 0)).row());
+            rows.push_back(files_.Number_Of(row));
     std::ranges::sort(rows);
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
@@ -180,6 +179,10 @@ static bool Opens_Or_Moves(const QEvent& event)
 
 bool Option_Editor_View::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == ui_->lvw_Files && event->type() == QEvent::Resize)
+        Share_Width();
+    if (watched == ui_->txt_Filter && event->type() == QEvent::KeyPress)
+        return Key_In_Filter(*static_cast<QKeyEvent*>(event));
     // A language that is marked in the proposals stands in the box already: the same key goes on. While they are in
     // view they keep it from the box that its focus has gone, so that its caret would blink on.
     if (watched == proposals_ && event->type() == QEvent::KeyPress && Goes_On(*static_cast<QKeyEvent*>(event))) {
@@ -224,6 +227,8 @@ void Option_Editor_View::keyPressEvent(QKeyEvent* event)
 void Option_Editor_View::Set_Looks()
 {
     ui_->lbl_PickFile->setIcon(Picture(u"refresh"_s, palette()));
+    files_.Set_Looks(palette());
+    Tint(*ui_->lbl_Marks, Mark_Colour(palette()));
 }
 
 void Option_Editor_View::changeEvent(QEvent* event)
@@ -240,12 +245,28 @@ void Option_Editor_View::Render_List()
 {
     const QScopedValueRollback filling(filling_, true);
     const Option_Editor& editor = program_.Option_Files;
-    files_.Show(editor.lvw_Files);
-    if (Selected_Rows() == editor.Selection)
-        return;
+    QTableView& table = *ui_->lvw_Files;
+    // A reset forgets the current cell.
+    const QModelIndex current = table.currentIndex();
+    const int number = current.isValid() ? files_.Number_Of(current.row()) : -1;
+    files_.Render();
+    if (current.isValid() && !table.currentIndex().isValid() && files_.Row_Of(number) >= 0)
+        table.selectionModel()->setCurrentIndex(files_.index(files_.Row_Of(number), current.column()),
+                                                QItemSelectionModel::NoUpdate);
+    if (Selected_Rows() != editor.Selection)
+        Restore_Selection();
+}
+
+void Option_Editor_View::Restore_Selection()
+{
+    std::vector<int> rows;
+    for (const int number : program_.Option_Files.Selection)
+        if (const int row = files_.Row_Of(number); row >= 0)
+            rows.push_back(row);
+    std::ranges::sort(rows);
     QItemSelection selection;
-    for (const int row : editor.Selection) {
-        const QModelIndex index = order_.mapFromSource(files_.index(row, 0));
+    for (const int row : rows) {
+        const QModelIndex index = files_.index(row, 0);
         // Rows side by side make one range: thousands of ranges would be slow to compare and to draw.
         if (!selection.isEmpty() && selection.last().bottom() + 1 == index.row())
             selection.last() = QItemSelectionRange(selection.last().topLeft(), index);
@@ -303,6 +324,7 @@ void Option_Editor_View::Render_Text_Size()
     if (font.pointSize() != editor.Font_Size) {
         font.setPointSize(editor.Font_Size);
         ui_->lvw_Files->setFont(font);
+        Share_Width();
     }
     ui_->lvw_Files->verticalHeader()->setDefaultSectionSize(ui_->lvw_Files->fontMetrics().height() + 6);
     Show_Label(*ui_->lbl_FontSize, editor.lbl_FontSize);
@@ -329,5 +351,6 @@ void Option_Editor_View::Render()
     for (std::size_t slot = 0; slot < Option_Slot_Count; ++slot)
         Render_Box(static_cast<Option_Slot>(slot));
     Render_Text_Size();
+    Render_Commands();
     Give_Focus(*this, editor.Focus);
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "forms/kept_place.h"
+#include "forms/option_cell_delegate.h"
 #include "forms/option_files_model.h"
 #include "forms/program_dialog.h"
 
 #include <memory>
 
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
@@ -45,6 +47,8 @@ class Option_Editor_View : public Program_Dialog
     };
 
     void Connect_Boxes();
+    void Connect_List();
+    void Add_Commands();
     void Refresh();
     void Apply();
     void Selection_Changed();
@@ -53,7 +57,17 @@ class Option_Editor_View : public Program_Dialog
     void Begin_At_Text(QComboBox& list);
     bool Key_Between_Boxes(Option_Slot slot, const QKeyEvent& event);
 
+    bool Key_In_Filter(const QKeyEvent& event);
+    void Finish_Cell();
+    void Go_Down();
+    void Fill();
+    void Apply_All_Marks();
+    void Undo();
+
     void Set_Looks();
+    void Render_Commands();
+    void Restore_Selection();
+    void Share_Width();
     void Render_List();
     void Render_Box(Option_Slot slot);
     void Render_Text_Size();
@@ -62,7 +76,11 @@ class Option_Editor_View : public Program_Dialog
     Form_Place kept_;
     Kept_Place place_;
     Option_Files_Model files_;
-    Option_Files_Order order_;
+    Option_Cell_Delegate cells_;
+    QAction* fill_ = nullptr;
+    QAction* undo_ = nullptr;
+    QAction* apply_ = nullptr;
+    QAction* discard_ = nullptr;
     std::array<Box_Controls, Option_Slot_Count> boxes_;
     QWidget* proposals_ = nullptr; ///< the list of languages that drops down under what is typed
     bool filling_ = false;         ///< the program fills controls, not the operator

@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QThread>
 #include <QTimer>
 #include <QUrl>
@@ -113,17 +114,35 @@ static QMessageBox::Icon Icon_Of(Message_Icon icon)
     }
 }
 
+/// The question what becomes of something that isn't applied yet. Whoever just closes it stays.
+static Message_Answer Ask_Before_Leaving(QMessageBox& window)
+{
+    window.setObjectName(u"frm_NotApplied"_s);
+    const QAbstractButton* apply = window.addButton(u"&Apply"_s, QMessageBox::AcceptRole);
+    const QAbstractButton* discard = window.addButton(u"&Discard"_s, QMessageBox::DestructiveRole);
+    QPushButton* stay = window.addButton(u"&Stay"_s, QMessageBox::RejectRole);
+    window.setDefaultButton(stay);
+    window.setEscapeButton(stay);
+    window.exec();
+    return window.clickedButton() == apply     ? Message_Answer::Ok
+           : window.clickedButton() == discard ? Message_Answer::Discard
+                                               : Message_Answer::Cancel;
+}
+
 Message_Answer Window_Operator::Show_Message(const Message_Box& box)
 {
     if (program_->Form.Asked_To_Go || program_->Form.Display_Lost)
         return box.Buttons == Message_Buttons::Ok ? Message_Answer::Ok : Message_Answer::Cancel;
     return Ask([&] {
-        QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+        const bool leaving = box.Buttons == Message_Buttons::Apply_Discard_Stay;
+        QMessageBox::StandardButtons buttons = leaving ? QMessageBox::NoButton : QMessageBox::Ok;
         if (box.Buttons == Message_Buttons::Ok_Cancel)
             buttons |= QMessageBox::Cancel;
         QMessageBox window(Icon_Of(box.Icon), box.Title, Shown_Lines(box.Text), buttons, Owner());
         window.setTextFormat(Qt::PlainText);
         window.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        if (leaving)
+            return Ask_Before_Leaving(window);
         return window.exec() == QMessageBox::Ok ? Message_Answer::Ok : Message_Answer::Cancel;
     });
 }

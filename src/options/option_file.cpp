@@ -113,6 +113,11 @@ bool Load_Option_Record(const QString& option_path, OptionRecord& record)
     return true;
 }
 
+Option_Values Values_Of(const OptionRecord& record)
+{
+    return {record.Title, record.Language, record.Default, record.Forced, record.Delay};
+}
+
 void Set_Option_Flag(OptionRecord& record, std::int32_t mask, bool present)
 {
     record.Flags = present ? record.Flags | mask : record.Flags & ~mask;
@@ -157,7 +162,7 @@ Option_Write_Status Merge_Option_File(const QString& option_path, const Option_V
         return Option_Write_Status::Left_Alone;
     OptionRecord record;
     Load_Option_Record(option_path, record);
-    const Option_Values old_values = {record.Title, record.Language, record.Default, record.Forced, record.Delay};
+    const Option_Values old_values = Values_Of(record);
     Option_Values merged = values;
     for (std::size_t slot = 0; slot < merged.size(); ++slot)
         if (merged[slot].isEmpty())

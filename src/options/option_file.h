@@ -63,6 +63,8 @@ struct OptionRecord
 ///
 /// Error 9, naming the file, for a line that is one of the keys alone, without "=".
 bool Load_Option_Record(const QString& option_path, OptionRecord& record);
+/// The record's five values that are written.
+Option_Values Values_Of(const OptionRecord& record);
 /// Sets the mask's bits in Flags, or clears them.
 void Set_Option_Flag(OptionRecord& record, std::int32_t mask, bool present);
 void Clear_Option_Record(OptionRecord& record);

@@ -14,12 +14,14 @@ enum class Message_Icon
 enum class Message_Buttons
 {
     Ok = 0,
-    Ok_Cancel = 1
+    Ok_Cancel = 1,
+    Apply_Discard_Stay = 2 ///< answered by Ok, Discard and Cancel
 };
 enum class Message_Answer
 {
     Ok,
-    Cancel
+    Cancel,
+    Discard
 };
 
 /// One message box. Code is the number of the report or error it belongs to, 0 for none. Lines of Text are separated

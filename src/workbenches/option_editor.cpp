@@ -5,6 +5,10 @@
 #include "support/failure_box.h"
 #include "support/paths.h"
 #include "support/text.h"
+#include "workbenches/option_cells.h"
+#include "workbenches/option_list.h"
+#include "workbenches/option_marks.h"
+#include "workbenches/option_steps.h"
 #include "workbenches/viewer_text_size.h"
 
 #include <QHash>
@@ -98,6 +102,10 @@ void Activate_Option_Editor(Program& program)
     editor.Activated = true;
     editor.Folder = With_Separator(editor.Folder);
     editor.Selected_Indexes.clear();
+    editor.lvw_Files.clear(); // with the marks of the last opening
+    editor.Cells.clear();
+    editor.Filter.clear();
+    editor.Steps.clear();
     Load_Language_Combos(program);
     Load_The_Boxes(editor);
     Show_Text_Size(editor.Font_Size, editor.lbl_FontSize);
@@ -124,7 +132,22 @@ static QStringList Names_By_Masks(Program& program, const QString& folder, const
     return names;
 }
 
-void Scan_Option_Folder(Program& program)
+/// Rows with marks whose files went away stay: what was typed there isn't lost.
+static void Keep_Marked_Rows(const Option_Editor& editor, std::vector<OptionFileRow>& rows)
+{
+    if (Count_Marked(editor) == 0)
+        return;
+    QSet<QString> names;
+    for (const OptionFileRow& row : rows)
+        names += Name_Of_Row(row);
+    for (std::size_t item = 0; item < editor.Cells.size(); ++item)
+        if (const OptionFileRow& row = editor.lvw_Files[item];
+            Is_Marked(editor.Cells[item]) && !names.contains(Name_Of_Row(row)))
+            rows.push_back(row);
+}
+
+/// Scan_Option_Folder without the selection.
+static void List_Option_Folder(Program& program)
 {
     Option_Editor& editor = program.Option_Files;
     // Events have their turn while the folder is listed: the rows change all at once.
@@ -150,9 +173,39 @@ void Scan_Option_Folder(Program& program)
             if (!paired.contains(name))
                 rows.push_back({{}, name});
     }
+    Keep_Marked_Rows(editor, rows);
     editor.Rows = std::move(rows);
     Load_lvw_Files(editor);
+}
+
+void Scan_Option_Folder(Program& program)
+{
+    List_Option_Folder(program);
     Select_lvw_Files(program);
+}
+
+void List_Again(Program& program)
+{
+    Option_Editor& editor = program.Option_Files;
+    QSet<QString> selected;
+    for (const OptionFileRow& row : editor.Selected_Rows)
+        selected += Name_Of_Row(row);
+    const auto boxes = editor.Boxes;
+    List_Option_Folder(program);
+    editor.Selected_Indexes.clear();
+    for (std::size_t item = 0; item < editor.lvw_Files.size(); ++item)
+        if (selected.contains(Name_Of_Row(editor.lvw_Files[item])))
+            editor.Selected_Indexes.push_back(static_cast<int>(item));
+    Select_lvw_Files(program);
+    for (std::size_t slot = 0; slot < Option_Slot_Count; ++slot)
+        if (boxes[slot].Typed)
+            editor.Boxes[slot] = boxes[slot];
+}
+
+void lbl_PickFile_Click(Program& program)
+{
+    if (May_Leave_Marks(program))
+        Scan_Option_Folder(program);
 }
 
 std::vector<int> MergeSort2(const std::vector<std::array<QString, 2>>& table, std::vector<int> rows, std::size_t column)
@@ -179,11 +232,21 @@ void Load_lvw_Files(Option_Editor& editor)
     std::iota(order.begin(), order.end(), 0);
     order = MergeSort2(table, MergeSort2(table, std::move(order), 1), 0);
 
+    QHash<QString, decltype(Option_Cells::Marks)> marks;
+    for (std::size_t item = 0; item < editor.Cells.size(); ++item)
+        if (Is_Marked(editor.Cells[item]))
+            marks.insert(Name_Of_Row(editor.lvw_Files[item]), editor.Cells[item].Marks);
     editor.lvw_Files.clear();
     editor.lvw_Files.reserve(order.size());
-    for (const int row : order)
+    editor.Cells.assign(order.size(), {});
+    for (const int row : order) {
         editor.lvw_Files.push_back(editor.Rows[static_cast<std::size_t>(row)]);
+        if (const auto kept = marks.constFind(Name_Of_Row(editor.lvw_Files.back())); kept != marks.constEnd())
+            editor.Cells[editor.lvw_Files.size() - 1].Marks = *kept;
+    }
     editor.Selection.clear();
+    Order_Option_List(editor);
+    Tell_Marks(editor);
 }
 
 void Select_lvw_Files(Program& program)
@@ -191,7 +254,8 @@ void Select_lvw_Files(Program& program)
     const Option_Editor& editor = program.Option_Files;
     std::vector<int> still_there;
     for (const int index : editor.Selected_Indexes)
-        if (index < static_cast<int>(editor.lvw_Files.size()))
+        if (index < static_cast<int>(editor.lvw_Files.size()) &&
+            Passes_Option_Filter(editor.Filter, editor.lvw_Files[static_cast<std::size_t>(index)]))
             still_there.push_back(index);
     lvw_Files_Selection_Change(program, std::move(still_there));
 }
@@ -262,8 +326,7 @@ OptionRecord Merge_Selected_Records(const std::vector<OptionRecord>& records)
 
 // ---- Writing
 
-/// The path that a row's option file has, or will have.
-static QString Option_Path(const Option_Editor& editor, const OptionFileRow& row)
+QString Option_Path(const Option_Editor& editor, const OptionFileRow& row)
 {
     return editor.Folder + (row.OptionFileName.isEmpty() ? row.FileName + u".opt"_s : row.OptionFileName);
 }
@@ -278,6 +341,14 @@ static Option_Values Box_Values(const Option_Editor& editor, bool set_only)
     return values;
 }
 
+Message_Box Still_There_Box(const QString& path)
+{
+    return {.Title = u"The options file is still there."_s,
+            .Text = u"It has nothing to say any more, but the trash didn't take it, so it stays as it was:\r\n\r\n"_s +
+                    path + u"\r\n\r\nMake room in the trash and apply again, or delete it."_s,
+            .Icon = Message_Icon::Exclamation};
+}
+
 static void Tell_Not_Written(Program& program, const Run_Time_Error& error, const QString& advice)
 {
     program.Person.Show_Message(Failure_Box(u"The options file was not written."_s, error, advice));
@@ -285,7 +356,7 @@ static void Tell_Not_Written(Program& program, const Run_Time_Error& error, cons
 
 /// Several rows at once. Deliberate: a row without an option file gains a name in the list even if nothing is written
 /// for it, until the next scan; the list isn't scanned again.
-static void Apply_To_Several(Program& program)
+static void Apply_To_Several(Program& program, Option_Step& step)
 {
     Option_Editor& editor = program.Option_Files;
     const Option_Values values = Box_Values(editor, true);
@@ -296,7 +367,8 @@ static void Apply_To_Several(Program& program)
             editor.lvw_Files[static_cast<std::size_t>(editor.Selected_Indexes[at])] = row;
         }
         try {
-            Merge_Option_File(Option_Path(editor, row), values);
+            const QString path = Option_Path(editor, row);
+            Write_Noted(path, step, [&] { Merge_Option_File(path, values); });
         } catch (const Run_Time_Error& error) {
             // What stands in the way of one most likely stands in the way of all: one box, not one a row.
             Tell_Not_Written(program, error,
@@ -309,13 +381,14 @@ static void Apply_To_Several(Program& program)
 }
 
 /// One row: its option file says what the boxes say, and is gone if they say nothing.
-static void Apply_To_One(Program& program)
+static void Apply_To_One(Program& program, Option_Step& step)
 {
     const Option_Editor& editor = program.Option_Files;
     const QString path = Option_Path(editor, editor.Selected_Rows.front());
     Option_Write_Status status = Option_Write_Status::Nothing_To_Write;
     try {
-        status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults);
+        Write_Noted(path, step,
+                    [&] { status = Write_Option_File(path, Box_Values(editor, false), program.Logs.Log_Faults); });
     } catch (const Run_Time_Error& error) {
         Tell_Not_Written(program, error,
                          u"The file stays as it was. Make its folder writable, make room on the disk, then apply "
@@ -324,11 +397,7 @@ static void Apply_To_One(Program& program)
     if (status == Option_Write_Status::Nothing_To_Write)
         return;
     if (status == Option_Write_Status::Not_Recycled)
-        program.Person.Show_Message({.Title = u"The options file is still there."_s,
-                                     .Text = u"It has nothing to say any more, but the trash didn't take it, so it "
-                                             "stays as it was:\r\n\r\n"_s +
-                                             path + u"\r\n\r\nMake room in the trash and apply again, or delete it."_s,
-                                     .Icon = Message_Icon::Exclamation});
+        program.Person.Show_Message(Still_There_Box(path));
     Scan_Option_Folder(program);
 }
 
@@ -338,10 +407,15 @@ void btn_Apply_Click(Program& program)
     if (editor.Selected_Count == 0)
         return;
     Read_Boxes(editor);
+    Option_Step step;
     if (editor.Selected_Count == 1) {
-        Apply_To_One(program);
+        Apply_To_One(program, step);
     } else {
-        Apply_To_Several(program);
+        Apply_To_Several(program, step);
+        for (Option_Cells& cells : editor.Cells)
+            cells.Read = false;
+        Order_Option_List(editor);
     }
+    Keep_Step(editor, std::move(step));
     editor.Focus = u"btn_Close"_s;
 }

@@ -33,9 +33,15 @@ static bool Is_No_Or_Yes(const QString& text)
     return lowered == u"no"_s || lowered == u"yes"_s;
 }
 
+QString Text_For_Slot(Option_Slot slot, const QString& text)
+{
+    return Fields_Of(slot).No_Or_Yes && !Is_No_Or_Yes(text) ? QString() : On_One_Line(text);
+}
+
 void Blank_Boxes(Option_Editor& editor)
 {
     for (Option_Box& box : editor.Boxes) {
+        box.Typed = false;
         if (box.Sticky) {
             box.Set = box.Set || !box.Text.isEmpty();
         } else {
@@ -71,8 +77,9 @@ void Read_Boxes(Option_Editor& editor)
 void Option_Box_Change(Option_Editor& editor, Option_Slot slot, const QString& text)
 {
     Option_Box& box = editor.At(slot);
-    box.Text = Fields_Of(slot).No_Or_Yes && !Is_No_Or_Yes(text) ? QString() : On_One_Line(text);
+    box.Text = Text_For_Slot(slot, text);
     box.Set = true;
+    box.Typed = true;
 }
 
 void Option_Box_Leave(Option_Editor& editor, Option_Slot slot)
@@ -117,6 +124,7 @@ void Load_The_Boxes(Option_Editor& editor)
         box.Sticky = editor.Sticky.*Fields[slot].Sticky_Flag == 1;
         box.Text = box.Sticky ? editor.Sticky.*Fields[slot].Sticky_Text : QString();
         box.Set = box.Sticky;
+        box.Typed = false;
     }
 }
 

@@ -15,7 +15,7 @@ struct Form_Test : testing::Test
         // What answers forms is busy with the form while a box stands over it.
         QObject::connect(&boxes_, &QTimer::timeout, &boxes_, [this] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box || !box->isVisible())
+            if (!box || !box->isVisible() || !box->button(QMessageBox::Ok))
                 return;
             Window.Person.Boxes.push_back({box->windowTitle(), box->text()});
             box->button(QMessageBox::Ok)->click();

@@ -73,6 +73,45 @@ struct Editor_Form : Form_Test
         QCoreApplication::processEvents();
     }
 
+    /// Goes to a cell by the mouse.
+    void Click_Cell(int row, int column, Qt::KeyboardModifiers keys = {}) const
+    {
+        Click_On(*Files().viewport(), Files().visualRect(Files().model()->index(row, column)).center(), Qt::LeftButton,
+                 keys);
+    }
+
+    /// Keys to whatever has the focus.
+    void Keys(const QString& text, Qt::Key end = Qt::Key_Return) const
+    {
+        for (const QChar letter : text)
+            QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
+        QTest::keyClick(
+            QApplication::activePopupWidget() ? QApplication::activePopupWidget() : QApplication::focusWidget(), end);
+        QCoreApplication::processEvents();
+    }
+
+    QString Cell(int row, int column) const { return Files().model()->index(row, column).data().toString(); }
+
+    /// What the person answers when asked for what isn't applied yet, while `act` is done; true if that was asked.
+    bool Asked(const QString& answer, const std::function<void()>& act) const
+    {
+        bool asked = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>())
+                if (button->text().remove(u'&') == answer) {
+                    asked = true;
+                    button->click();
+                }
+        });
+        look.start(10);
+        act();
+        Form->activateWindow(); // no window system does it here
+        QCoreApplication::processEvents();
+        return asked;
+    }
+
     QStringList Listed() const
     {
         QStringList rows;
@@ -215,4 +254,93 @@ TEST_F(Editor_Form, AnOptionFileThatTheTrashDoesntTakeStaysAndThatIsTold)
     qputenv("XDG_DATA_HOME", data_home);
     EXPECT_EQ(Window.Files.Read(name + u".opt"_s), "Title=Own\r\n");
     EXPECT_FALSE(Window.Desk->Guard.Ended());
+}
+
+TEST_F(Editor_Form, CellsAreTypedInPlaceFilledDownAppliedAndTakenBack)
+{
+    Start();
+    for (const char16_t* name : {u"videos/1.mp3", u"videos/2.mp3", u"videos/3.mp3"})
+        Window.Files.Write(QString::fromUtf16(name));
+    const QByteArray old = "Delay=5\r\n";
+    Window.Files.Write(u"videos/2.mp3.opt"_s, old);
+    Edit([&] {
+        constexpr int title = 2;
+        constexpr int language = 3;
+        constexpr int forced = 5;
+        constexpr int delay = 6;
+        Click_Cell(0, title);
+        QTest::mouseDClick(Files().viewport(), Qt::LeftButton, {},
+                           Files().visualRect(Files().model()->index(0, title)).center());
+        Keys(u"First"_s);
+        Keys(u"2nd"_s); // Enter went on, a letter begins
+        EXPECT_EQ(Files().currentIndex(), Files().model()->index(2, title));
+        Keys({}, Qt::Key_F2);
+        Keys(u"gone"_s, Qt::Key_Escape);
+        EXPECT_TRUE(Form->isVisible());
+        Click_Cell(0, delay);
+        Keys(u"-2x5"_s);
+        Keys({}, Qt::Key_F2); // left as it is
+        Keys({});
+        EXPECT_EQ(QStringList({Cell(0, title), Cell(1, title), Cell(2, title), Cell(0, delay), Cell(1, delay)}),
+                  QStringList({u"• First"_s, u"• 2nd"_s, {}, u"• -25"_s, u"5"_s}));
+        Click_Cell(0, forced);
+        Keys(u"y"_s);
+        Click_Cell(0, language);
+        Keys(u"Swedi"_s, Qt::Key_Down); // the proposals
+        Keys({});
+        EXPECT_EQ(Cell(0, language), u"• Swedish (swe)");
+        EXPECT_EQ(Boxes(), u"(not set)/(not set)/(not set)/(not set)/(not set)") << "they show what is applied";
+
+        Click_Cell(0, language);
+        Click_Cell(2, language, Qt::ShiftModifier);
+        Press(*Form, Qt::Key_D, Qt::ControlModifier);
+        EXPECT_EQ(Cell(2, language), u"• Swedish (swe)");
+        EXPECT_EQ(In<QLabel>(*Form, "lbl_Marks").text(), u"3 files not applied yet");
+        Push(*Form, "btn_ApplyMarks");
+        EXPECT_EQ(Window.Files.Read(u"videos/1.mp3.opt"_s),
+                  "Title=First\r\nLanguage=Swedish (swe)\r\nForced=yes\r\nDelay=-25\r\n");
+        EXPECT_EQ(Window.Files.Read(u"videos/2.mp3.opt"_s), "Title=2nd\r\nLanguage=Swedish (swe)\r\nDelay=5\r\n");
+        EXPECT_EQ(Window.Files.Read(u"videos/3.mp3.opt"_s), "Language=Swedish (swe)\r\n");
+        EXPECT_EQ(Boxes(), u"(left as it is)/[Swedish (swe)]/(left as it is)/(left as it is)/(left as it is)");
+        EXPECT_FALSE(In(*Form, "btn_ApplyMarks").isEnabled());
+
+        Files().setFocus();
+        Press(*Form, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Window.Files.Read(u"videos/2.mp3.opt"_s), old);
+        EXPECT_FALSE(QFile::exists(Window.Files.Path(u"videos/1.mp3.opt"_s)));
+        EXPECT_EQ(Listed(), (QStringList{u"1.mp3|"_s, u"2.mp3|2.mp3.opt"_s, u"3.mp3|"_s}));
+        EXPECT_FALSE(In(*Form, "btn_Undo").isEnabled());
+    });
+}
+
+TEST_F(Editor_Form, WhatIsTypedIntoCellsIsLostByNoWayOut)
+{
+    Start();
+    for (const char16_t* name : {u"videos/1.en.mp3", u"videos/2.de.mp3", u"videos/3.en.mp3"})
+        Window.Files.Write(QString::fromUtf16(name));
+    Edit([&] {
+        Click_Row(0);
+        Press(*Form, Qt::Key_F, Qt::ControlModifier);
+        Keys(u"*.EN.mp3"_s, Qt::Key_Down);
+        EXPECT_EQ(Listed(), (QStringList{u"1.en.mp3|"_s, u"3.en.mp3|"_s}));
+        EXPECT_EQ(In<QLabel>(*Form, "lbl_FilterNote").text(), u"2 of 3 files");
+        Click_Cell(1, 2);
+        Keys(u"typed"_s, Qt::Key_Right); // not entered yet
+        EXPECT_TRUE(Asked(u"Stay"_s, [&] { Push(*Form, "btn_Close"); }));
+        EXPECT_TRUE(Form->isVisible());
+        Press(*Form, Qt::Key_F, Qt::ControlModifier);
+        Keys({}, Qt::Key_Escape); // the filter's
+        EXPECT_EQ(Listed().size(), 3);
+        EXPECT_EQ(Cell(2, 2), u"• typed");
+        Click_Row(0); // and another one
+        EXPECT_TRUE(Asked(u"Stay"_s, [&] { Press(*Form, Qt::Key_F5); }));
+        EXPECT_EQ(Cell(2, 2), u"• typed");
+        EXPECT_TRUE(Asked(u"Discard"_s, [&] { Press(*Form, Qt::Key_F5); }));
+        EXPECT_EQ(Cell(2, 2), QString());
+        Click_Cell(2, 2);
+        Keys(u"last"_s);
+        EXPECT_TRUE(Asked(u"Apply"_s, [&] { Press(*Form, Qt::Key_Escape); }));
+        EXPECT_FALSE(Form->isVisible());
+        EXPECT_EQ(Window.Files.Read(u"videos/3.en.mp3.opt"_s), "Title=last\r\n");
+    });
 }

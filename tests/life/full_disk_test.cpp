@@ -4,7 +4,9 @@
 #include "settings/settings_store.h"
 #include "support/run_time_error.h"
 #include "support/whole_file.h"
+#include "workbenches/option_cells.h"
 #include "workbenches/option_editor.h"
+#include "workbenches/option_marks.h"
 #include "workbenches/video_info_viewer.h"
 
 #include <QDir>
@@ -77,6 +79,16 @@ TEST(Full_Disk, WhoeverWritesTellsAndTheOldFileStands)
         {"first start", {}, [](Program& program) { Load_Settings(program); }, 1},
         {"editor, one row", u"videos/a.mp3.opt"_s, edit({0}), 1},
         {"editor, two rows", u"videos/a.mp3.opt"_s, edit({0, 1}), 1},
+        {"editor, marked rows", u"videos/a.mp3.opt"_s,
+         [](Program& program) {
+             program.Option_Files.Folder = program.Options.Path_Videos;
+             Scan_Option_Folder(program);
+             for (const int row : {0, 1})
+                 Type_Into_Cell(program.Option_Files, row, Title_Slot, u"a title"_s);
+             if (!Apply_Marks(program) && Count_Marked(program.Option_Files) != 2)
+                 program.Person.Show_Message({}); // the marks stay
+         },
+         1},
         {"video info", u"videos/a Video Info.txt"_s,
          [](Program& program) {
              frm_ViewVFI form;
