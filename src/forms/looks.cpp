@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
 #include <algorithm>
@@ -103,6 +104,15 @@ void Tint(QLabel& label, const QColor& colour)
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
         own.setColor(role, colour);
     label.setPalette(own);
+}
+
+void Fade_Placeholder(QLineEdit& box)
+{
+    QColor faint = QApplication::palette().color(QPalette::Text);
+    faint.setAlphaF(0.5F);
+    QPalette own;
+    own.setColor(QPalette::PlaceholderText, faint);
+    box.setPalette(own);
 }
 
 /// Relative luminance as the contrast rules of the web define it.

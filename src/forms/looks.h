@@ -7,6 +7,7 @@
 #include <QString>
 
 class QLabel;
+class QLineEdit;
 
 /// The few colours that mean something, each in a light and a dark shade so that it reads well on either palette, and
 /// the program's own pictures.
@@ -32,6 +33,9 @@ QString Literal_Tool_Tip(const QString& text);
 
 /// Gives a label's words that colour, on whatever it stands.
 void Tint(QLabel& label, const QColor& colour);
+
+/// The words in an empty box are fainter than its text, also where a desktop's dark palette leaves them black.
+void Fade_Placeholder(QLineEdit& box);
 
 /// From 1 to 21; 4.5 is what small text needs.
 double Contrast(const QColor& one, const QColor& other);

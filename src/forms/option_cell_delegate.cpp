@@ -7,6 +7,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QRegularExpressionValidator>
 #include <algorithm>
 
@@ -63,6 +64,18 @@ QWidget* Option_Cell_Delegate::createEditor(QWidget* parent, const QStyleOptionV
     if (slot == Delay_Slot && (value.isEmpty() || Is_Signed_Number(value)))
         line->setValidator(new QRegularExpressionValidator(QRegularExpression(u"(-?[0-9]{1,9})?"_s), line));
     return line;
+}
+
+void Option_Cell_Delegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!option.state.testFlag(QStyle::State_HasFocus))
+        return;
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter->restore();
 }
 
 static QString Text_In(const QWidget& widget)

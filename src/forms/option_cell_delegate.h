@@ -19,6 +19,8 @@ class Option_Cell_Delegate : public QStyledItemDelegate
     Option_Cell_Delegate(const Option_Editor& editor, QObject* parent);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// The current cell has a frame that is seen on selected rows, too: it is what a key begins to type into.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void setEditorData(QWidget* widget, const QModelIndex& index) const override;
     void setModelData(QWidget* widget, QAbstractItemModel* model, const QModelIndex& index) const override;
 

@@ -24,7 +24,7 @@ void Option_Editor_View::Connect_List()
     table.setItemDelegate(&cells_);
     table.sortByColumn(File_Column, Qt::AscendingOrder);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table.installEventFilter(this);
+    table.viewport()->installEventFilter(this);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Option_Editor_View::Selection_Changed);
     connect(table.selectionModel(), &QItemSelectionModel::currentChanged, this, &Option_Editor_View::Render_Commands);
@@ -116,16 +116,20 @@ bool Option_Editor_View::Key_In_Filter(const QKeyEvent& event)
     }
     if (event.key() == Qt::Key_Down) {
         ui_->lvw_Files->setFocus(Qt::TabFocusReason);
+        if (program_.Option_Files.Selection.empty() && files_.rowCount() > 0)
+            ui_->lvw_Files->setCurrentIndex(files_.index(0, File_Column));
         return true;
     }
     return false;
 }
 
-/// Flags and numbers take what they need, names and titles share the rest.
+/// Languages, flags and delays take what they need, names and titles share the rest.
 void Option_Editor_View::Share_Width()
 {
-    constexpr int needed[] = {22, 9, 9, 9}; // language, default, forced, delay: in digits
+    constexpr int needed[] = {19, 9, 9, 9}; // in digits
     constexpr int least = 14;
+    constexpr std::pair<int, double> shares[] = {
+        {File_Column, 0.4}, {Option_File_Column, 0.28}, {First_Value_Column, 0.32}};
     QTableView& table = *ui_->lvw_Files;
     const int em = table.fontMetrics().horizontalAdvance(u'0');
     int left = table.viewport()->width();
@@ -133,8 +137,8 @@ void Option_Editor_View::Share_Width()
         table.setColumnWidth(First_Value_Column + static_cast<int>(Language_Slot) + at, needed[at] * em);
         left -= needed[at] * em;
     }
-    for (const int column : {int(File_Column), int(Option_File_Column), int(First_Value_Column)})
-        table.setColumnWidth(column, std::max(least * em, left / 3));
+    for (const auto& [column, share] : shares)
+        table.setColumnWidth(column, std::max(least * em, static_cast<int>(left * share)));
 }
 
 void Option_Editor_View::Render_Commands()

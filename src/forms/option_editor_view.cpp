@@ -179,7 +179,7 @@ static bool Opens_Or_Moves(const QEvent& event)
 
 bool Option_Editor_View::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == ui_->lvw_Files && event->type() == QEvent::Resize)
+    if (watched == ui_->lvw_Files->viewport() && event->type() == QEvent::Resize)
         Share_Width();
     if (watched == ui_->txt_Filter && event->type() == QEvent::KeyPress)
         return Key_In_Filter(*static_cast<QKeyEvent*>(event));
@@ -228,6 +228,7 @@ void Option_Editor_View::Set_Looks()
 {
     ui_->lbl_PickFile->setIcon(Picture(u"refresh"_s, palette()));
     files_.Set_Looks(palette());
+    Fade_Placeholder(*ui_->txt_Filter);
     Tint(*ui_->lbl_Marks, Mark_Colour(palette()));
 }
 

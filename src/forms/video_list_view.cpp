@@ -132,11 +132,7 @@ void Video_List_View::Set_Looks()
     const QFontMetrics metrics = fontMetrics();
     table.verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
     table.setMinimumHeight(metrics.height() * 5);
-    QColor faint = QApplication::palette().color(QPalette::Text); // some desktops' dark palettes leave it black
-    faint.setAlphaF(0.5F);
-    QPalette filter;
-    filter.setColor(QPalette::PlaceholderText, faint);
-    ui_->txt_VideoFilter->setPalette(filter);
+    Fade_Placeholder(*ui_->txt_VideoFilter);
     Share_Width();
 }
 
