@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QRegularExpressionValidator>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -43,6 +44,8 @@ QWidget* Option_Cell_Delegate::New_List(QWidget* parent, const QStringList& line
         Find_By_Any_Part(*list);
     auto* self = const_cast<Option_Cell_Delegate*>(this);
     connect(list, &QComboBox::activated, self, [self, list] {
+        if (self->key_at_work_)
+            return;                      // the next key may go on
         list->setProperty(At_First, {}); // chosen is chosen, be it the same
         self->Take_Over(list);
     });
@@ -113,14 +116,21 @@ void Option_Cell_Delegate::setModelData(QWidget* widget, QAbstractItemModel* mod
 
 bool Option_Cell_Delegate::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* widget = qobject_cast<QWidget*>(watched);
-    const bool key_press = widget && event->type() == QEvent::KeyPress;
-    const int key = key_press ? static_cast<QKeyEvent*>(event)->key() : 0;
-    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+    if (event->type() != QEvent::KeyPress)
         return QStyledItemDelegate::eventFilter(watched, event);
-    auto* line = qobject_cast<QLineEdit*>(widget);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (qobject_cast<QComboBox*>(watched) && !enter && key != Qt::Key_Escape && key != Qt::Key_Tab &&
+        key != Qt::Key_Backtab) {
+        const QScopedValueRollback at_work(key_at_work_, true);
+        watched->event(event);
+        return true;
+    }
+    if (!enter)
+        return QStyledItemDelegate::eventFilter(watched, event);
+    const auto* line = qobject_cast<QLineEdit*>(watched);
     if (!line || line->hasAcceptableInput()) {
-        Take_Over(widget);
+        Take_Over(static_cast<QWidget*>(watched));
         emit Entered();
     }
     return true;

@@ -36,4 +36,5 @@ class Option_Cell_Delegate : public QStyledItemDelegate
     void Take_Over(QWidget* widget);
 
     const Option_Editor& editor_;
+    bool key_at_work_ = false; ///< a key is moving through a drop-down's lines
 };

@@ -99,7 +99,7 @@ int Fill_Down(Option_Editor& editor, int item, Option_Slot slot)
     std::ranges::sort(picked, above);
     if (picked.empty())
         return 0;
-    // Whoever selects with Shift from the top to the bottom ends up at the last row.
+    // Deliberate: whoever selects with Shift from the top to the bottom ends up at the last row.
     const int source = above(item, picked.back()) ? item : picked.front();
     std::erase_if(picked, [&](int other) { return !above(source, other); });
     const QString value = Cell_Value(editor, source, slot);

@@ -132,7 +132,7 @@ static QStringList Names_By_Masks(Program& program, const QString& folder, const
     return names;
 }
 
-/// Rows with marks whose files went away stay: what was typed there isn't lost.
+/// Deliberate: rows with marks whose files went away stay; what was typed there isn't lost.
 static void Keep_Marked_Rows(const Option_Editor& editor, std::vector<OptionFileRow>& rows)
 {
     if (Count_Marked(editor) == 0)

@@ -54,7 +54,8 @@ struct Apply_Failures
     }
 };
 
-/// Writes one row's marks; they are gone if that went well.
+/// Writes one row's marks; they are gone if that went well. Deliberate: the file is written whole, so one without a
+/// value left goes to the trash.
 static void Apply_Row(Program& program, int item, Option_Step& step, Apply_Failures& failures)
 {
     Option_Editor& editor = program.Option_Files;

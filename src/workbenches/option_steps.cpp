@@ -17,27 +17,30 @@
 using namespace Qt::StringLiterals;
 
 /// So many applies can be taken back.
-static constexpr std::size_t Most_Steps = 50;
+static constexpr std::size_t Most_Steps = 20;
 
 static std::optional<QByteArray> Bytes_If_There(const QString& path)
 {
     return File_Exists(path) ? std::optional(Read_File(path)) : std::nullopt;
 }
 
+/// False if the file can't be read.
+static bool Note_Bytes(const QString& path, std::optional<QByteArray>& bytes)
+{
+    try {
+        bytes = Bytes_If_There(path);
+        return true;
+    } catch (const Run_Time_Error&) {
+        return false;
+    }
+}
+
 void Write_Noted(const QString& path, Option_Step& step, const std::function<void()>& write)
 {
     Option_Change change{.Path = path, .Before = {}, .Behind = {}};
-    bool known = true;
-    try {
-        change.Before = Bytes_If_There(path);
-    } catch (const Run_Time_Error&) {
-        known = false;
-    }
+    const bool known = Note_Bytes(path, change.Before);
     write();
-    if (!known)
-        return;
-    change.Behind = Bytes_If_There(path);
-    if (change.Before != change.Behind)
+    if (known && Note_Bytes(path, change.Behind) && change.Before != change.Behind)
         step.push_back(std::move(change));
 }
 
@@ -57,6 +60,7 @@ enum class Undo_Result
     Not_Trashed
 };
 
+/// Deliberate: the former bytes, also what the editor itself never writes; and nothing over what isn't ours any more.
 static Undo_Result Undo(const Option_Change& change, clsStringBuilder& faults)
 {
     if (Bytes_If_There(change.Path) != change.Behind)

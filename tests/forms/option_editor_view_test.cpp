@@ -266,6 +266,7 @@ TEST_F(Editor_Form, CellsAreTypedInPlaceFilledDownAppliedAndTakenBack)
     Edit([&] {
         constexpr int title = 2;
         constexpr int language = 3;
+        constexpr int by_default = 4;
         constexpr int forced = 5;
         constexpr int delay = 6;
         Click_Cell(0, title);
@@ -285,6 +286,9 @@ TEST_F(Editor_Form, CellsAreTypedInPlaceFilledDownAppliedAndTakenBack)
                   QStringList({u"• First"_s, u"• 2nd"_s, {}, u"• -25"_s, u"5"_s}));
         Click_Cell(0, forced);
         Keys(u"y"_s);
+        Click_Cell(0, by_default);
+        for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Return})
+            Keys({}, key);
         Click_Cell(0, language);
         Keys(u"Swedi"_s, Qt::Key_Down); // the proposals
         Keys({});
@@ -298,7 +302,7 @@ TEST_F(Editor_Form, CellsAreTypedInPlaceFilledDownAppliedAndTakenBack)
         EXPECT_EQ(In<QLabel>(*Form, "lbl_Marks").text(), u"3 files not applied yet");
         Push(*Form, "btn_ApplyMarks");
         EXPECT_EQ(Window.Files.Read(u"videos/1.mp3.opt"_s),
-                  "Title=First\r\nLanguage=Swedish (swe)\r\nForced=yes\r\nDelay=-25\r\n");
+                  "Title=First\r\nLanguage=Swedish (swe)\r\nDefault=no\r\nForced=yes\r\nDelay=-25\r\n");
         EXPECT_EQ(Window.Files.Read(u"videos/2.mp3.opt"_s), "Title=2nd\r\nLanguage=Swedish (swe)\r\nDelay=5\r\n");
         EXPECT_EQ(Window.Files.Read(u"videos/3.mp3.opt"_s), "Language=Swedish (swe)\r\n");
         EXPECT_EQ(Boxes(), u"(left as it is)/[Swedish (swe)]/(left as it is)/(left as it is)/(left as it is)");
