@@ -289,11 +289,21 @@ void lvw_Files_Selection_Change(Program& program, std::vector<int> selected)
     if (editor.Selected_Rows.empty())
         return;
 
-    if (const auto records = Selected_Records(editor)) {
-        editor.Current_Options = Merge_Selected_Records(*records);
-        Show_Option_Record(editor);
-    } else {
+    try {
+        if (const auto records = Selected_Records(editor)) {
+            editor.Current_Options = Merge_Selected_Records(*records);
+            Show_Option_Record(editor);
+        } else {
+            Blank_Boxes(editor);
+        }
+    } catch (const Run_Time_Error& error) {
+        // Deliberate: the end of the program would take what isn't applied yet with it.
+        if (Count_Marked(editor) == 0)
+            throw;
+        lvw_Files_Selection_Change(program, {});
         Blank_Boxes(editor);
+        program.Person.Show_Message(Failure_Box(u"The options file can't be read."_s, error,
+                                                u"Its row isn't selected; what isn't applied yet is still there."_s));
     }
 }
 

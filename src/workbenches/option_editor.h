@@ -38,7 +38,7 @@ std::vector<int> MergeSort2(const std::vector<std::array<QString, 2>>& table, st
 void Select_lvw_Files(Program& program);
 
 /// The operator selected the items of these numbers: Selected_Rows, and the boxes show what all of them agree on. Error
-/// 53 or its like if an option file can't be read.
+/// 53 or its like if an option file can't be read; while rows are marked a box tells so, and nothing is selected.
 void lvw_Files_Selection_Change(Program& program, std::vector<int> selected);
 /// What all records agree on. The first one's comments stay only if it is alone.
 OptionRecord Merge_Selected_Records(const std::vector<OptionRecord>& records);

@@ -304,6 +304,9 @@ TEST(OptionCells, WhatCantBeWrittenOrTakenBackStaysAndIsToldOnce)
         EXPECT_EQ(test.Column(Title_Slot), u"One|• x|somebody's|(can't be read)");
         ASSERT_EQ(test.Person.Messages.size(), 2U);
         EXPECT_TRUE(test.Person.Messages[1].Text.endsWith(u"3.en.mp3.opt"_s));
+        test.Select({3}); // it would end the program, and the marks with it
+        EXPECT_TRUE(test.Editor().Selection.empty());
+        EXPECT_TRUE(test.Person.Messages[2].Text.contains(u"4.fr.mp3.opt"_s));
         Discard_Marks(test.Editor(), true);
     });
 }
