@@ -43,6 +43,11 @@ QColor Mark_Colour(const QPalette& palette)
     return Shade(palette, 0xff8a5200, 0xffffc061);
 }
 
+QColor Head_Colour(const QPalette& palette)
+{
+    return Shade(palette, 0xff1f5aa8, 0xff8fc1ff);
+}
+
 QColor Grey_Box_Colour(const QPalette& palette)
 {
     return Shade(palette, 0xffc0c0c0, 0xff55595e);

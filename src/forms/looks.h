@@ -17,6 +17,7 @@ QColor Finished_Colour(const QPalette& palette);
 QColor Interrupted_Colour(const QPalette& palette);
 QColor Fault_Colour(const QPalette& palette);
 QColor Mark_Colour(const QPalette& palette);
+QColor Head_Colour(const QPalette& palette);
 /// The ground of a box that takes no part in what is written.
 QColor Grey_Box_Colour(const QPalette& palette);
 

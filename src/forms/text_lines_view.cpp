@@ -6,35 +6,9 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QScrollBar>
 #include <QStyle>
-#include <QStyledItemDelegate>
 #include <algorithm>
-
-namespace {
-
-/// Rows as wide as the widest line. The list asks for the size of one row only.
-class Wide_Rows : public QStyledItemDelegate
-{
-  public:
-    explicit Wide_Rows(Text_Lines_View& view) : QStyledItemDelegate(&view), view_(view) {}
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        const int edge = 2 * (view_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 2);
-        return {view_.Widest() + edge, QStyledItemDelegate::sizeHint(option, index).height()};
-    }
-
-  private:
-    Text_Lines_View& view_;
-};
-
-} // namespace
-
-/// Where each character is as wide as the next: printable ASCII in a font of fixed width.
-static bool Is_Plain(const QString& line)
-{
-    return std::ranges::all_of(line, [](QChar letter) { return letter >= u' ' && letter <= u'~'; });
-}
 
 int Widest_Line(const QStringList& lines, const QFont& font)
 {
@@ -44,7 +18,7 @@ int Widest_Line(const QStringList& lines, const QFont& font)
     qsizetype most_letters = 0;
     int widest = 0;
     for (const QString& line : lines) {
-        if (fixed && Is_Plain(line))
+        if (fixed && Is_Plain_Line(line))
             most_letters = std::max(most_letters, line.size());
         else
             widest = std::max(widest, metrics.horizontalAdvance(line) + tab * static_cast<int>(line.count(u'\t')));
@@ -53,11 +27,11 @@ int Widest_Line(const QStringList& lines, const QFont& font)
     return std::max(widest, static_cast<int>(letter * static_cast<double>(most_letters)) + 1);
 }
 
-Text_Lines_View::Text_Lines_View(QWidget* parent) : QListView(parent)
+Text_Lines_View::Text_Lines_View(QWidget* parent) : QListView(parent), rows_(new Text_Line_Delegate(this))
 {
     setFont(Fixed_Font());
     setModel(&lines_);
-    setItemDelegate(new Wide_Rows(*this));
+    setItemDelegate(rows_);
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
@@ -76,7 +50,8 @@ void Text_Lines_View::Show_Lines(const QStringList& lines)
 {
     if (lines_.stringList() == lines)
         return;
-    widest_ = Widest_Line(lines, font());
+    if (!wrapped_)
+        rows_->Set_Widest(Widest_Line(lines, font()));
     lines_.setStringList(lines);
 }
 
@@ -90,6 +65,59 @@ void Text_Lines_View::Select_Row(int row)
         scrollTo(lines_.index(std::max(0, row - 1)), PositionAtTop);
 }
 
+void Text_Lines_View::Go_To_Row(int row)
+{
+    const QModelIndex index = lines_.index(row);
+    const QRect place = visualRect(index);
+    const bool in_sight = place.top() >= 0 && place.bottom() < viewport()->height();
+    setCurrentIndex(index);
+    if (!in_sight)
+        scrollTo(index, PositionAtCenter);
+    if (!wrapped_)
+        Scroll_To_Found(index.data().toString());
+}
+
+/// A line that doesn't hold what was found is shown from its beginning.
+void Text_Lines_View::Scroll_To_Found(const QString& line)
+{
+    const qsizetype at = found_.isEmpty() ? -1 : line.indexOf(found_, 0, Qt::CaseInsensitive);
+    QScrollBar& bar = *horizontalScrollBar();
+    if (at < 0)
+        return bar.setValue(0);
+    const int left = fontMetrics().horizontalAdvance(line.first(at));
+    const int right =
+        fontMetrics().horizontalAdvance(line.first(at + found_.size())) + 2 * Text_Line_Delegate::Margin(*style());
+    const int width = viewport()->width();
+    if (left < bar.value() || right > bar.value() + width)
+        bar.setValue(right <= width ? 0 : left - width / 3);
+}
+
+void Text_Lines_View::Set_Wrapped(bool wrapped)
+{
+    if (wrapped_ == wrapped)
+        return;
+    wrapped_ = wrapped;
+    setUniformItemSizes(!wrapped);
+    setHorizontalScrollBarPolicy(wrapped ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    Measure();
+    scrollTo(currentIndex());
+}
+
+void Text_Lines_View::Set_Found(const QString& text)
+{
+    if (found_ == text)
+        return;
+    found_ = text;
+    rows_->Set_Found(text);
+    viewport()->update();
+}
+
+void Text_Lines_View::Set_Colouring(Text_Line_Delegate::Colouring colour_of)
+{
+    rows_->Set_Colouring(std::move(colour_of));
+    viewport()->update();
+}
+
 void Text_Lines_View::Set_Text_Size(int points)
 {
     QFont sized = font();
@@ -101,8 +129,25 @@ void Text_Lines_View::Set_Text_Size(int points)
 
 void Text_Lines_View::Measure()
 {
-    widest_ = Widest_Line(lines_.stringList(), font());
+    if (wrapped_)
+        return Wrap();
+    rows_->Set_Wrapper(std::nullopt);
+    rows_->Set_Widest(Widest_Line(lines_.stringList(), font()));
     scheduleDelayedItemsLayout();
+}
+
+void Text_Lines_View::Wrap()
+{
+    wrapped_at_ = viewport()->width();
+    rows_->Set_Wrapper(Line_Wrapper(font(), wrapped_at_ - 2 * Text_Line_Delegate::Margin(*style())));
+    scheduleDelayedItemsLayout();
+}
+
+void Text_Lines_View::resizeEvent(QResizeEvent* event)
+{
+    if (wrapped_ && viewport()->width() != wrapped_at_)
+        Wrap();
+    QListView::resizeEvent(event);
 }
 
 void Text_Lines_View::changeEvent(QEvent* event)

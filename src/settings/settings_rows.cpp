@@ -237,6 +237,7 @@ static std::vector<Settings_Row> Closing_Rows()
         Extension_Row(u"Video List Open"_s, &Extension_Switches::Video_List_Open),
         Extension_Number_Row(u"Video List Height"_s, &Extension_Switches::Video_List_Height, 0, 100'000),
         Extension_Row(u"Tell At The End"_s, &Extension_Switches::Tell_At_The_End),
+        Extension_Row(u"Wrap Log Lines"_s, &Extension_Switches::Wrap_Log_Lines),
     };
 }
 

@@ -59,6 +59,7 @@ struct Extension_Switches
     bool Video_List_Open = true;
     bool Tell_At_The_End = false; ///< a new installation begins with it on
     int Video_List_Height = 0;    ///< in pixels; 0: as much as it takes at first
+    bool Wrap_Log_Lines = false;  ///< of the log viewer
 };
 
 /// The preset that the options were loaded from, or saved as, last.

@@ -8,6 +8,7 @@
 #include "support/run_time_error.h"
 #include "support/shown_text.h"
 #include "support/text.h"
+#include "workbenches/log_find_bar.h"
 #include "workbenches/viewer_place.h"
 #include "workbenches/viewer_text_size.h"
 
@@ -178,8 +179,11 @@ void ProcessLog_Activate(Program& program, frm_ProcessLog& form)
     bool loaded = false;
     Load_vProcessLog(program, form, form.Line_Limit, loaded);
     Show_Text_Size(settings.ProcessLog_Font_Size, form.lbl_FontSize);
-    if (const QString path = std::exchange(program.Videos.To_Show, {}); !path.isEmpty())
+    if (const QString path = std::exchange(program.Videos.To_Show, {}); !path.isEmpty()) {
         Show_Lines_Of(program, form, path);
+        form.Find.Text = As_One_Line(path); // on to its next line
+    }
+    Look_Through_Lines(form);
 }
 
 void ProcessLog_btn_LoadFullLog(Program& program, frm_ProcessLog& form)
@@ -190,6 +194,7 @@ void ProcessLog_btn_LoadFullLog(Program& program, frm_ProcessLog& form)
     Load_vProcessLog(program, form, form.Line_Limit, loaded);
     form.btn_LoadFullLog.Caption = full ? u"Load 500 Lines"_s : u"Load Full Log "_s;
     form.Full_Log_Loaded = full;
+    Look_Through_Lines(form);
     form.Focus = u"btn_Done"_s;
 }
 
@@ -198,6 +203,7 @@ void ProcessLog_btn_Done(Program& program, frm_ProcessLog& form)
     if (program.Form.Topmost_On)
         program.Person.Set_Topmost(true);
     program.Settings.ProcessLog_Box = Viewer_Box(form.Place);
+    form.Find.Open = false;
     form.Activated = false;
     form.Visible = false;
 }
@@ -219,7 +225,9 @@ void ProcessLog_img_FontReset(Program& program, frm_ProcessLog& form)
 
 void ProcessLog_KeyDown(Program& program, frm_ProcessLog& form, int key, bool shift)
 {
-    if (key == Key_Escape || key == Key_Enter || key == Key_Execute)
+    if (key == Key_Escape && form.Find.Open)
+        ProcessLog_Close_Find(form);
+    else if (key == Key_Escape || key == Key_Enter || key == Key_Execute)
         ProcessLog_btn_Done(program, form);
     else if (key == Key_F12)
         Place_Form(shift ? Placement::Over_Main_Form : Placement::Centred, form.Place, program.Form.Shown_Place());

@@ -1,12 +1,21 @@
 #pragma once
 
 #include "support/controls.h"
+#include "workbenches/log_lines.h"
 
 #include <QString>
 #include <QStringList>
 #include <cstdint>
 
 struct Program;
+
+/// What is looked for in the lines that are shown.
+struct Log_Find
+{
+    bool Open = false;     ///< the bar with the box to type in
+    QString Text;          ///< stays when the bar is closed; that of the video whose lines were asked for at first
+    std::vector<int> Rows; ///< that hold it
+};
 
 /// The form that shows the process log, one line a row: the first 500 lines, which are the newest, or all of them.
 /// The text size is kept with the settings (ProcessLog_Font_Size).
@@ -21,11 +30,15 @@ struct frm_ProcessLog
     QString Focus;
     QStringList lst_ProcessLog;
     int Selected_Row = -1;
+    std::vector<Log_Entry_Head> lst_Entries;
+    int Entry_Row = -1; ///< which of them the selected row belongs to; -1: none
+    Log_Find Find;
     Button btn_LoadFullLog{.Caption = QStringLiteral("Load Full Log ")};
     Button btn_Done{.Caption = QStringLiteral("Done")};
     Label lbl_LoadLog{.Caption = QStringLiteral("Loading Full Log"), .Visible = false}; ///< for the 500 lines too
     Label lbl_LogLines;
     Label lbl_FontSize;
+    Label lbl_Place; ///< "Found 3 of 17", "Fault 2 of 5"
 };
 
 /// The form is shown. Only the first call after btn_Done places it and loads the log; the lines of a video that the
@@ -40,7 +53,8 @@ void ProcessLog_btn_Done(Program& program, frm_ProcessLog& form);
 void ProcessLog_img_FontInc(Program& program, frm_ProcessLog& form);
 void ProcessLog_img_FontDec(Program& program, frm_ProcessLog& form);
 void ProcessLog_img_FontReset(Program& program, frm_ProcessLog& form);
-/// Esc and Enter are btn_Done, F12 centres the form on the main form, Shift+F12 lays it over it.
+/// Esc and Enter are btn_Done, but Esc closes an open find bar first; F12 centres the form on the main form, Shift+F12
+/// lays it over it.
 void ProcessLog_KeyDown(Program& program, frm_ProcessLog& form, int key, bool shift);
 
 /// The first lines of a text file, `limit` + 1 of them at most; ends of CR LF, LF and CR alike. Error 6 at the
