@@ -99,7 +99,11 @@ static FileInfo Stream_Record(const Tool_Json& stream, const QString& kind)
     record.DefaultFlag = Flag_Of(stream, "default");
     record.ForcedFlag = Flag_Of(stream, "forced");
     record.AttachedPic = Flag_Of(stream, "attached_pic");
-    if (kind != "audio"_L1) {
+    if (kind == "attachment"_L1)
+        record.FileName = Tag_Of(stream, u"filename"_s);
+    if (kind == "audio"_L1) {
+        record.Channels = Value_Of(stream, "channels");
+    } else {
         record.Width = Value_Of(stream, "width");
         record.Height = Value_Of(stream, "height");
     }

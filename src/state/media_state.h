@@ -8,7 +8,7 @@
 /// key leaves its field empty.
 struct FileInfo
 {
-    QString FileName;    ///< file record: the path as ffprobe echoes it
+    QString FileName;    ///< file record: the path as ffprobe echoes it; an attachment's name where read as JSON
     QString Title;       ///< title tag
     QString Duration;    ///< file record: seconds with fraction; streams too where the probe was read as JSON
     QString StreamType;  ///< "video", "audio", "subtitle", "attachment" or "File_Info"; empty: slot not used, track out
@@ -28,8 +28,9 @@ struct FileInfo
 
     QString SampleAspect = {}; ///< video: "1:1", "16:15"
     // Filled where the probe was read as JSON only.
-    QString Id = {};      ///< streams: the container's own number of the track ("0x1e0")
-    bool Literal = false; ///< the texts are as the file has them: nothing in them is escaped
+    QString Id = {};       ///< streams: the container's own number of the track ("0x1e0")
+    QString Channels = {}; ///< audio: how many
+    bool Literal = false;  ///< the texts are as the file has them: nothing in them is escaped
 };
 
 /// The records of the one file in work; element 0 is the file record. Never without an entry.

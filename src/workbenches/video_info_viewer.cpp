@@ -8,8 +8,10 @@
 #include "support/failure_box.h"
 #include "support/form_placement.h"
 #include "support/paths.h"
+#include "support/shown_text.h"
 #include "support/text.h"
 #include "support/whole_file.h"
+#include "workbenches/video_tracks.h"
 #include "workbenches/viewer_place.h"
 #include "workbenches/viewer_text_size.h"
 
@@ -69,6 +71,8 @@ void ViewVFI_Activate(Program& program, frm_ViewVFI& form)
     Place_Viewer(form.Place, program.Form.Shown_Place(), settings.ViewVFI_Box, settings.ViewVFI_Not_First_Run);
     form.lst_VideoFiles.clear();
     form.List_Index = -1;
+    form.Picked.clear();
+    Forget_Tracks(form);
     form.txt_VideoInfo.clear();
     form.lbl_FileName.Caption.clear();
     form.shp_VideoInfo.Visible = false;
@@ -81,7 +85,7 @@ void ViewVFI_Activate(Program& program, frm_ViewVFI& form)
     if (to_show.isEmpty())
         return;
     if (row >= 0)
-        ViewVFI_lst_VideoFiles_Click(program, form, static_cast<int>(row));
+        ViewVFI_Pick(program, form, Marked_In_List(program, form, static_cast<int>(row)), static_cast<int>(row));
     else // it lies in a folder below
         ViewVFI_txt_VideoInfo_Drop(program, form, {.Has_File_List = true, .Paths = {to_show}});
 }
@@ -89,6 +93,8 @@ void ViewVFI_Activate(Program& program, frm_ViewVFI& form)
 void ViewVFI_lst_VideoFiles_Click(Program& program, frm_ViewVFI& form, int index)
 {
     form.List_Index = index;
+    form.Picked.assign(index >= 0 ? 1 : 0, index);
+    Want_Tracks(program, form);
     if (!Identifying_Tool_Runs(program))
         return;
     const QString name = form.lst_VideoFiles.value(index);
@@ -115,6 +121,8 @@ void ViewVFI_txt_VideoInfo_Drop(Program& program, frm_ViewVFI& form, const Drop_
     form.shp_VideoInfo.Visible = true;
     form.lbl_FileName.Caption = path;
     form.List_Index = -1;
+    form.Picked.clear();
+    Want_Tracks(program, form);
 }
 
 void ViewVFI_btn_ShowCodecData(Program& program, frm_ViewVFI& form)
@@ -128,8 +136,10 @@ void ViewVFI_btn_ShowCodecData(Program& program, frm_ViewVFI& form)
 
 void ViewVFI_btn_SaveToFile(Program& program, frm_ViewVFI& form)
 {
+    const QString file = Video_Info_File(form.Shown_File);
     try {
-        Write_Whole_File(Video_Info_File(form.Shown_File), form.txt_VideoInfo.toUtf8());
+        Write_Whole_File(file, form.txt_VideoInfo.toUtf8());
+        form.lbl_Told.Caption = u"Saved as "_s + Printable(file);
     } catch (const Run_Time_Error& error) {
         program.Person.Show_Message(Failure_Box(
             u"The video info could not be saved"_s, error,

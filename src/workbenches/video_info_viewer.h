@@ -1,12 +1,24 @@
 #pragma once
 
 #include "support/controls.h"
+#include "workbenches/track_table.h"
 
 #include <QString>
 #include <QStringList>
 
 struct Drop_Data;
 struct Program;
+
+/// The tab with the tracks of what is picked.
+struct Track_Tab
+{
+    bool In_Front = false;                  ///< only then the tools are asked
+    QStringList Wanted;                     ///< full paths of the videos, in their order
+    std::size_t Asked = 0;                  ///< so many of them have an answer
+    std::map<QString, Asked_Video> Answers; ///< by path, of all that were asked while the form is open
+    Track_Table Table;                      ///< of those that have an answer
+    bool Stop = false;                      ///< the tool that is asked now is to end
+};
 
 /// The form that shows mkvmerge's identification of one video, picked from the source folder's list or dropped on the
 /// text. The text size is kept with the settings (ViewVFI_Font_Size).
@@ -20,6 +32,7 @@ struct frm_ViewVFI
     QString Shown_File; ///< full path
     QStringList lst_VideoFiles;
     int List_Index = -1;
+    std::vector<int> Picked; ///< rows of the list, from above; List_Index is one of them
     QString txt_VideoInfo;
     Label lbl_FileName; ///< path of a dropped file; empty for one of the list
     Label lbl_DroppedFileName{.Caption = QStringLiteral("Dropped File Path/Name")};
@@ -28,6 +41,8 @@ struct frm_ViewVFI
     Button btn_SaveToFile{.Caption = QStringLiteral("Save to Text File"), .Enabled = false};
     Button btn_Done{.Caption = QStringLiteral("Done")};
     Label lbl_FontSize;
+    Label lbl_Told; ///< where the text was saved; what the tracks' table comes to
+    Track_Tab Tracks;
 };
 
 /// The form is made: nothing is shown, codec-private values are hidden.
@@ -41,7 +56,8 @@ void ViewVFI_lst_VideoFiles_Click(Program& program, frm_ViewVFI& form, int index
 void ViewVFI_txt_VideoInfo_Drop(Program& program, frm_ViewVFI& form, const Drop_Data& data);
 /// Shows or hides the codec-private values of the file shown.
 void ViewVFI_btn_ShowCodecData(Program& program, frm_ViewVFI& form);
-/// Writes the text to a file beside the one shown; the run-time error of the file operation if it can't.
+/// Writes the text to a file beside the one shown, and says where; the run-time error of the file operation if it
+/// can't.
 void ViewVFI_btn_SaveToFile(Program& program, frm_ViewVFI& form);
 void ViewVFI_btn_Done(Program& program, frm_ViewVFI& form);
 void ViewVFI_img_FontInc(Program& program, frm_ViewVFI& form);

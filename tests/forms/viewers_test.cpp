@@ -2,6 +2,7 @@
 #include "common/stand_in_tool.h"
 #include "forms/drop_text.h"
 #include "forms/form_test.h"
+#include "forms/line_wrapper.h"
 #include "forms/looks.h"
 #include "forms/text_lines_view.h"
 #include "tools/tool_discovery.h"
@@ -11,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QScrollBar>
+#include <QTableView>
 
 namespace {
 
@@ -121,6 +123,90 @@ TEST_F(Log_Form, TheLongestLineCanBeScrolledToItsEndAtEverySize)
         }
         EXPECT_EQ(Window.Prog().Settings.ProcessLog_Font_Size, QFontInfo(Window.Form().font()).pointSize() + 1);
     });
+}
+
+TEST_F(Log_Form, ATextAFaultAndAnEntryAreReachedByKeys)
+{
+    Start();
+    const QByteArray entry = "This entry generated on - Nov/21/2026 08:15:00 AM local time by V\r\n" +
+                             QByteArray("-- a Film \r\n").repeated(60) + "*** Not processed: it is odd\r\n";
+    Window.Files.Write(u"app/Vantorra_Process.log"_s, entry.repeated(2) + QByteArray(400, 'x') + " needle");
+    Look([&](QWidget& form) {
+        const auto row = [&form] { return Lines(form).currentIndex().row(); };
+        const auto place = [&form] { return In<QLabel>(form, "lbl_Place").text(); };
+        auto& field = In<QLineEdit>(form, "txt_Find");
+        EXPECT_FALSE(field.isVisible());
+        Press(form, Qt::Key_F8);
+        EXPECT_EQ(row(), 61);
+        EXPECT_EQ(place(), u"Fault 1 of 2");
+        Press(form, Qt::Key_F8, Qt::ShiftModifier);
+        EXPECT_EQ(row(), 123);
+        In<QListView>(form, "lst_Entries").setFocus();
+        Press(form, Qt::Key_Up);
+        EXPECT_EQ(row(), 0);
+        EXPECT_EQ(In<QListView>(form, "lst_Entries").currentIndex().data().toString(), u"Nov/21/2026 08:15:00 AM");
+
+        Press(form, Qt::Key_F, Qt::ControlModifier);
+        ASSERT_TRUE(field.hasFocus());
+        QTest::keyClicks(&field, u"needle"_s);
+        EXPECT_EQ(row(), 124);
+        EXPECT_EQ(place(), u"Found 1 of 1");
+        EXPECT_GT(Lines(form).horizontalScrollBar()->value(), 0) << "it stands far to the right";
+        field.selectAll();
+        QTest::keyClicks(&field, u"fILM"_s);
+        EXPECT_EQ(row(), 1) << "round the end";
+        Press(form, Qt::Key_Return);
+        Press(form, Qt::Key_F3);
+        EXPECT_EQ(place(), u"Found 3 of 120");
+        Press(form, Qt::Key_Return, Qt::ShiftModifier);
+        Press(form, Qt::Key_F3, Qt::ShiftModifier);
+        EXPECT_EQ(row(), 1);
+        Press(form, Qt::Key_Escape);
+        EXPECT_TRUE(form.isVisible() && !field.isVisible() && Lines(form).hasFocus());
+
+        Lines(form).setCurrentIndex(Lines(form).model()->index(124, 0));
+        const auto height = [&form] { return Lines(form).visualRect(Lines(form).currentIndex()).height(); };
+        const int one = height();
+        Push(form, "chk_WrapLines");
+        QCoreApplication::processEvents();
+        EXPECT_GT(height(), 2 * one);
+        EXPECT_EQ(Lines(form).horizontalScrollBar()->maximum(), 0);
+        form.grab();
+        Push(form, "chk_WrapLines");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(height(), one);
+        form.close();
+    });
+}
+
+TEST(Line_Wrapping, PiecesFitAndAreTheLine)
+{
+    const QFont font = Fixed_Font();
+    const QFontMetricsF metrics(font);
+    const int width = static_cast<int>(metrics.horizontalAdvance(QString(20, u'x'))) + 1;
+    const Line_Wrapper wrapper(font, width);
+    for (const QString& line : {u""_s, QString(20, u'x'), QString(61, u'x'), u"    one two three four five six"_s,
+                                QString(99, u' '), u"  "_s + QString(50, u'\u5B57'), QString(30, u' ') + u"far in"_s}) {
+        const QStringList pieces = wrapper.Pieces(line);
+        EXPECT_EQ(pieces.join(QString()), line);
+        EXPECT_EQ(wrapper.Count(line), pieces.size());
+        for (QString piece : pieces)
+            EXPECT_LE(metrics.horizontalAdvance(piece.trimmed()), width) << piece.toStdString();
+    }
+    EXPECT_EQ(wrapper.Pieces(u"  one two three four five"_s), (QStringList{u"  one two three four "_s, u"five"_s}));
+}
+
+TEST(Looks, WhatIsColouredReadsOnEveryGround)
+{
+    for (const auto& [window, ground, text] :
+         {std::tuple(0xffefefef, 0xffffffff, 0xff232629), std::tuple(0xff31363b, 0xff232629, 0xffeff0f1)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, QColor::fromRgb(window));
+        palette.setColor(QPalette::WindowText, QColor::fromRgb(text));
+        for (const auto& colour : {Fault_Colour, Mark_Colour, Head_Colour})
+            for (const QRgb below : {window, ground})
+                EXPECT_GE(Contrast(colour(palette), QColor::fromRgb(below)), 4.5) << std::hex << window << " " << below;
+    }
 }
 
 TEST_F(Info_Form, BothViewersCloseByTheSameKeysAndArePlacedByF12)
@@ -251,6 +337,45 @@ TEST_F(Info_Form, PickDropSwitchAndSaveShowWhatMkvmergeSays)
         EXPECT_FALSE(In(form, "btn_ShowCodecData").isEnabled());
     });
     EXPECT_TRUE(Window.Person.Boxes.empty());
+    EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(Info_Form, SeveralArePickedAndTheirTracksComparedWhileTheFormStaysAlive)
+{
+    Start();
+    Place(Window.Files, Rich_Video(), u"videos/a.mkv"_s);
+    for (const char* name : {"videos/b.mkv", "videos/c.mkv"})
+        Place(Window.Files, Short_Video(), QLatin1StringView(name));
+    Look([&](QWidget& form) {
+        const auto told = [&form] { return In<QLabel>(form, "lbl_Told").text(); };
+        auto& table = In<QTableView>(form, "tbl_Tracks");
+        Pick(form, 0);
+        const QString text = Text(form);
+        In<QListView>(form, "lst_VideoFiles").setFocus();
+        Press(form, Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(Text(form), text) << "one of them";
+        EXPECT_EQ(table.model()->rowCount(), 0) << "no tool is asked behind the text";
+        Press(form, Qt::Key_R, Qt::AltModifier);
+        ASSERT_TRUE(Wait_Until([&] { return told().startsWith(u"3 videos; "_s); })) << told().toStdString();
+        EXPECT_TRUE(told().contains(u"a.mkv"_s)) << told().toStdString();
+        const int rows = table.model()->rowCount();
+        Press(form, Qt::Key_F8);
+        EXPECT_EQ(table.currentIndex().siblingAtColumn(0).data().toString(), u"a.mkv");
+        Push(form, "btn_SaveToFile");
+        EXPECT_EQ(told(), u"Saved as "_s + Window.Files.Path(u"videos/a Video Info.txt"_s));
+        Pick(form, 1);
+        ASSERT_TRUE(Wait_Until([&] { return table.model()->rowCount() < rows; }));
+        EXPECT_TRUE(table.isColumnHidden(0)) << "one video only";
+        EXPECT_EQ(told(), QString());
+
+        // A tool that hangs holds nothing up.
+        Write_Stand_In(Window.Files, u"slow/ffprobe"_s, "exec sleep 30\n");
+        Window.Prog().Tools.FFProbe_Path = Window.Files.Path(u"slow/ffprobe"_s);
+        QTimer::singleShot(200, &form, [&] { Pick(form, 1); });
+        QTimer::singleShot(600, &form, [&] { Press(form, Qt::Key_Escape); });
+        Pick(form, 2);
+        EXPECT_TRUE(Wait_Until([&] { return !form.isVisible(); }));
+    });
     EXPECT_EQ(Children_Left(), 0);
 }
 
