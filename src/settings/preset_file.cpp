@@ -20,9 +20,9 @@ bool Is_Of_Preset(const Settings_Row& row)
                                          u"Paths"_s,
                                          u"Most Recently Used Sources"_s,
                                          u"Most Recently Used Destinations"_s};
-    static const QStringList keys = {u"Menu/Delete Processed File"_s, u"Menu/Delete Source Video Sundry Files"_s,
-                                     u"Extensions/Careful Batch"_s, u"Extensions/Video List Open"_s,
-                                     u"Extensions/Video List Height"_s};
+    static const QStringList keys = {u"Menu/Delete Processed File"_s,   u"Menu/Delete Source Video Sundry Files"_s,
+                                     u"Extensions/Careful Batch"_s,     u"Extensions/Video List Open"_s,
+                                     u"Extensions/Video List Height"_s, u"Extensions/Wrap Log Lines"_s};
     return row.Number != 0 && !row.Default_Is_Form_Place && !sections.contains(row.Section) &&
            !keys.contains(row.Section + u'/' + row.Key);
 }

@@ -7,20 +7,13 @@ using namespace Qt::StringLiterals;
 static constexpr QStringView Head_Words = u"This entry generated on - ";
 
 static constexpr QStringView Fault_Beginnings[] = {
-    u"*** Not processed: ",
-    u"*** the run stopped: ",
-    u"*** The display has gone",
-    u"-- FAILED - ",
-    u"-- Cannot process ",
-    u"-- Failed to create ",
-    u"-- NO VIDEO FILES FOUND!",
-    u"-- No video is ticked",
-    u"-- Source video file KEPT",
-    u"-- The 'Create",
-    u"-- The Target path ",
-    u"-- The Video path ",
-    u"-- WRONG mkvmerge",
-    u"Error: ",
+    u"*** Not processed: ",       u"*** the run stopped: ",
+    u"*** The display has gone",  u"-- FAILED - ",
+    u"-- Cannot process ",        u"-- Failed to create ",
+    u"-- NO VIDEO FILES FOUND!",  u"-- No video is ticked",
+    u"-- Source video file KEPT", u"-- The 'Create",
+    u"-- The Target path ",       u"-- The Video path ",
+    u"-- WRONG mkvmerge",         u"Error: ",
 };
 
 /// What the reports of a video that is given up end with.

@@ -49,7 +49,7 @@ TEST(Presets, HoldEveryRowButFoldersPlacesToolsAndWhatDecidesOverSources)
               "View Video File Info/Not First Run Menu/Delete Processed File Menu/Delete Source Video Sundry Files "
               "Most Recently Used Sources/MRU Sources Most Recently Used Destinations/MRU Targets "
               "Extensions/Careful Batch Extensions/Video List Open Extensions/Video List Height "
-              "Experimental/Vantorra Run is Default"_s);
+              "Extensions/Wrap Log Lines Experimental/Vantorra Run is Default"_s);
 }
 
 TEST(Presets, ABrokenOneIsRefusedInWordsThatNameWhatIsWrong)
