@@ -76,7 +76,8 @@ std::vector<Log_Entry_Head> Entry_Heads(const QStringList& lines)
 {
     std::vector<Log_Entry_Head> heads;
     for (qsizetype row = 0; row < lines.size(); ++row)
-        if (lines[row].startsWith(Head_Words))
+        // The first letter alone tells of most lines that they are none.
+        if (const QString& line = lines[row]; line.startsWith(Head_Words.front()) && line.startsWith(Head_Words))
             heads.push_back({static_cast<int>(row), When_Of(lines[row])});
     return heads;
 }
