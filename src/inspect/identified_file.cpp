@@ -13,10 +13,28 @@ static std::optional<std::uint64_t> Whole_Number(const Tool_Json& value)
 
 static Identified_Track Track_Of(const Tool_Json& track)
 {
+    const Tool_Json& properties = Json_Member(track, "properties");
+    const auto text = [&properties](const char* key) { return Json_Text(Json_Member(properties, key)); };
+    const auto is_set = [&properties](const char* key) { return Json_Member(properties, key) == Tool_Json(true); };
     return {.Id = static_cast<int>(Whole_Number(Json_Member(track, "id")).value_or(0)),
             .Type = Json_Text(Json_Member(track, "type")),
             .Codec = Json_Text(Json_Member(track, "codec")),
-            .Number = Whole_Number(Json_Member(Json_Member(track, "properties"), "number"))};
+            .Number = Whole_Number(Json_Member(properties, "number")),
+            .Name = text("track_name"),
+            .Language = text("language"),
+            .Language_Tag = text("language_ietf"),
+            .Display_Size = text("display_dimensions"),
+            .Default = is_set("default_track"),
+            .Forced = is_set("forced_track")};
+}
+
+/// The tracks that have tags say so beside the tracks.
+static void Take_Track_Tags(const Tool_Json& all, std::vector<Identified_Track>& tracks)
+{
+    for (const Tool_Json& tags : Json_Member(all, "track_tags"))
+        for (Identified_Track& track : tracks)
+            if (Json_Member(tags, "track_id") == Tool_Json(track.Id))
+                track.Has_Tags = true;
 }
 
 std::optional<Identified_File> Parse_Identification(const QByteArray& json)
@@ -31,6 +49,8 @@ std::optional<Identified_File> Parse_Identification(const QByteArray& json)
     file.Container = Json_Text(Json_Member(container, "type"));
     for (const Tool_Json& track : Json_Member(value, "tracks"))
         file.Tracks.push_back(Track_Of(track));
+    Take_Track_Tags(value, file.Tracks);
+    file.Title = Json_Text(Json_Member(Json_Member(container, "properties"), "title"));
     for (const Tool_Json& attachment : Json_Member(value, "attachments"))
         file.Attachments += u"%1, %2 bytes"_s.arg(Json_Text(Json_Member(attachment, "file_name")),
                                                   Json_Text(Json_Member(attachment, "size")));

@@ -16,6 +16,13 @@ struct Identified_Track
     QString Type; ///< "video", "audio", "subtitles" or "buttons"
     QString Codec;
     std::optional<std::uint64_t> Number; ///< the container's own number
+    QString Name = {};
+    QString Language = {};     ///< three letters; empty: not stated
+    QString Language_Tag = {}; ///< by BCP 47; empty: not stated
+    QString Display_Size = {}; ///< "1920x1080"
+    bool Default = false;
+    bool Forced = false;
+    bool Has_Tags = false;
 };
 
 /// What mkvmerge's JSON identification says about a file, as far as a run goes by it.
@@ -23,6 +30,7 @@ struct Identified_File
 {
     bool Readable = false; ///< mkvmerge knows the container and can read it
     QString Container;
+    QString Title = {};
     std::vector<Identified_Track> Tracks;
     QStringList Attachments; ///< "NAME, N bytes" each, in the file's order
     int Chapters = 0;        ///< all editions' entries

@@ -246,6 +246,11 @@ void mnu_LanguageFromFileName_Click(Program& program)
     Flip(program, program.Settings.Extensions.Language_From_File_Name);
 }
 
+void mnu_SkipWhatWouldNotChange_Click(Program& program)
+{
+    Flip(program, program.Settings.Extensions.Skip_What_Would_Not_Change);
+}
+
 void mnu_RunButtonFollowsFolders_Click(Program& program)
 {
     Flip(program, program.Settings.Extensions.Run_Button_Follows_Folders);
@@ -316,6 +321,9 @@ const std::vector<Menu_Tick>& Menu_Ticks()
         {u"mnu_LanguageFromFileName"_s, u"Language From File Name"_s,
          [](const Program& program) { return program.Settings.Extensions.Language_From_File_Name; },
          mnu_LanguageFromFileName_Click},
+        {u"mnu_SkipWhatWouldNotChange"_s, u"Skip What Would Not Change"_s,
+         [](const Program& program) { return program.Settings.Extensions.Skip_What_Would_Not_Change; },
+         mnu_SkipWhatWouldNotChange_Click},
         {u"mnu_RunButtonFollowsFolders"_s, u"Run Button Follows Folders"_s,
          [](const Program& program) { return program.Settings.Extensions.Run_Button_Follows_Folders; },
          mnu_RunButtonFollowsFolders_Click},

@@ -47,6 +47,7 @@ void mnu_AtOnce8_Click(Program& program);
 void mnu_IncludeSubfolders_Click(Program& program);
 void mnu_SensibleNamesAndSizes_Click(Program& program);
 void mnu_LanguageFromFileName_Click(Program& program);
+void mnu_SkipWhatWouldNotChange_Click(Program& program);
 void mnu_RunButtonFollowsFolders_Click(Program& program);
 void mnu_DeleteSourceOnlyAfterSuccess_Click(Program& program);
 void mnu_IdentifyWithAnyMkvmerge_Click(Program& program);

@@ -59,7 +59,7 @@ static bool Ask_To_Go_On(Video_Work& work)
 
 static bool Prepare(Video_Work& work)
 {
-    return Inspect(work) && Assemble(work) && Ask_To_Go_On(work);
+    return Inspect(work) && Assemble(work) && Is_To_Change(work) && Ask_To_Go_On(work);
 }
 
 /// Looks for more that is amiss; what came first stays the reason.

@@ -2,6 +2,7 @@
 
 #include "command/attachments.h"
 #include "command/command_frame.h"
+#include "command/nothing_to_change.h"
 #include "command/source_names.h"
 #include "command/split_command.h"
 #include "inspect/chapter_check.h"
@@ -177,6 +178,22 @@ bool Assemble(Video_Work& work)
     if (program.Listener)
         program.Listener->Command_Ready(program, source, work.Outcome.Output);
     return true;
+}
+
+bool Is_To_Change(Video_Work& work)
+{
+    Program& program = work.Prog;
+    const bool may_be_right = work.Outcome.Source.endsWith(".mkv"_L1, Qt::CaseInsensitive) && !work.Split;
+    // A warning may be of something that was to be done and can't.
+    if (!program.Settings.Extensions.Skip_What_Would_Not_Change || !may_be_right || !work.Outcome.Warnings.isEmpty())
+        return true;
+    QString why_not;
+    const std::optional<Identified_File> source = Identify_Tracks(program, work.Outcome.Source, why_not);
+    if (program.Run.Halt_Requested)
+        return Halted(work);
+    if (!source || !Would_Change_Nothing(program.Run.Mkvmerge_Arguments.Arguments(), *source))
+        return true;
+    return Give_Up(work, File_Outcome::Kind::Skipped, u"nothing to change"_s);
 }
 
 /// What the other videos in work still need of the room below the target folder, in bytes.

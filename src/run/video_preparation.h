@@ -19,5 +19,8 @@ bool Inspect(Video_Work& work);
 /// Assembles the command for the final name, and tells what is amiss with it.
 bool Assemble(Video_Work& work);
 
+/// With "Skip What Would Not Change" on: false for an .mkv that the assembled command would make anew as it is.
+bool Is_To_Change(Video_Work& work);
+
 /// What would fail after hours is tried now: the room, and the names. A dry run ends here.
 bool Look_Ahead(Video_Work& work);

@@ -231,6 +231,7 @@ static std::vector<Settings_Row> Closing_Rows()
         Extension_Row(u"Include Subfolders"_s, &Extension_Switches::Include_Subfolders),
         Extension_Row(u"Sensible Names And Sizes"_s, &Extension_Switches::Sensible_Names_And_Sizes),
         Extension_Row(u"Language From File Name"_s, &Extension_Switches::Language_From_File_Name),
+        Extension_Row(u"Skip What Would Not Change"_s, &Extension_Switches::Skip_What_Would_Not_Change),
         Extension_Row(u"Run Button Follows Folders"_s, &Extension_Switches::Run_Button_Follows_Folders),
         Extension_Row(u"Delete Source Only After Success"_s, &Extension_Switches::Delete_Source_Only_After_Success),
         Extension_Row(u"Identify With Any mkvmerge"_s, &Extension_Switches::Identify_With_Any_Mkvmerge),

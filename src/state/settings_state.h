@@ -53,6 +53,7 @@ struct Extension_Switches
     bool Include_Subfolders = false; ///< careful: the folders below the videos' folder are walked, too
     bool Sensible_Names_And_Sizes = false;
     bool Language_From_File_Name = false; ///< an added file's name tells what neither option file nor sticky value does
+    bool Skip_What_Would_Not_Change = false; ///< careful: an .mkv that would come out as it is isn't made anew
     bool Run_Button_Follows_Folders = true;
     bool Delete_Source_Only_After_Success = false;
     bool Identify_With_Any_Mkvmerge = true;
