@@ -2,6 +2,7 @@
 
 #include "forms/elided_label.h"
 #include "forms/looks.h"
+#include "forms/run_queue_view.h"
 #include "forms/slot_guard.h"
 #include "life/video_commands.h"
 #include "rules/video_list.h"
@@ -51,6 +52,8 @@ Video_List_View::Video_List_View(Program& program, Slot_Guard& guard, QWidget* o
     }
     table.installEventFilter(this);
     ui_->txt_VideoFilter->installEventFilter(this);
+    queue_ = new Run_Queue_View(program, guard, this);
+    ui_->lay_Videos->addWidget(queue_);
     recount_.setSingleShot(true);
     recount_.setInterval(Recount_Ms);
     look_.setSingleShot(true);
@@ -188,7 +191,7 @@ QList<QWidget*> Video_List_View::In_Tab_Order() const
     QList<QWidget*> order{ui_->btn_Videos};
     for (QToolButton* chip : chips_)
         order += chip;
-    return order + QList<QWidget*>{ui_->txt_VideoFilter, ui_->tbl_Videos};
+    return order + QList<QWidget*>{ui_->txt_VideoFilter, ui_->tbl_Videos} + queue_->In_Tab_Order();
 }
 
 /// The pointer is on the tick box of a cell.
@@ -322,6 +325,7 @@ void Video_List_View::Render()
         Enable_Commands();
     }
     Follow_Work();
+    queue_->Render(Is_Open());
     ui_->lbl_ListNote->Set_Text(list.Notes.join(u' '));
     if (list.Recount_Journal && !look_.isActive())
         look_.start();

@@ -9,6 +9,7 @@
 #include <memory>
 
 class QToolButton;
+class Run_Queue_View;
 class Slot_Guard;
 struct Program;
 
@@ -66,6 +67,7 @@ class Video_List_View : public QWidget
     std::unique_ptr<Ui::Video_List> ui_;
     Video_List_Model model_;
     std::array<QToolButton*, 9> chips_{};
+    Run_Queue_View* queue_ = nullptr;
     QFileSystemWatcher watcher_;
     QTimer recount_;            ///< the folder has changed on the disk
     QTimer look_;               ///< the options have changed

@@ -28,12 +28,13 @@ bool Window_Drop_Target::eventFilter(QObject*, QEvent* event)
     case QEvent::DragMove:
     case QEvent::Drop: {
         auto& drop = static_cast<QDropEvent&>(*event);
-        const bool taken = !program_.Run.Press_In_Work;
+        const bool idle = !program_.Run.Press_In_Work;
+        const bool taken = idle || (program_.Run.Run_In_Progress && !program_.Run.Checking);
         if (event->type() == QEvent::DragEnter)
             is_preset_ = Is_Preset_Drop(Drop_Data_Of(drop.mimeData()->urls()));
         drop.setDropAction(Qt::CopyAction);
         drop.setAccepted(taken);
-        panel_.Show_Hover(taken && event->type() != QEvent::Drop && !is_preset_);
+        panel_.Show_Hover(idle && event->type() != QEvent::Drop && !is_preset_);
         if (taken && event->type() == QEvent::Drop)
             guard_.Call([&] { Drop_On_Window(program_, Drop_Data_Of(drop.mimeData()->urls())); });
         return true;

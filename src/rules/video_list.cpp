@@ -167,11 +167,10 @@ void Take_In_Or_Leave_Out(Program& program)
         Set_Tick(list, number, take_in);
 }
 
-/// What the next run would look at, in its order.
-static QStringList Paths_On_Disk(const Program& program)
+/// What a run over that folder would look at, in its order.
+static QStringList Paths_On_Disk(const Program& program, const QString& videos)
 {
     const Extension_Switches& extensions = program.Settings.Extensions;
-    const QString& videos = program.Options.Path_Videos;
     const QStringList folders = extensions.Careful_Batch && extensions.Include_Subfolders
                                     ? Find_Subfolders(videos, program.Options.Path_Target).Paths
                                     : QStringList{QString()};
@@ -189,10 +188,15 @@ static QStringList Paths_On_Disk(const Program& program)
     return paths;
 }
 
+int Videos_In_Folder(const Program& program, const QString& folder)
+{
+    return static_cast<int>(Paths_On_Disk(program, folder).size());
+}
+
 void Recount_Videos_Folder(Program& program)
 {
     if (!program.Run.Press_In_Work && program.Videos.Folder == program.Options.Path_Videos)
-        Recount_Videos(program.Videos, Paths_On_Disk(program));
+        Recount_Videos(program.Videos, Paths_On_Disk(program, program.Options.Path_Videos));
 }
 
 bool Follow_Videos_Folder(Program& program)
@@ -210,7 +214,8 @@ bool Follow_Videos_Folder(Program& program)
         return false;
     list.With_Subfolders = below;
     Fill_Videos(list, program.Options.Path_Videos,
-                program.Options.Path_Videos.isEmpty() ? QStringList() : Paths_On_Disk(program));
+                program.Options.Path_Videos.isEmpty() ? QStringList()
+                                                      : Paths_On_Disk(program, program.Options.Path_Videos));
     return true;
 }
 

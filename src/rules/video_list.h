@@ -45,6 +45,9 @@ void Tick_Video(Program& program, int number);
 /// Takes in what is marked, if any of it is left out; else leaves all of it out.
 void Take_In_Or_Leave_Out(Program& program);
 
+/// How many videos a run over that folder would look at, by the settings as they are.
+int Videos_In_Folder(const Program& program, const QString& folder);
+
 /// The videos' folder as it is on the disk; called when it may have changed. Nothing while a run or a check goes on.
 void Recount_Videos_Folder(Program& program);
 

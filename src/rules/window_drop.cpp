@@ -3,6 +3,7 @@
 #include "inspect/video_names.h"
 #include "rules/folder_changes.h"
 #include "rules/presets.h"
+#include "rules/run_queue.h"
 #include "rules/video_list.h"
 #include "state/program.h"
 #include "support/drop_data.h"
@@ -98,6 +99,8 @@ static QString Tick_All(Video_List& list)
 
 void Drop_On_Window(Program& program, const Drop_Data& data)
 {
+    if (program.Run.Run_In_Progress && !program.Run.Checking)
+        return Drop_In_Run(program, data);
     if (program.Run.Press_In_Work)
         return;
     if (Is_Preset_Drop(data)) {

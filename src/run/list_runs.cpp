@@ -1,9 +1,11 @@
 #include "run/list_runs.h"
 
+#include "rules/run_queue.h"
 #include "rules/video_list.h"
 #include "run/earlier_results.h"
 #include "run/journal.h"
 #include "state/program.h"
+#include "support/shown_text.h"
 
 #include <QScopeGuard>
 #include <optional>
@@ -41,11 +43,28 @@ static void Look_After_Run(Program& program)
     Set_List_Buttons(program);
 }
 
-/// Behind a run come the boxes of a classic one; and one that came to its end may take the program with it.
+/// The next folder of the queue is run, and what became of the last one stays told above its list.
+static Press_Result Run_Next(Program& program)
+{
+    const QString last = As_One_Line(program.Videos.Folder) + u": "_s + program.Form.lbl_RunSummary.Caption;
+    const QStringList notes = std::exchange(program.Videos.Notes, {});
+    const bool taken = Take_Next_Queued(program);
+    program.Videos.Notes = notes + (taken ? QStringList{last} : QStringList()) + program.Videos.Notes;
+    return taken ? Run_Choice_Of(program, {.Names = Ticked(program)}, {}) : Press_Result::Finished;
+}
+
+/// Behind a run come the boxes of a classic one, and what was queued; and one that came to its end may take the program
+/// with it.
 static void Close_Run(Program& program, Press_Result result)
 {
     Look_After_Run(program);
     Show_Run_Warnings(program);
+    while (result == Press_Result::Finished && !program.Queue.Runs.empty()) {
+        result = Run_Next(program);
+        Look_After_Run(program);
+        Show_Run_Warnings(program);
+    }
+    Give_Up_Queue(program);
     if (result == Press_Result::Finished && program.Form.Quit_When_Done)
         program.Person.Unload_Main_Form();
 }

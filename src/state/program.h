@@ -9,6 +9,7 @@
 #include "state/media_state.h"
 #include "state/option_editor_state.h"
 #include "state/run_listener.h"
+#include "state/run_queue.h"
 #include "state/run_state.h"
 #include "state/settings_state.h"
 #include "state/tool_paths.h"
@@ -44,6 +45,7 @@ struct Program
     ::Companions Companions;
     Run_State Run;
     Video_List Videos;
+    Run_Queue Queue;
     Log_Buffers Logs;
     LanguageTable Language_Table;
     Option_Editor Option_Files;       ///< frm_OptionsFiles

@@ -2,10 +2,13 @@
 #include "common/stand_in_tool.h"
 #include "forms/progress_box.h"
 #include "forms/test_window.h"
+#include "rules/run_queue.h"
 #include "rules/video_texts.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QListWidget>
+#include <QMessageBox>
 
 static void Choose_In(const QWidget& question, const QString& words)
 {
@@ -202,6 +205,56 @@ TEST_F(Window_Run, InALongCarefulRunAHaltAsksOnceAndHoldsNothingUp)
     EXPECT_TRUE(Halt_Late().startsWith(u"Not run|"_s));
     EXPECT_TRUE(Window.Person.Forms.isEmpty()) << "a classic run halts as it ever did";
     EXPECT_EQ(Children_Left(), 0);
+}
+
+TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
+{
+    Prepare();
+    Place_Waiting_Videos();
+    const QString season = Place(Window.Files, Short_Video(), u"season/4.mkv"_s).chopped(6);
+    for (const QString& name : {u"empty"_s, u"mistake"_s})
+        QDir().mkpath(Window.Files.Path(name));
+    auto& queue = Window.Get<QListWidget>("lst_Queue");
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        if (auto* box = Window.Form().findChild<QMessageBox*>(u"frm_QueueQuestion"_s); box && box->isVisible())
+            Choose_In(*box, u"&Run it next"_s);
+        if (queue.count() == 3) {
+            EXPECT_TRUE(queue.isVisible());
+            EXPECT_EQ(queue.item(1)->text(), u"Next: "_s + season + u" (1 video)"_s);
+            queue.setCurrentRow(2);
+            Click_On(Window.Get("btn_Unqueue"));
+        }
+        if (queue.count() == 2 || Window.Prog().Options.Path_Videos == season)
+            Window.Files.Write(u"go"_s);
+    });
+    look.start(20);
+    Run_And([&] {
+        EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"target"_s)}));
+        EXPECT_EQ(Window.Prog().Form.lbl_Notice.Caption, u"That folder is the target."_s);
+        EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"empty"_s), season, Window.Files.Path(u"mistake"_s)}));
+    });
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/3.mkv"_s)));
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/4.mkv"_s)));
+    EXPECT_FALSE(queue.isVisible());
+    const QStringList& notes = Window.Prog().Videos.Notes;
+    ASSERT_EQ(notes.size(), 2) << notes.join(u' ').toStdString();
+    EXPECT_TRUE(notes[0].contains(u"/empty/"_s)) << "passed over";
+    EXPECT_TRUE(notes[1].contains(u"3 done"_s)) << notes[1].toStdString();
+}
+
+TEST_F(Window_Run, AHaltGivesUpWhatWasToBeRunNext)
+{
+    Prepare();
+    Place_Slow_Video();
+    Place(Window.Files, Short_Video(), u"season/4.mkv"_s);
+    Run_And([&] {
+        Drop_On(Window.Form(), {Window.Files.Path(u"season"_s)});
+        Answer_Queue_Question(Window.Prog(), true);
+        Press(Window.Form(), Qt::Key_Escape);
+    });
+    EXPECT_FALSE(QFile::exists(Window.Files.Path(u"target/4.mkv"_s)));
+    EXPECT_EQ(Window.Prog().Videos.Notes, QStringList(u"Not run: "_s + Window.Files.Path(u"season/."_s)));
 }
 
 TEST_F(Window_Run, AnErrorInTheMiddleOfARunReapsTheChildAndEndsTheProgram)
