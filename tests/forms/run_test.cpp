@@ -211,12 +211,14 @@ TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
 {
     Prepare();
     Place_Waiting_Videos();
-    const QString season = Place(Window.Files, Short_Video(), u"season/4.mkv"_s).chopped(6);
+    const QString season = Place(Window.Files, Short_Video(), u"season/4.mkv"_s).chopped(5);
     for (const QString& name : {u"empty"_s, u"mistake"_s})
         QDir().mkpath(Window.Files.Path(name));
     auto& queue = Window.Get<QListWidget>("lst_Queue");
     QTimer look;
+    look.setInterval(20);
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        look.stop(); // a click lets events in
         if (auto* box = Window.Form().findChild<QMessageBox*>(u"frm_QueueQuestion"_s); box && box->isVisible())
             Choose_In(*box, u"&Run it next"_s);
         if (queue.count() == 3) {
@@ -227,8 +229,9 @@ TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
         }
         if (queue.count() == 2 || Window.Prog().Options.Path_Videos == season)
             Window.Files.Write(u"go"_s);
+        look.start();
     });
-    look.start(20);
+    look.start();
     Run_And([&] {
         EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"target"_s)}));
         EXPECT_EQ(Window.Prog().Form.lbl_Notice.Caption, u"That folder is the target."_s);
