@@ -18,7 +18,7 @@ static void Count_Bytes(benchmark::State& state)
 static void Builder_Append(benchmark::State& state)
 {
     const QStringView line(Line, static_cast<qsizetype>(Line_Length));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         clsStringBuilder text;
         for (std::size_t count = 0; count < Lines; ++count)
             text.Append(line);
@@ -30,7 +30,7 @@ static void Builder_Append(benchmark::State& state)
 static void QString_Append(benchmark::State& state)
 {
     const QStringView line(Line, static_cast<qsizetype>(Line_Length));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         QString text;
         for (std::size_t count = 0; count < Lines; ++count)
             text.append(line);
@@ -41,7 +41,7 @@ static void QString_Append(benchmark::State& state)
 
 static void U16string_Append(benchmark::State& state)
 {
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         std::u16string text;
         for (std::size_t count = 0; count < Lines; ++count)
             text.append(Line, Line_Length);

@@ -123,7 +123,7 @@ static void Run_Mkvmerge_Reading(benchmark::State& state, const char* line)
     Times plain;
     Times ours;
     const double peak = Peak_Megabytes();
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const Times loop = Times_Of([&] { benchmark::DoNotOptimize(Plain_Loop(line)); });
         const Times once = Times_Of([&] { Run_Mkvmerge(program, Own_Path(), command); });
         plain = {plain.Wall + loop.Wall, plain.Busy + loop.Busy};

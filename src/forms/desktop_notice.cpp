@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-void Show_Desktop_Notice(QDBusConnection bus, QWidget& window, const QString& title, const QString& text)
+void Show_Desktop_Notice(const QDBusConnection& bus, QWidget& window, const QString& title, const QString& text)
 {
     if (!bus.isConnected()) {
         QApplication::alert(&window);

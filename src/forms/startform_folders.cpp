@@ -52,7 +52,8 @@ void Startform::Connect_Typing()
          ui_->btn_BrowseChapters},
         {Folder_Box::Target, "txt_TargetPath", ui_->ulbl_TargetPath, ui_->lbl_TargetPathTitle, ui_->img_TargetMRU}};
 
-    for (const auto& [box, name, shown, title, next] : boxes) {
+    for (const auto& [which, name, shown, title, next] : boxes) {
+        const Folder_Box box = which; // a lambda can't capture what a binding names
         Path_Edit_Rules rules{
             .Look = [this, box](const QString& text) { Look_At_Typing(program_, box, text); },
             .Enter = [this, box](const QString& text) { return Enter_Typing(program_, box, text); },

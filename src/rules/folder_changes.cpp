@@ -162,7 +162,7 @@ static QString Browse_For(Program& program, const QString& path, const QString& 
     QString start = Nearest_Folder(path.isEmpty() ? program.Form.Picked_Last : path);
     if (start.isEmpty())
         start = program.Settings.App_Folder;
-    const QString chosen = With_Separator(program.Person.Pick_Folder(title, start));
+    QString chosen = With_Separator(program.Person.Pick_Folder(title, start));
     if (!chosen.isEmpty())
         program.Form.Picked_Last = chosen;
     return chosen;

@@ -23,7 +23,7 @@ static QString Unquoted(const QString& text)
         QUrl url(plain);
         if (url.host() == "localhost"_L1)
             url.setHost({});
-        if (const QString path = url.toLocalFile(); !path.isEmpty())
+        if (QString path = url.toLocalFile(); !path.isEmpty())
             return path;
     }
     return plain;
@@ -55,7 +55,7 @@ QString Path_Of_Typing(const QString& text, const QString& base)
 {
     const QString plain = Unquoted(text);
     for (const QString& reading : {text, plain, Without_Backslashes(plain)})
-        if (const QString path = From_Root(reading, base); !Folder_Of(path).isEmpty())
+        if (QString path = From_Root(reading, base); !Folder_Of(path).isEmpty())
             return path;
     return From_Root(plain, base);
 }
