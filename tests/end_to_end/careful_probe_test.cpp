@@ -24,12 +24,12 @@ TEST(Careful_Probe, WhereBothToolsNumberAlikeTheCommandIsTheClassicOneByteForByt
                                      u"mks"_s, u"sup"_s, u"idx"_s, u"sub"_s})
         Place(batch, Library_File(u"c."_s + extension), u"videos/plain c."_s + extension);
 
-    const QStringList added = {u"--tick"_s, u"AddSubs"_s, u"--tick"_s, u"AddAudio"_s};
+    const QStringList added = {u"--tick"_s, u"AddSubs"_s,       u"--tick"_s, u"AddAudio"_s,
+                               u"--tick"_s, u"SetVideoTitle"_s, u"--tick"_s, u"StripOrigAudioTitle"_s};
     const QStringList filtered = {u"--tick"_s, u"EngAudioOnly"_s, u"--tick"_s, u"EngSubsOnly"_s};
-    const QStringList titled = {u"--tick"_s, u"SetVideoTitle"_s, u"--tick"_s, u"StripOrigAudioTitle"_s};
     const QStringList split = {u"--tick"_s, u"SplitVideos"_s, u"--set"_s,
                                u"Other Options/Split multiple video files (minutes)=10"_s};
-    for (const QStringList& options : {QStringList(), added, filtered, titled, split}) {
+    for (const QStringList& options : {added, filtered, split}) {
         const QStringList classic = Commands_Of(batch, u"--classic"_s, options);
         EXPECT_EQ(classic.size(), 8) << options.join(u' ').toStdString();
         EXPECT_EQ(Commands_Of(batch, u"--careful"_s, options), classic) << options.join(u' ').toStdString();
