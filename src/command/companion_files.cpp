@@ -122,7 +122,7 @@ static QString Origin_Words(Language_Origin origin)
 
 QString Origin_Text(const ExternalTrack& track)
 {
-    const QString text = Origin_Words(track.Language_From);
+    QString text = Origin_Words(track.Language_From);
     if (track.Flags_Of_Name.isEmpty())
         return text;
     const bool both = track.Language_From == Language_Origin::Its_Name;
