@@ -323,7 +323,7 @@ TEST_F(Editor_Form, WhatIsTypedIntoCellsIsLostByNoWayOut)
     for (const char16_t* name : {u"videos/1.en.mp3", u"videos/2.de.mp3", u"videos/3.en.mp3"})
         Window.Files.Write(QString::fromUtf16(name));
     Edit([&] {
-        EXPECT_TRUE(In(*Form, "btn_Close").hasFocus());
+        EXPECT_TRUE(Wait_Until([&] { return In(*Form, "btn_Close").hasFocus(); }));
         Click_Row(0);
         Press(*Form, Qt::Key_F, Qt::ControlModifier);
         Keys(u"*.EN.mp3"_s, Qt::Key_Down);
