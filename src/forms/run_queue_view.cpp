@@ -3,14 +3,20 @@
 #include "forms/slot_guard.h"
 #include "rules/run_queue.h"
 #include "state/program.h"
+#include "support/drop_data.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QFrame>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
+#include <QUrl>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +25,7 @@ Run_Queue_View::Run_Queue_View(Program& program, Slot_Guard& guard, QWidget* own
     : QWidget(owner), program_(program), guard_(guard), folders_(new QListWidget(this)), remove_(new QToolButton(this))
 {
     setObjectName(u"fram_Queue"_s);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* divider = new QFrame(this);
     divider->setFrameShape(QFrame::HLine);
     divider->setFrameShadow(QFrame::Sunken);
@@ -34,6 +41,8 @@ Run_Queue_View::Run_Queue_View(Program& program, Slot_Guard& guard, QWidget* own
     remove_->setObjectName(u"btn_Unqueue"_s);
     remove_->setText(u"Remove"_s);
     remove_->setToolTip(u"Doesn't run the marked folder next"_s);
+    // The owner's, which is there while nothing is queued.
+    connect(new QShortcut(QKeySequence::Paste, owner), &QShortcut::activated, this, &Run_Queue_View::Paste);
     connect(remove, &QAction::triggered, this, &Run_Queue_View::Remove);
     connect(remove_, &QToolButton::clicked, this, &Run_Queue_View::Remove);
 
@@ -51,6 +60,17 @@ Run_Queue_View::Run_Queue_View(Program& program, Slot_Guard& guard, QWidget* own
 QList<QWidget*> Run_Queue_View::In_Tab_Order() const
 {
     return {folders_, remove_};
+}
+
+/// Who has no mouse copies a folder in a file manager, or its path.
+void Run_Queue_View::Paste()
+{
+    if (!program_.Run.Run_In_Progress || program_.Run.Checking)
+        return;
+    const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
+    const QList<QUrl> urls =
+        copied->hasUrls() ? copied->urls() : QList<QUrl>{QUrl::fromLocalFile(copied->text().trimmed())};
+    guard_.Call([&] { Drop_In_Run(program_, Drop_Data_Of(urls)); });
 }
 
 void Run_Queue_View::Remove()

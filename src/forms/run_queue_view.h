@@ -9,8 +9,8 @@ class QToolButton;
 class Slot_Guard;
 struct Program;
 
-/// What is run next, below a line under the list of the videos; and the question about a folder that was dropped while
-/// a run goes on. Nobody waits for the answer.
+/// What is run next, below a line under the list of the videos; and the question about a folder that was dropped or
+/// pasted while a run goes on. Nobody waits for the answer.
 class Run_Queue_View : public QWidget
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ class Run_Queue_View : public QWidget
     QList<QWidget*> In_Tab_Order() const;
 
   private:
+    void Paste();
     void Remove();
     void Show_Folders(bool open);
     void Ask();

@@ -5,6 +5,7 @@
 #include "rules/video_texts.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QListWidget>
 
@@ -232,7 +233,9 @@ TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
     Run_And([&] {
         EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"target"_s)}));
         EXPECT_EQ(Window.Prog().Form.lbl_Notice.Caption, u"That folder is the target."_s);
-        EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"empty"_s), season, Window.Files.Path(u"mistake"_s)}));
+        EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"empty"_s), season}));
+        QApplication::clipboard()->setText(Window.Files.Path(u"mistake"_s));
+        Press(Window.Form(), Qt::Key_V, Qt::ControlModifier);
     });
     EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/3.mkv"_s)));
     EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/4.mkv"_s)));
