@@ -240,7 +240,7 @@ QString Cell_Text(const Track_Table& table, const Track_Row& row, Track_Column c
 
 QString Cell_Hint(const Track_Table& table, const Track_Row& row, Track_Column column)
 {
-    const QString text = Cell_Text(table, row, column);
+    QString text = Cell_Text(table, row, column);
     if (row.What != Track_Row::Kind::Track || !row.Differs[At(column)])
         return text;
     const QString& usual = table.Slots[row.Slot].Usual[At(column)];

@@ -191,7 +191,7 @@ TEST(Line_Wrapping, PiecesFitAndAreTheLine)
         const QStringList pieces = wrapper.Pieces(line);
         EXPECT_EQ(pieces.join(QString()), line);
         EXPECT_EQ(wrapper.Count(line), pieces.size());
-        for (QString piece : pieces)
+        for (const QString& piece : pieces)
             EXPECT_LE(metrics.horizontalAdvance(piece.trimmed()), width) << piece.toStdString();
     }
     EXPECT_EQ(wrapper.Pieces(u"  one two three four five"_s), (QStringList{u"  one two three four "_s, u"five"_s}));
