@@ -215,17 +215,19 @@ TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
         QDir().mkpath(Window.Files.Path(name));
     Window.Person.On_Form[u"frm_QueueQuestion"_s] = [](QWidget& box) { Choose_In(box, u"&Run it next"_s); };
     auto& queue = Window.Get<QListWidget>("lst_Queue");
+    bool removed = false;
     QTimer look;
     look.setInterval(20);
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         look.stop(); // a click lets events in
         if (queue.count() == 3) {
             EXPECT_TRUE(queue.isVisible());
-            EXPECT_EQ(queue.item(1)->text(), u"Next: "_s + season + u" (1 video)"_s);
-            queue.setCurrentRow(2);
+            EXPECT_EQ(queue.item(2)->text(), u"Next: "_s + season + u" (1 video)"_s);
+            queue.setCurrentRow(0);
             Click_On(Window.Get("btn_Unqueue"));
+            removed = true;
         }
-        if (queue.count() == 2 || Window.Prog().Options.Path_Videos == season)
+        if ((removed && queue.count() == 2) || Window.Prog().Options.Path_Videos == season)
             Window.Files.Write(u"go"_s);
         look.start();
     });
@@ -233,9 +235,9 @@ TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
     Run_And([&] {
         EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"target"_s)}));
         EXPECT_EQ(Window.Prog().Form.lbl_Notice.Caption, u"That folder is the target."_s);
-        EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"empty"_s), season}));
         QApplication::clipboard()->setText(Window.Files.Path(u"mistake"_s));
         Press(Window.Form(), Qt::Key_V, Qt::ControlModifier);
+        EXPECT_TRUE(Drop_On(Window.Form(), {Window.Files.Path(u"empty"_s), season}));
     });
     EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/3.mkv"_s)));
     EXPECT_TRUE(QFile::exists(Window.Files.Path(u"target/4.mkv"_s)));
