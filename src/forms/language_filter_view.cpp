@@ -1,6 +1,7 @@
 #include "forms/language_filter_view.h"
 
 #include "forms/bindings.h"
+#include "forms/looks.h"
 #include "forms/screen_place.h"
 #include "rules/language_filter.h"
 #include "state/program.h"
@@ -92,6 +93,7 @@ bool Language_Filter_View::eventFilter(QObject* watched, QEvent* event)
 void Language_Filter_View::Open()
 {
     const Language_Filter_Form& form = program_.Language_Filter;
+    Fade_Placeholder(*ui_->txt_Find);
     if (form.Has_Place)
         setGeometry(Onto_Screen(Rect_Of(form.Place), Frame_Around(parentWidget())));
     else
