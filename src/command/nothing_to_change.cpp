@@ -19,7 +19,7 @@ static bool Is_As_It_Is(const QString& option, const QString& value, const Ident
     const auto says = [&value](bool flag) { return value == (flag ? "yes"_L1 : "no"_L1); };
     if (option == "--track-name"_L1)
         return value == track.Name;
-    // A tag with a region ("pt-BR") would lose it. Without a language a track is "eng" by its kind of file.
+    // A tag with a region ("pt-BR") would lose it.
     if (option == "--language"_L1)
         return value == track.Language && !track.Language_Tag.contains(u'-');
     if (option == "--default-track"_L1)

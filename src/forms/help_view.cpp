@@ -1,5 +1,6 @@
 #include "forms/help_view.h"
 
+#include "forms/looks.h"
 #include "forms/screen_place.h"
 #include "state/program.h"
 
@@ -19,6 +20,7 @@ Help_View::Help_View(Program& program, Slot_Guard& guard, QWidget* owner)
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     words_->setObjectName(u"txt_Find"_s);
     words_->setPlaceholderText(u"Find"_s);
+    Fade_Placeholder(*words_);
     words_->setAccessibleName(u"Find"_s);
     words_->setClearButtonEnabled(true);
     page_->setObjectName(u"txt_Help"_s);

@@ -68,6 +68,8 @@ void Run_Queue_View::Paste()
     if (!program_.Run.Run_In_Progress || program_.Run.Checking)
         return;
     const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
+    if (!copied)
+        return;
     const QList<QUrl> urls =
         copied->hasUrls() ? copied->urls() : QList<QUrl>{QUrl::fromLocalFile(copied->text().trimmed())};
     guard_.Call([&] { Drop_In_Run(program_, Drop_Data_Of(urls)); });

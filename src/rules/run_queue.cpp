@@ -87,7 +87,6 @@ static Queued_Run Take_First(Run_Queue& queue)
 
 bool Take_Next_Queued(Program& program)
 {
-    program.Queue.Asked.clear();
     QStringList notes;
     bool taken = false;
     while (!taken && !program.Queue.Runs.empty()) {
@@ -106,7 +105,9 @@ bool Take_Next_Queued(Program& program)
 
 void Give_Up_Queue(Program& program)
 {
-    program.Queue.Asked.clear();
+    QStringList folders;
     for (const Queued_Run& queued : std::exchange(program.Queue.Runs, {}))
-        program.Videos.Notes += u"Not run: %1."_s.arg(As_One_Line(queued.Folder));
+        folders += queued.Folder;
+    for (const QString& folder : folders + std::exchange(program.Queue.Asked, {}))
+        program.Videos.Notes += u"Not run: %1."_s.arg(As_One_Line(folder));
 }

@@ -28,5 +28,6 @@ QString Queued_Caption(const Queued_Run& queued);
 /// told in Videos.Notes. False: there is none left.
 bool Take_Next_Queued(Program& program);
 
-/// The run was halted or couldn't be started: nothing is run behind it, and Videos.Notes tells what.
+/// Nothing more is run: the run was halted, couldn't be started, or came to its end. Videos.Notes tells what was queued
+/// still, and what was asked about without an answer.
 void Give_Up_Queue(Program& program);

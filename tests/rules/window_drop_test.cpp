@@ -1,6 +1,7 @@
 #include "rules/window_drop.h"
 
 #include "common/test_program.h"
+#include "rules/run_queue.h"
 #include "rules/video_list.h"
 #include "support/drop_data.h"
 
@@ -59,4 +60,19 @@ TEST(WindowDrop, TakesOneFolderOrVideosOfOneAndSaysWhatItLeaves)
         Drop_On_Window(program, {.Has_File_List = true, .Paths = {test.Path(u"shelf"_s)}});
         EXPECT_EQ(Ticked_Paths(program.Videos).size(), 3) << "the folder means all of it";
     }
+}
+
+TEST(WindowDrop, WhatIsQueuedOrAskedAboutWhenNothingMoreIsRunIsTold)
+{
+    Test_Program test;
+    Program& program = test.Prog;
+    test.Write(u"season/a.mkv"_s);
+    test.Write(u"other/a.mkv"_s);
+    program.Run.Press_In_Work = program.Run.Run_In_Progress = true;
+    Drop_On_Window(program, {.Has_File_List = true, .Paths = {test.Path(u"season"_s)}});
+    Answer_Queue_Question(program, true);
+    Drop_On_Window(program, {.Has_File_List = true, .Paths = {test.Path(u"other"_s)}});
+    Give_Up_Queue(program);
+    EXPECT_EQ(program.Videos.Notes, (QStringList{u"Not run: "_s + test.Path(u"season/"_s) + u'.',
+                                                 u"Not run: "_s + test.Path(u"other/"_s) + u'.'}));
 }
