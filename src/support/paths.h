@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 
 /// Names and paths: taken apart, put together, tested. A path is one literal path: "*" and "?" are letters of a name.
 
 /// The separator that a folder's path ends in.
-inline constexpr char16_t Path_Separator = u'/';
+inline constexpr char16_t Path_Separator = std::filesystem::path::preferred_separator;
 
 /// True for an existing file. A path that doesn't begin with "/" never exists, nor one that isn't valid UTF-8.
 bool File_Exists(const QString& path);
