@@ -1,31 +1,32 @@
 #include "logs/log_work_file.h"
 
+#include "support/disk_steps.h"
+#include "support/last_error.h"
 #include "support/plain_file.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
 
 #include <cerrno>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 static constexpr qint64 Piece_Size = 1 << 20;
 
 /// A short write leaves no number behind: then the disk was full.
-[[noreturn]] static void Raise_Write_Error(const QString& path)
+[[noreturn]] static void Raise_Write_Error(const QString& path, int error)
 {
-    Raise_File_Error(u"Writing the process log"_s, path, errno != 0 ? errno : ENOSPC);
+    Raise_File_Error(u"Writing the process log"_s, path, error != 0 ? error : ENOSPC);
 }
 
 Log_Work_File::Log_Work_File(const QString& path, Leftover leftover) : file_(path)
 {
     const QString doing = u"Opening the work file of the process log"_s;
     Require_Plain_Or_Nothing(path, doing);
-    errno = 0;
+    Forget_Last_Error();
     if (!file_.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
-        Raise_File_Error(doing, path, errno);
+        Raise_File_Error(doing, path, Last_Error());
     if (leftover == Leftover::Dropped && !file_.resize(0))
-        Raise_Write_Error(path);
+        Raise_Write_Error(path, Last_Error());
     const qint64 size = file_.size();
     if (size == 0)
         return;
@@ -35,25 +36,27 @@ Log_Work_File::Log_Work_File(const QString& path, Leftover leftover) : file_(pat
 
 void Log_Work_File::Append(const QByteArray& bytes)
 {
-    errno = 0;
+    Forget_Last_Error();
     if (file_.write(bytes) != bytes.size())
-        Raise_Write_Error(file_.fileName());
+        Raise_Write_Error(file_.fileName(), Last_Error());
 }
 
 void Log_Work_File::Flush_To_Disk()
 {
-    errno = 0;
-    if (!file_.flush() || (::fsync(file_.handle()) != 0 && errno != EINVAL))
-        Raise_Write_Error(file_.fileName());
+    Forget_Last_Error();
+    if (!file_.flush())
+        Raise_Write_Error(file_.fileName(), Last_Error());
+    if (const int error = Sync_Open_File(file_); error != 0)
+        Raise_Write_Error(file_.fileName(), error);
 }
 
 /// The next piece of a log; empty at its end.
 static QByteArray Next_Piece(QFile& file, const QString& path)
 {
-    errno = 0;
+    Forget_Last_Error();
     QByteArray bytes = file.read(Piece_Size);
     if (bytes.isEmpty() && file.error() != QFileDevice::NoError)
-        Raise_File_Error(u"Reading the process log to keep its text"_s, path, errno);
+        Raise_File_Error(u"Reading the process log to keep its text"_s, path, Last_Error());
     return bytes;
 }
 

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <cstddef>
+#include <memory>
 #include <optional>
 
 /// One child with both output streams in one pipe (or each in its own), no console and no standard input, in a process
@@ -49,7 +50,7 @@ class Child_Process
     /// The same for a child with its outputs apart: what one read of each pipe delivers. Ended: both are closed.
     Read Read_Chunks(QByteArray& output, QByteArray& messages, std::size_t most);
 
-    /// Kills the child's process group and reaps the child.
+    /// Kills the child with all that it has started, and reaps it.
     void Kill();
 
     /// Waits until the child has ended, and reaps it. `between` is called at least every 50 ms and may end the wait by
@@ -63,25 +64,23 @@ class Child_Process
         return true;
     }
 
-    /// The system's error number of the last failed start.
+    /// The system's own error number of the last failed start; Format_System_Error has its words.
     int System_Error() const { return system_error_; }
 
-    /// The exit status of a reaped child: 0 to 255, or minus the signal's number.
+    /// The exit status of a reaped child: 0 to 255, or less than 0 if it didn't end by itself; Signal_Name has a word
+    /// for the number without its sign.
     std::optional<int> Exit_Status() const { return exit_status_; }
 
     /// The child's process number, 0 if there is none.
     long Process_Number() const { return process_; }
 
   private:
+    struct Platform; ///< our ends of the pipes, and what else the platform holds of a child
     bool Reap(int milliseconds);
-    /// What one read of an open pipe delivers at once; closes it at its end.
-    static Read Read_Now(int& pipe, QByteArray& chunk, std::size_t most);
-    static void Close_Pipe(int& pipe);
     void Close_Pipes();
 
+    std::unique_ptr<Platform> platform_;
     long process_ = 0;
-    int pipe_ = -1;
-    int messages_pipe_ = -1;
     int system_error_ = 0;
     std::optional<int> exit_status_;
 };

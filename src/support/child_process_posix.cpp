@@ -165,7 +165,39 @@ static int Make_Pipe(int& read_end, int& write_end)
     return 0;
 }
 
-Child_Process::Child_Process() = default;
+struct Child_Process::Platform
+{
+    int Output = -1;
+    int Messages = -1;
+};
+
+static void Close_Pipe(int& pipe)
+{
+    if (pipe >= 0)
+        ::close(pipe);
+    pipe = -1;
+}
+
+/// What one read of an open pipe delivers at once; closes it at its end.
+static Child_Process::Read Read_Now(int& pipe, QByteArray& chunk, std::size_t most)
+{
+    using Read = Child_Process::Read;
+    chunk.clear();
+    if (pipe < 0)
+        return Read::Ended;
+    chunk.resize(static_cast<qsizetype>(most));
+    const ssize_t count = ::read(pipe, chunk.data(), most);
+    const int error = errno;
+    chunk.resize(std::max<ssize_t>(count, 0));
+    if (count > 0)
+        return Read::Data;
+    if (count < 0 && (error == EAGAIN || error == EINTR))
+        return Read::Nothing_Yet;
+    Close_Pipe(pipe);
+    return Read::Ended;
+}
+
+Child_Process::Child_Process() : platform_(std::make_unique<Platform>()) {}
 
 Child_Process::~Child_Process()
 {
@@ -181,9 +213,9 @@ Child_Process::Started Child_Process::Start(const QString& executable, const QSt
 
     int output = -1;
     int messages = -1;
-    system_error_ = Make_Pipe(pipe_, output);
+    system_error_ = Make_Pipe(platform_->Output, output);
     if (system_error_ == 0 && outputs == Outputs::Apart)
-        system_error_ = Make_Pipe(messages_pipe_, messages);
+        system_error_ = Make_Pipe(platform_->Messages, messages);
     if (system_error_ != 0) {
         Close_Pipe(output);
         Close_Pipes();
@@ -207,31 +239,14 @@ Child_Process::Started Child_Process::Start(const QString& executable, const QSt
     return Started::Yes;
 }
 
-Child_Process::Read Child_Process::Read_Now(int& pipe, QByteArray& chunk, std::size_t most)
-{
-    chunk.clear();
-    if (pipe < 0)
-        return Read::Ended;
-    chunk.resize(static_cast<qsizetype>(most));
-    const ssize_t count = ::read(pipe, chunk.data(), most);
-    const int error = errno;
-    chunk.resize(std::max<ssize_t>(count, 0));
-    if (count > 0)
-        return Read::Data;
-    if (count < 0 && (error == EAGAIN || error == EINTR))
-        return Read::Nothing_Yet;
-    Close_Pipe(pipe);
-    return Read::Ended;
-}
-
 Child_Process::Read Child_Process::Read_Chunk(QByteArray& chunk, std::size_t most)
 {
-    const Read read = Read_Now(pipe_, chunk, most);
+    const Read read = Read_Now(platform_->Output, chunk, most);
     if (read != Read::Nothing_Yet)
         return read;
-    pollfd waited{.fd = pipe_, .events = POLLIN, .revents = 0};
+    pollfd waited{.fd = platform_->Output, .events = POLLIN, .revents = 0};
     // A signal ends the wait early: it may be the one that asks for a halt.
-    return ::poll(&waited, 1, Longest_Silence) > 0 ? Read_Now(pipe_, chunk, most) : read;
+    return ::poll(&waited, 1, Longest_Silence) > 0 ? Read_Now(platform_->Output, chunk, most) : read;
 }
 
 /// What two pipes together have delivered.
@@ -246,15 +261,15 @@ static Child_Process::Read Both(Child_Process::Read one, Child_Process::Read oth
 Child_Process::Read Child_Process::Read_Chunks(QByteArray& output, QByteArray& messages, std::size_t most)
 {
     const auto read_both = [&] {
-        const Read one = Read_Now(pipe_, output, most);
-        return Both(one, Read_Now(messages_pipe_, messages, most));
+        const Read one = Read_Now(platform_->Output, output, most);
+        return Both(one, Read_Now(platform_->Messages, messages, most));
     };
     const Read read = read_both();
     if (read != Read::Nothing_Yet)
         return read;
     // poll passes over a descriptor below 0, which a closed pipe's is.
-    pollfd waited[] = {{.fd = pipe_, .events = POLLIN, .revents = 0},
-                       {.fd = messages_pipe_, .events = POLLIN, .revents = 0}};
+    pollfd waited[] = {{.fd = platform_->Output, .events = POLLIN, .revents = 0},
+                       {.fd = platform_->Messages, .events = POLLIN, .revents = 0}};
     return ::poll(waited, 2, Longest_Silence) > 0 ? read_both() : read;
 }
 
@@ -301,15 +316,8 @@ bool Child_Process::Reap(int milliseconds)
     return true;
 }
 
-void Child_Process::Close_Pipe(int& pipe)
-{
-    if (pipe >= 0)
-        ::close(pipe);
-    pipe = -1;
-}
-
 void Child_Process::Close_Pipes()
 {
-    Close_Pipe(pipe_);
-    Close_Pipe(messages_pipe_);
+    Close_Pipe(platform_->Output);
+    Close_Pipe(platform_->Messages);
 }

@@ -8,9 +8,13 @@
 #include <optional>
 #include <vector>
 
+class QFileDevice;
+
 /// Single steps on the disk that a careful batch is made of. Each is one call of the system where that is possible, so
-/// that a kill at any moment leaves the state before it or the one behind it. Errors are the system's numbers, 0 is
-/// none.
+/// that a kill at any moment leaves the state before it or the one behind it. Errors are numbers of <cerrno>, 0 is
+/// none; an error of Windows that has no such number is the system's own above First_Own_Error.
+
+inline constexpr int First_Own_Error = 10'000; ///< the system's own error 0
 
 /// What stands in a folder under a name.
 enum class Entry_Kind
@@ -77,6 +81,8 @@ Rename_Result Rename_To_Free_Name(const QString& from, const QString& to, Rename
 /// Whatever was written is on the disk when these return.
 int Sync_File(const QString& path);
 int Sync_Folder(const QString& folder);
+/// The same for a file of Qt's that is open for writing; what it still holds itself has to be flushed ahead.
+int Sync_Open_File(const QFileDevice& file);
 
 /// Makes a folder that only its owner may look into.
 int Make_Private_Folder(const QString& path);
@@ -95,7 +101,7 @@ int Append_At_Once(const QString& path, const QByteArray& text, bool sync);
 /// Bytes that may still be written below a folder; nothing if it can't be asked.
 std::optional<std::uint64_t> Free_Bytes(const QString& folder);
 
-/// The longest name that the folder's file system takes, in bytes.
+/// The longest name that the folder's file system takes, as Length_On_Disk counts it.
 int Longest_Name(const QString& folder);
 
 /// "No space left on device": the system's words for an error.

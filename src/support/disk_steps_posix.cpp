@@ -2,6 +2,7 @@
 
 #include "support/disk_names.h"
 
+#include <QFileDevice>
 #include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
@@ -191,6 +192,11 @@ int Sync_Folder(const QString& folder)
     const int error = Sync(folder, O_RDONLY | O_DIRECTORY);
     // Some file systems have nothing to do here and say so.
     return error == EINVAL ? 0 : error;
+}
+
+int Sync_Open_File(const QFileDevice& file)
+{
+    return ::fsync(file.handle()) == 0 || errno == EINVAL ? 0 : errno;
 }
 
 int Make_Private_Folder(const QString& path)

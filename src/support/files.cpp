@@ -16,11 +16,6 @@
 using namespace Qt::StringLiterals;
 namespace fs = std::filesystem;
 
-static fs::path Native_Path(const QString& path)
-{
-    return fs::path(Bytes_Of_Name(path).toStdString());
-}
-
 /// A name raised to upper case letter by letter, which never changes its length.
 static QString Raised(QString name)
 {

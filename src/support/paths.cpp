@@ -1,39 +1,8 @@
 #include "support/paths.h"
 
-#include "support/disk_names.h"
-#include "support/text.h"
-
-#include <QFileInfo>
 #include <QStringList>
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
-
-/// A name that isn't valid UTF-8 is none that can be asked for by its text; see disk_names.h.
-static bool Can_Be_Asked_For(const QString& path)
-{
-    return path.startsWith(Path_Separator) && !Has_Stand_Ins(path);
-}
-
-static std::filesystem::path Native_Path_Of(const QString& path)
-{
-    return Bytes_Of_Name(path).toStdString();
-}
-
-bool File_Exists(const QString& path)
-{
-    return Can_Be_Asked_For(path) && QFileInfo(path).exists() && !QFileInfo(path).isDir();
-}
-
-bool Folder_Exists(const QString& path)
-{
-    return Can_Be_Asked_For(path) && QFileInfo(path).isDir();
-}
-
-bool Path_Exists(const QString& path)
-{
-    return !path.isEmpty() && QFileInfo(path).isDir();
-}
 
 QString With_Separator(const QString& folder)
 {
@@ -125,18 +94,5 @@ bool Same_Folder(const QString& one, const QString& other)
     if (one.isEmpty() || other.isEmpty())
         return one.isEmpty() && other.isEmpty();
     // By what they are on disk, not only by their names: a folder may be mounted twice, or its name's case not count.
-    return With_Separator(one) == With_Separator(other) || Same_File(one, other);
-}
-
-bool Same_File(const QString& one, const QString& other)
-{
-    std::error_code error;
-    return std::filesystem::equivalent(Native_Path_Of(one), Native_Path_Of(other), error) && !error;
-}
-
-bool Has_Other_Names(const QString& path)
-{
-    const std::filesystem::path file = Native_Path_Of(path);
-    std::error_code error;
-    return std::filesystem::is_symlink(file, error) || std::filesystem::hard_link_count(file, error) > 1;
+    return With_Separator(one).compare(With_Separator(other), Case_Of_Names) == 0 || Same_File(one, other);
 }

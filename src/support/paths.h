@@ -8,9 +8,22 @@
 /// The separator that a folder's path ends in.
 inline constexpr char16_t Path_Separator = std::filesystem::path::preferred_separator;
 
-/// True for an existing file. A path that doesn't begin with "/" never exists, nor one that isn't valid UTF-8.
+/// Whether capitals make another name: for paths that are compared as text.
+inline constexpr Qt::CaseSensitivity Case_Of_Names = Path_Separator == u'/' ? Qt::CaseSensitive : Qt::CaseInsensitive;
+
+/// True for a path that leads to the same place whatever the current folder is: it begins with "/"; on Windows with a
+/// drive, ":" and a backslash, or as a share, with two backslashes.
+bool Is_Absolute_Path(const QString& path);
+/// `path` as an absolute one with the platform's separators; a relative one goes out from `base`, or from the current
+/// folder.
+QString Absolute_Path(const QString& path, const QString& base = {});
+/// True for "/"; on Windows for a drive or a share by itself, with or without a separator at its end.
+bool Is_Root(const QString& folder);
+
+/// True for an existing file. A path that doesn't begin with "/" never exists, nor one that isn't valid UTF-8. On
+/// Windows: one that holds no ":" and is no share's, or that isn't valid UTF-16.
 bool File_Exists(const QString& path);
-/// True for an existing folder. A path that doesn't begin with "/" never exists, nor one that isn't valid UTF-8.
+/// True for an existing folder; the same paths never exist.
 bool Folder_Exists(const QString& path);
 /// True for an existing folder; the empty text never exists. Unlike Folder_Exists it takes a relative path too.
 bool Path_Exists(const QString& path);

@@ -1,8 +1,9 @@
 #include "support/run_time_error.h"
 
+#include "support/disk_steps.h"
+
 #include <QStringList>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -123,6 +124,5 @@ void Raise_File_Error(const QString& doing, const QString& path, int error_numbe
     default:
         break;
     }
-    throw Run_Time_Error(number, doing, path, {},
-                         error_number == 0 ? QString() : QString::fromLocal8Bit(std::strerror(error_number)));
+    throw Run_Time_Error(number, doing, path, {}, error_number == 0 ? QString() : System_Words(error_number));
 }

@@ -64,5 +64,5 @@ Run_Time_Error Out_Of_Memory_Error();
 [[noreturn]] void Raise_Subscript(const QString& doing, const QString& subject, const QString& text = {});
 /// Error 6: a 16-bit or 32-bit counter can't hold the value.
 [[noreturn]] void Raise_Overflow(const QString& doing, const QString& subject = {});
-/// The error that the system's `error_number` (an errno value) means for `path`, with the system's own words.
+/// The error that the system's `error_number` (as disk_steps.h has them) means for `path`, with the system's own words.
 [[noreturn]] void Raise_File_Error(const QString& doing, const QString& path, int error_number);

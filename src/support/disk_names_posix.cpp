@@ -61,3 +61,18 @@ QByteArray Bytes_Of_Name(const QString& text)
     }
     return bytes + text.sliced(valid_from).toUtf8();
 }
+
+std::filesystem::path Native_Path(const QString& path)
+{
+    return Bytes_Of_Name(path).toStdString();
+}
+
+qsizetype Length_On_Disk(const QString& name)
+{
+    return Bytes_Of_Name(name).size();
+}
+
+QString Why_Not_A_Name(const QString&)
+{
+    return {};
+}
