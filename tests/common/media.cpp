@@ -10,10 +10,10 @@
 
 QString Tool_In_Path(const QString& name)
 {
-    QString path = QStandardPaths::findExecutable(name);
+    const QString path = QStandardPaths::findExecutable(name);
     if (path.isEmpty())
         qFatal("%s isn't installed: run scripts/setup", qPrintable(name));
-    return path;
+    return QDir::toNativeSeparators(path);
 }
 
 void Use_Real_Tools(Test_Program& test)
@@ -25,7 +25,7 @@ void Use_Real_Tools(Test_Program& test)
 QString Media_File(const QString& name, const QStringList& ffmpeg_arguments)
 {
     static const QTemporaryDir folder;
-    QString path = folder.filePath(name);
+    QString path = QDir::toNativeSeparators(folder.filePath(name));
     if (QFileInfo::exists(path))
         return path;
     QProcess ffmpeg;

@@ -1,5 +1,6 @@
 #include "common/test_program.h"
 
+#include "common/test_trash.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
 #include "support/text.h"
@@ -8,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <ostream>
-#include <unistd.h>
 
 Message_Answer Test_Operator::Show_Message(const Message_Box& box)
 {
@@ -54,23 +54,9 @@ bool Test_Operator::Open_Document(const QString& path)
     return Document_Opens;
 }
 
-/// One folder for each test process, below the build's temporary folder; Qt finds the trash through XDG_DATA_HOME.
-static QString Data_Home()
-{
-    static const QTemporaryDir home;
-    return home.path();
-}
-
-QStringList Names_In_Trash()
-{
-    return QDir(Data_Home() + u"/Trash/files"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
-}
-
 Test_Program::Test_Program()
 {
-    qputenv("XDG_DATA_HOME", QFile::encodeName(Data_Home()));
-    // Where a test's files lie on another disk than the home, their trash would be that disk's.
-    qputenv("HOME", QFile::encodeName(Data_Home()));
+    Use_Own_Trash();
     for (const QString& folder : {u"app"_s, u"videos"_s, u"target"_s})
         QDir().mkpath(Path(folder));
     Prog.Settings.App_Folder = Path(u"app/"_s);
@@ -84,7 +70,7 @@ Test_Program::Test_Program()
 
 QString Test_Program::Path(const QString& relative) const
 {
-    return With_Separator(QFileInfo(Root.path()).canonicalFilePath()) + relative;
+    return QDir::toNativeSeparators(With_Separator(QFileInfo(Root.path()).canonicalFilePath()) + relative);
 }
 
 QString Test_Program::Write(const QString& relative, const QByteArray& content) const
@@ -101,6 +87,12 @@ QByteArray Test_Program::Read(const QString& relative) const
 {
     QFile file(Path(relative));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString Native(const QString& path)
+{
+    const bool is_foreign = Path_Separator != u'/' && path.startsWith(u'/');
+    return is_foreign ? u"C:"_s + QDir::toNativeSeparators(path) : QDir::toNativeSeparators(path);
 }
 
 static QStringList Lines_Of(const clsStringBuilder& buffer)

@@ -60,7 +60,7 @@ struct Test_Program
     Test_Operator Person;
     Program Prog{Person};
 
-    /// Root's path with a separator at its end, followed by `relative`.
+    /// Root's path with a separator at its end, followed by `relative` with the platform's separators.
     QString Path(const QString& relative = {}) const;
     /// Writes a file below Root, folders included; returns its path.
     QString Write(const QString& relative, const QByteArray& content = {}) const;
@@ -81,6 +81,10 @@ struct Caught_Error
 
 /// The run-time error that `act` ends with.
 Caught_Error Error_Of(const std::function<void()>& act);
+
+/// A path or a part of one, written with "/", as the platform has it: "/videos/x.mkv" is "C:\videos\x.mkv" on Windows,
+/// "videos/x.mkv" "videos\x.mkv".
+QString Native(const QString& path);
 
 /// The trash that this process's tests move things to: a folder of its own, so that nobody's trash fills up.
 QStringList Names_In_Trash();

@@ -1,3 +1,4 @@
+#include "common/media.h"
 #include "common/stand_in_tool.h"
 
 #include <QDir>
@@ -9,6 +10,16 @@ QString Write_Stand_In(const Test_Program& test, const QString& relative, const 
     QString path = test.Write(relative, "#!/bin/sh\n" + body);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return path;
+}
+
+QByteArray Path_In_Script(const QString& path)
+{
+    return QFile::encodeName(path);
+}
+
+QByteArray Tool_In_Script(const QString& name)
+{
+    return QFile::encodeName(Tool_In_Path(name));
 }
 
 int Open_Descriptors()
@@ -42,4 +53,9 @@ bool Is_Running(long process)
 {
     const QList<QByteArray> fields = Process_Fields(QString::number(process));
     return !fields.isEmpty() && fields[0] != "Z" && fields[0] != "X";
+}
+
+bool Is_Running_In_Script(long process)
+{
+    return Is_Running(process);
 }

@@ -1,0 +1,75 @@
+#include "common/stand_in_tool.h"
+
+#include "windows/unix_paths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <windows.h>
+// It takes what windows.h defines.
+#include <tlhelp32.h>
+
+static const wchar_t* Wide(const QString& text)
+{
+    return reinterpret_cast<const wchar_t*>(text.utf16());
+}
+
+QString Write_Stand_In(const Test_Program& test, const QString& relative, const QByteArray& body)
+{
+    test.Write(relative + u".exe.sh"_s, body);
+    QString path = test.Path(relative + u".exe"_s);
+    const QString forwarder =
+        QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + u"/tool_forwarder.exe"_s);
+    if (!QFile::exists(path) && !CreateHardLinkW(Wide(path), Wide(forwarder), nullptr) && !QFile::copy(forwarder, path))
+        qFatal("A stand-in can't be written: %s", qPrintable(path));
+    return path;
+}
+
+QByteArray Path_In_Script(const QString& path)
+{
+    return QByteArray::fromStdString(Unix_Path(QDir::toNativeSeparators(path).toStdWString()));
+}
+
+QByteArray Tool_In_Script(const QString& name)
+{
+    return name.toUtf8();
+}
+
+int Open_Descriptors()
+{
+    DWORD handles = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &handles);
+    return static_cast<int>(handles);
+}
+
+int Children_Left()
+{
+    const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+    PROCESSENTRY32W entry{};
+    entry.dwSize = sizeof(entry);
+    int children = 0;
+    for (BOOL more = Process32FirstW(processes, &entry); more; more = Process32NextW(processes, &entry))
+        if (entry.th32ParentProcessID == GetCurrentProcessId())
+            ++children;
+    CloseHandle(processes);
+    return children;
+}
+
+bool Is_Running(long process)
+{
+    const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
+    const bool runs = handle && WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+    if (handle)
+        CloseHandle(handle);
+    return runs;
+}
+
+bool Is_Running_In_Script(long process)
+{
+    QFile file(u"Z:/proc/%1/stat"_s.arg(process));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = file.readAll();
+    const char state = line.mid(line.lastIndexOf(')') + 2).front();
+    return state != 'Z' && state != 'X';
+}
