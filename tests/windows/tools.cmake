@@ -1,0 +1,25 @@
+# What the tests run with where the programs are Windows' and this machine isn't: under Wine, which finds the tools in a
+# folder of the build's own.
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_SOURCE_DIR}/windows/run_under_wine ${CMAKE_BINARY_DIR})
+
+# Where the programs see the host's files.
+set(drive "Z:")
+
+# Has Wine's host run the shell script that lies beside it.
+add_executable(tool_forwarder windows/tool_forwarder.cpp windows/unix_paths.cpp)
+target_include_directories(tool_forwarder PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(tool_forwarder PRIVATE vantorra_flags)
+target_link_options(tool_forwarder PRIVATE -municode -s)
+
+# There is no Windows' mkvmerge to be had: the host's stands in for it, and the host's ffmpeg makes the media.
+set(tools ${CMAKE_CURRENT_BINARY_DIR}/tools)
+find_program(MKVMERGE mkvmerge REQUIRED)
+configure_file(windows/mkvmerge.in ${tools}/host/mkvmerge @ONLY FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+find_file(FFPROBE_EXE ffprobe.exe PATHS $ENV{VANTORRA_WINDOWS_NEEDS}/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+file(CREATE_LINK ${FFPROBE_EXE} ${tools}/ffprobe.exe SYMBOLIC)
+foreach(tool mkvmerge ffmpeg)
+    file(WRITE ${tools}/${tool}.exe.sh "exec ${tool} \"$@\"\n")
+    add_custom_command(OUTPUT ${tools}/${tool}.exe DEPENDS tool_forwarder
+        COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:tool_forwarder> ${tools}/${tool}.exe)
+endforeach()
+add_custom_target(test_tools DEPENDS ${tools}/mkvmerge.exe ${tools}/ffmpeg.exe)
