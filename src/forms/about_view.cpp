@@ -1,11 +1,10 @@
 #include "forms/about_view.h"
 
 #include "forms/bindings.h"
+#include "forms/drawn_icon.h"
 #include "life/help_and_about.h"
 #include "state/program.h"
 #include "ui_about_view.h"
-
-#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +12,7 @@ About_View::About_View(Program& program, Slot_Guard& guard, QWidget* owner)
     : Program_Dialog(program, guard, owner), ui_(std::make_unique<Ui::frm_Splash>())
 {
     ui_->setupUi(this);
-    ui_->pic_Splash->setPixmap(QIcon(u":/images/vantorra.svg"_s).pixmap(QSize(72, 72), devicePixelRatioF()));
+    ui_->pic_Splash->setPixmap(Drawn_Icon(u"vantorra"_s).pixmap(QSize(72, 72), devicePixelRatioF()));
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     large.setBold(true);

@@ -1,5 +1,7 @@
 #include "forms/looks.h"
 
+#include "forms/drawn_icon.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
@@ -55,7 +57,7 @@ QColor Grey_Box_Colour(const QPalette& palette)
 
 QIcon Picture(const QString& name, const QPalette& palette)
 {
-    const QIcon drawn(u":/images/"_s + name + u".svg"_s);
+    const QIcon drawn = Drawn_Icon(name);
     QIcon icon;
     for (const int side : {16, 24, 32, 48, 64}) {
         QPixmap pixmap = drawn.pixmap(QSize(side, side), 1.0);

@@ -1,5 +1,5 @@
 #include "forms/desktop.h"
-#include "forms/readable_style.h"
+#include "forms/desktop_style.h"
 #include "forms/session_end.h"
 #include "life/app_folder.h"
 #include "life/instance_lock.h"
@@ -17,7 +17,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(u"vantorra"_s);
     QApplication::setApplicationVersion(QStringLiteral(VANTORRA_VERSION));
     QApplication::setDesktopFileName(u"vantorra"_s);
-    QApplication::setStyle(new Readable_Style);
+    const Desktop_Style style;
     // A box that is answered before the window is seen must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -1,14 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <memory>
 
-class QSocketNotifier;
 class Slot_Guard;
 class Startform;
 struct Program;
 
-/// The desktop takes the program away: a session that ends, a signal that asks the program to go, a display that
-/// breaks. Each saves the settings. A signal during a run is the halt button, and the form closes once the run is over.
+/// The system takes the program away: a session that ends, and where there are such things a signal that asks the
+/// program to go and a display that breaks. Each saves the settings. A run is halted as by the button, and the form
+/// closes once it is over.
 class Session_End : public QObject
 {
     Q_OBJECT
@@ -18,10 +19,14 @@ class Session_End : public QObject
     ~Session_End() override;
 
   private:
+    /// How the platform says it.
+    class Watch;
+
+    void Save_Settings();
     void Asked_To_Go();
 
     Program& program_;
     Slot_Guard& guard_;
     Startform& form_;
-    QSocketNotifier* asked_ = nullptr;
+    std::unique_ptr<Watch> watch_;
 };

@@ -1,18 +1,14 @@
 #include "forms/session_end.h"
 
-#include "forms/slot_guard.h"
-#include "forms/startform.h"
-#include "run/halt.h"
 #include "settings/settings_store.h"
 #include "state/program.h"
 #include "workbenches/last_entry.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QSessionManager>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <csignal>
+#include <memory>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <utility>
@@ -78,58 +74,52 @@ static std::vector<int> Signals_To_Go()
     return numbers;
 }
 
+/// The end of the pipe that tells of a signal.
+class Session_End::Watch
+{
+  public:
+    explicit Watch(Session_End& owner)
+    {
+        if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_pipe) != 0)
+            return;
+        asked_ = std::make_unique<QSocketNotifier>(signal_pipe[1], QSocketNotifier::Read);
+        connect(asked_.get(), &QSocketNotifier::activated, &owner, [&owner] {
+            char byte = 0;
+            [[maybe_unused]] const auto count = ::read(signal_pipe[1], &byte, 1);
+            owner.Asked_To_Go();
+        });
+        for (const int number : Signals_To_Go())
+            std::signal(number, On_Signal);
+        // A display that breaks while it is written to is to be noticed, not died of.
+        std::signal(SIGPIPE, SIG_IGN);
+    }
+
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+    ~Watch()
+    {
+        for (const int number : Signals_To_Go())
+            std::signal(number, SIG_DFL);
+        asked_ = nullptr;
+        for (int& end : signal_pipe)
+            ::close(std::exchange(end, -1));
+    }
+
+  private:
+    std::unique_ptr<QSocketNotifier> asked_;
+};
+
 Session_End::Session_End(Program& program, Slot_Guard& guard, Startform& form)
     : program_(program), guard_(guard), form_(form)
 {
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
-        form_.Leave_Boxes();
-        guard_.Call([this] { Write_Settings(program_, false); });
-    });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Session_End::Save_Settings);
     program_to_save = &program;
     end_of_main_thread.Arm();
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_pipe) != 0)
-        return;
-    asked_ = new QSocketNotifier(signal_pipe[1], QSocketNotifier::Read, this);
-    connect(asked_, &QSocketNotifier::activated, this, [this] {
-        char byte = 0;
-        [[maybe_unused]] const auto count = ::read(signal_pipe[1], &byte, 1);
-        Asked_To_Go();
-    });
-    for (const int number : Signals_To_Go())
-        std::signal(number, On_Signal);
-    // A display that breaks while it is written to is to be noticed, not died of.
-    std::signal(SIGPIPE, SIG_IGN);
+    watch_ = std::make_unique<Watch>(*this);
 }
 
 Session_End::~Session_End()
 {
     program_to_save = nullptr;
-    for (const int number : Signals_To_Go())
-        std::signal(number, SIG_DFL);
-    for (int& end : signal_pipe)
-        ::close(std::exchange(end, -1));
-}
-
-/// Closes the box that is open, if one is: nobody answers it any more.
-static void Dismiss_Box()
-{
-    if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-        box->done(QDialog::Rejected);
-}
-
-void Session_End::Asked_To_Go()
-{
-    program_.Form.Asked_To_Go = true;
-    if (guard_.Ended()) {
-        Dismiss_Box(); // the last one; the program ends behind it
-        return;
-    }
-    if (!program_.Run.Run_In_Progress && !program_.Run.Press_In_Work) {
-        form_.close();
-        return;
-    }
-    guard_.Call([this] { btn_Halt_MouseUp(program_); });
-    Dismiss_Box();
-    // The run ends inside the slot that began it; look again once that may be over.
-    QTimer::singleShot(100, this, [this] { Asked_To_Go(); });
 }

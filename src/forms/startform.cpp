@@ -1,6 +1,8 @@
 #include "forms/startform.h"
 
 #include "forms/bindings.h"
+#include "forms/close_key.h"
+#include "forms/drawn_icon.h"
 #include "forms/looks.h"
 #include "forms/menu_bar.h"
 #include "forms/number_box_view.h"
@@ -10,9 +12,11 @@
 #include "forms/preset_menu.h"
 #include "forms/slot_guard.h"
 #include "forms/status_line.h"
+#include "forms/system_status.h"
 #include "forms/video_list_view.h"
 #include "forms/window_drop_target.h"
 #include "life/hand_clicks.h"
+#include "life/start_up.h"
 #include "rules/click_rules.h"
 #include "rules/language_filter.h"
 #include "rules/option_rules.h"
@@ -35,7 +39,8 @@ static void Load_Pictures()
 }
 
 Startform::Startform(Program& program, Slot_Guard& guard)
-    : program_(program), guard_(guard), ui_(std::make_unique<Ui::Startform>())
+    : program_(program), guard_(guard), ui_(std::make_unique<Ui::Startform>()),
+      system_(std::make_unique<System_Status>(*this))
 {
     Load_Pictures();
     ui_->setupUi(this);
@@ -64,6 +69,9 @@ Startform::Startform(Program& program, Slot_Guard& guard)
     status_ = new Status_Line(*this);
     new Window_Drop_Target(*this, *ui_->pic_VideosPath, program_, guard_);
     Set_Looks();
+    Watch_Close_Key(*this, [this] {
+        guard_.Call([this] { Form_Key_Down(program_, {.Code = Key::F4, .Modifiers = {.Alt = true}}); });
+    });
     qApp->installEventFilter(this);
 }
 
@@ -104,7 +112,7 @@ void Startform::Set_Looks()
     const QIcon folder = Picture(u"folder"_s, colours);
     for (QToolButton* browse : Browse_Buttons())
         browse->setIcon(folder);
-    ui_->img_ProcessFailed->setIcon(QIcon(u":/images/failed.svg"_s));
+    ui_->img_ProcessFailed->setIcon(Drawn_Icon(u"failed"_s));
     for (QFrame* box : Path_Boxes())
         box->setBackgroundRole(QPalette::Base);
 

@@ -17,6 +17,7 @@ class Path_Edit;
 class Slot_Guard;
 class Status_Line;
 class Summary_Label;
+class System_Status;
 class Video_List_View;
 struct Program;
 
@@ -102,6 +103,7 @@ class Startform : public QMainWindow, public Form_View
     Program& program_;
     Slot_Guard& guard_;
     std::unique_ptr<Ui::Startform> ui_;
+    std::unique_ptr<System_Status> system_;
     Options_Layout* options_ = nullptr;
     Video_List_View* list_ = nullptr;
     Summary_Label* summary_ = nullptr;

@@ -2,6 +2,7 @@
 #include "forms/slot_guard.h"
 #include "forms/startform.h"
 #include "forms/summary_label.h"
+#include "forms/system_status.h"
 #include "life/menu_commands.h"
 #include "life/start_up.h"
 #include "logs/results_digest.h"
@@ -43,5 +44,9 @@ void Startform::Render_Progress()
     ui_->pic_Progress->Set_Progress(form.Progress_Fraction, form.Progress);
     ui_->img_ProcessFailed->setIconSize(form.img_ProcessFailed_Out ? QSize(1, 1) : QSize(32, 32));
     summary_->Set_Look(form.Summary);
+    system_->Show({.In_Work = program_.Run.Run_In_Progress && !program_.Run.Checking,
+                   .Moving = program_.Run.Run_In_Progress,
+                   .Fraction = form.Progress_Fraction,
+                   .Failed = form.Summary == Summary_Look::Failures});
     question_->Render();
 }

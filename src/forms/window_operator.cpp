@@ -10,8 +10,8 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDBusConnection>
 #include <QDesktopServices>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileSystemModel>
@@ -184,7 +184,8 @@ QString Window_Operator::Pick_Folder(const QString& title, const QString& start)
             files->setNameFilters({u"/"_s});
             files->setNameFilterDisables(true);
         }
-        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+        return dialog.exec() == QDialog::Accepted ? QDir::toNativeSeparators(dialog.selectedFiles().value(0))
+                                                  : QString();
     });
 }
 
@@ -213,7 +214,10 @@ QStringList Window_Operator::Pick_File(const File_Question& question)
             dialog.selectNameFilter(filters[question.Filter_Index - 1]);
         if (!question.File_Name.isEmpty())
             dialog.selectFile(question.File_Name);
-        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+        QStringList files = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+        for (QString& file : files)
+            file = QDir::toNativeSeparators(file);
+        return files;
     });
 }
 
@@ -259,7 +263,7 @@ void Window_Operator::Copy_Text(const QString& text)
 void Window_Operator::Tell_If_Away(const QString& title, const QString& text)
 {
     if (QGuiApplication::applicationState() != Qt::ApplicationActive)
-        Show_Desktop_Notice(QDBusConnection::sessionBus(), *form_, title, text);
+        Show_Desktop_Notice(*form_, title, text);
 }
 
 void Window_Operator::Raise_Main_Form()

@@ -1,4 +1,4 @@
-#include "forms/desktop_notice.h"
+#include "forms/desktop_notice_posix.h"
 
 #include "forms/test_window.h"
 

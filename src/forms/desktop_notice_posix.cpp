@@ -1,3 +1,5 @@
+#include "forms/desktop_notice_posix.h"
+
 #include "forms/desktop_notice.h"
 
 #include <QApplication>
@@ -8,6 +10,11 @@
 #include <QVariantMap>
 
 using namespace Qt::StringLiterals;
+
+void Show_Desktop_Notice(QWidget& window, const QString& title, const QString& text)
+{
+    Show_Desktop_Notice(QDBusConnection::sessionBus(), window, title, text);
+}
 
 void Show_Desktop_Notice(const QDBusConnection& bus, QWidget& window, const QString& title, const QString& text)
 {
