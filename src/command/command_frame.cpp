@@ -12,6 +12,7 @@
 #include "inspect/stream_parser.h"
 #include "state/program.h"
 #include "support/paths.h"
+#include "support/platform_names.h"
 #include "support/run_time_error.h"
 
 #include <functional>
@@ -80,7 +81,7 @@ static void Find_Files_Beside(Program& program, const QString& videos_path, Asse
 /// The head: interface language, output, the source's tracks to take, and the switches.
 static void Append_Head(Command_Line& command, const Program& program, const Assembly& work)
 {
-    command.Add_Option(u" --ui-language "_s, u"en_US"_s);
+    command.Add_Option(u" --ui-language "_s, Tool_Language());
     command.Add_Path(u" --output "_s, work.Output_Path);
     work.Audio_Tracks.Append_To(command);
     work.Subtitle_Tracks.Append_To(command);

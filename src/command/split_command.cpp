@@ -5,6 +5,7 @@
 #include "command/track_order.h"
 #include "inspect/stream_parser.h"
 #include "state/program.h"
+#include "support/platform_names.h"
 #include "support/shown_text.h"
 #include "support/text.h"
 
@@ -45,7 +46,7 @@ void Assemble_Split_Command(Program& program, const QString& output_path, const 
         Join_Order({Source_Entries(streams, u"video"_s), Source_Entries(streams, u"audio"_s), QString()});
 
     Command_Line command;
-    command.Add_Option(u" --ui-language "_s, u"en_US"_s);
+    command.Add_Option(u" --ui-language "_s, Tool_Language());
     command.Add_Path(u" --output "_s, output_path);
     Append_Languages(command, streams);
     command.Add_Input(names.Path);

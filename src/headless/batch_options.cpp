@@ -4,6 +4,7 @@
 #include "headless/nearest_name.h"
 #include "life/app_folder.h"
 #include "state/settings_state.h"
+#include "support/paths.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -192,7 +193,7 @@ static QString Take_Folder(const QCommandLineParser& parser, const QString& name
     const QString value = parser.value(name);
     if (value.isEmpty())
         return u"--%1 wants a folder."_s.arg(name);
-    folder = QDir::current().absoluteFilePath(value);
+    folder = Absolute_Path(value);
     return {};
 }
 
@@ -210,8 +211,8 @@ static QString Take_Bare_Folders(const QStringList& positional, Batch_Options& o
                                                                                                         positional[1]);
     if (positional[0].isEmpty() || positional[1].isEmpty())
         return u"A folder's name is empty."_s;
-    options.Videos = QDir::current().absoluteFilePath(positional[0]);
-    options.Target = QDir::current().absoluteFilePath(positional[1]);
+    options.Videos = Absolute_Path(positional[0]);
+    options.Target = Absolute_Path(positional[1]);
     return {};
 }
 
@@ -243,6 +244,14 @@ static QString Take_Jobs(const QCommandLineParser& parser, Batch_Options& option
     return {};
 }
 
+/// Patterns hold the separators of paths, as they are written here or elsewhere.
+static QStringList With_Own_Separators(QStringList patterns)
+{
+    for (QString& pattern : patterns)
+        pattern = QDir::toNativeSeparators(pattern);
+    return patterns;
+}
+
 static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& options)
 {
     const bool classic = parser.isSet(u"classic"_s);
@@ -257,8 +266,8 @@ static QString Take_Choice(const QCommandLineParser& parser, Batch_Options& opti
     options.Recursive = parser.isSet(u"recursive"_s);
     options.Resume = parser.isSet(u"resume"_s);
     options.Only_Failed = parser.isSet(u"failed"_s);
-    options.Only = parser.values(u"only"_s);
-    options.Leave_Out = parser.values(u"leave-out"_s);
+    options.Only = With_Own_Separators(parser.values(u"only"_s));
+    options.Leave_Out = With_Own_Separators(parser.values(u"leave-out"_s));
     if (options.Only.contains(QString()) || options.Leave_Out.contains(QString()))
         return u"--only and --leave-out want a pattern."_s;
     return Take_Part(parser, options.Part);
@@ -282,7 +291,7 @@ static QString Take_Positional(const QStringList& positional, Batch_Options& opt
         return Take_Bare_Folders(positional, options);
     if (options.Command == Batch_Command::Identify) {
         for (const QString& file : positional)
-            options.Files += QDir::current().absoluteFilePath(file);
+            options.Files += Absolute_Path(file);
         return positional.isEmpty() ? u"identify wants at least one file."_s : QString();
     }
     return positional.isEmpty() ? QString() : u"\"%1\" is one word too many."_s.arg(positional.constFirst());

@@ -2,6 +2,8 @@
 
 #include "headless/print.h"
 #include "logs/log_rotation.h"
+#include "support/disk_steps.h"
+#include "support/last_error.h"
 #include "support/paths.h"
 #include "support/plain_file.h"
 #include "support/run_time_error.h"
@@ -12,7 +14,6 @@
 #include <QFile>
 #include <QStringDecoder>
 #include <cerrno>
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +32,7 @@ static void Print_All(const QString& log, std::FILE* out)
     constexpr qint64 piece = 1 << 20;
     QFile file;
     Open_Plain_File(file, log, u"Opening the process log to print it"_s);
-    errno = 0;
+    Forget_Last_Error();
     QStringDecoder decoder(QStringDecoder::Utf8);
     QByteArray bytes;
     QString held_back;
@@ -42,7 +43,7 @@ static void Print_All(const QString& log, std::FILE* out)
         Print_Lines(out, text.replace(Line_Break, u"\n"_s));
     }
     if (file.error() != QFileDevice::NoError)
-        Raise_File_Error(u"Reading the process log to print it"_s, log, errno);
+        Raise_File_Error(u"Reading the process log to print it"_s, log, Last_Error());
     Print_Lines(out, held_back);
 }
 
@@ -52,10 +53,9 @@ bool Print_Log(const QString& app_folder, bool full, std::FILE* out)
     const QString log = Process_Log_Path(app_folder);
     if (!File_Exists(log)) {
         // A folder that can't be entered isn't one without a log.
-        std::error_code error;
-        const bool is_there = std::filesystem::exists(QFile::encodeName(log).toStdString(), error);
-        if (!is_there && error)
-            Raise_File_Error(u"Opening the process log to print it"_s, log, error.value());
+        const int error = Held_File().Open(log);
+        if (error == EACCES || error == ELOOP)
+            Raise_File_Error(u"Opening the process log to print it"_s, log, error);
         return false;
     }
     if (full)

@@ -1,6 +1,6 @@
 #include "headless/progress_bar.h"
 
-#include "headless/patient_output.h"
+#include "headless/print.h"
 
 #include <QStringList>
 #include <algorithm>
@@ -45,10 +45,7 @@ void Progress_Bar::Show_Line(const Bar_Facts& facts)
     if (line_of_ == facts.Index)
         return;
     line_of_ = facts.Index;
-    const QByteArray bytes = Facts_Text(facts).toUtf8() + '\n';
-    Wait_For_Reader(stream_);
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
-    std::fflush(stream_);
+    Print_Text(stream_, Facts_Text(facts) + u'\n');
 }
 
 Progress_Bar::~Progress_Bar()
@@ -60,8 +57,6 @@ void Progress_Bar::Wipe()
 {
     if (shown_.isEmpty())
         return;
-    Wait_For_Reader(stream_);
-    std::fputs("\r\033[K", stream_);
-    std::fflush(stream_);
+    Print_Text(stream_, Wiped_Line);
     shown_.clear();
 }

@@ -42,6 +42,9 @@ class Progress_Bar
     QString shown_;
 };
 
+/// Takes the cursor to the start of a line that is drawn over, and what stands on the line away.
+inline const QString Wiped_Line = QStringLiteral("\r\033[K");
+
 /// "17/40 43% 210 MB/s 0:03:10 name"; what isn't known is left out.
 QString Facts_Text(const Bar_Facts& facts);
 

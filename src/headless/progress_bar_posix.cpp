@@ -1,6 +1,6 @@
 #include "headless/progress_bar.h"
 
-#include "headless/patient_output.h"
+#include "headless/print.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -28,10 +28,6 @@ void Progress_Bar::Show(const Bar_Facts& facts)
     const QString text = Bar_Text(facts, known ? size.ws_col - 1 : 79);
     if (text == shown_)
         return;
-    const QByteArray bytes = text.toUtf8();
-    Wait_For_Reader(stream_);
-    std::fputs("\r\033[K", stream_);
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
-    std::fflush(stream_);
+    Print_Text(stream_, Wiped_Line + text);
     shown_ = text;
 }

@@ -2,6 +2,7 @@
 
 #include "state/program.h"
 #include "support/memory_file.h"
+#include "support/platform_names.h"
 #include "support/shown_text.h"
 #include "tools/ask_tool.h"
 
@@ -18,7 +19,7 @@ QString Why_Chapters_Are_Refused(Program& program)
     const Memory_File unwritten(made);
     const QString path = made.isEmpty() ? file : unwritten.Path();
     Command_Line command;
-    command.Add_Option(u" --ui-language "_s, u"en_US"_s);
+    command.Add_Option(u" --ui-language "_s, Tool_Language());
     command.Add_Path(u" --output "_s, QProcess::nullDevice());
     command.Add_Path(u" --chapters "_s, path);
     const Tool_Answer answer = Ask_Tool(program, program.Tools.System_MKVMerge_Path, command);

@@ -2,6 +2,7 @@
 
 #include "inspect/json_value.h"
 #include "state/program.h"
+#include "support/platform_names.h"
 #include "tools/ask_tool.h"
 
 using namespace Qt::StringLiterals;
@@ -62,7 +63,7 @@ std::optional<Identified_File> Parse_Identification(const QByteArray& json)
 static Command_Line Question_About(const QString& path)
 {
     Command_Line command;
-    command.Add_Option(u" --ui-language "_s, u"en_US"_s);
+    command.Add_Option(u" --ui-language "_s, Tool_Language());
     command.Add_Options(u" --identification-format json"_s);
     command.Add_Path(u" --identify "_s, path);
     return command;

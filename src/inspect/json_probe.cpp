@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 Command_Line Json_Probe_Command(const QString& path)
 {
     Command_Line command;
-    const bool plain = path.startsWith(Path_Separator);
+    const bool plain = Is_Absolute_Path(path);
     command.Add_Path(u" -v error -print_format json -show_format -show_streams "_s, plain ? path : u"file:"_s + path);
     return command;
 }

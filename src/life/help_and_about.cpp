@@ -6,6 +6,7 @@
 #include "support/text.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
@@ -26,8 +27,8 @@ QString Find_Help_File(const QString& app_folder, const QStringList& other_folde
 void mnu_Help_Click(Program& program)
 {
     const QString programs = QCoreApplication::applicationDirPath();
-    const QString path =
-        Find_Help_File(program.Settings.App_Folder, {programs, programs + u"/../share/doc/vantorra"_s});
+    const QString path = QDir::toNativeSeparators(
+        Find_Help_File(program.Settings.App_Folder, {programs, programs + u"/../share/doc/vantorra"_s}));
     if (File_Exists(path)) {
         program.Help.File = path;
         if (!program.Person.Open_Document(path))

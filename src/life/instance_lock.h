@@ -4,9 +4,6 @@
 #include <functional>
 #include <memory>
 
-class QFileSystemWatcher;
-class QLockFile;
-
 /// Lets one window at a time work with a program's folder; two windows with two folders run side by side. A window
 /// that crashed blocks nobody. Held until the object ends.
 class Instance_Lock
@@ -26,7 +23,6 @@ class Instance_Lock
     void When_Called(std::function<void()> answer);
 
   private:
-    QString file_;
-    std::unique_ptr<QLockFile> lock_;
-    std::unique_ptr<QFileSystemWatcher> calls_;
+    struct Platform; ///< what the lock is made of
+    std::unique_ptr<Platform> platform_;
 };

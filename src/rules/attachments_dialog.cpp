@@ -7,6 +7,8 @@
 #include "support/paths.h"
 #include "support/text.h"
 
+#include <QDir>
+
 using namespace Qt::StringLiterals;
 
 static void Caption_Add_Attachments(JobOptions& options, bool path_set)
@@ -82,7 +84,7 @@ void chk_UseSubfolders_Click(Program& program)
 void mnu_PopupAttachBrowse1_Click(Program& program)
 {
     QString& path = program.Options.Path_Attachments;
-    const QString start = path.isEmpty() ? u"/"_s : path;
+    const QString start = path.isEmpty() ? QDir::toNativeSeparators(QDir::rootPath()) : path;
     const QString chosen = program.Person.Pick_Folder(u"Select the Attachment folder."_s, start);
     if (!chosen.isEmpty())
         path = Cut_At_Nul(With_Separator(chosen));

@@ -4,12 +4,13 @@
 #include "support/drop_data.h"
 #include "support/form_placement.h"
 #include "support/paths.h"
+#include "support/platform_names.h"
 #include "tools/failure_reports.h"
 #include "tools/tool_discovery.h"
 
 using namespace Qt::StringLiterals;
 
-static const QString MKVMerge_Name = u"mkvmerge"_s;
+static const QString MKVMerge_Name = Executable_Name(u"mkvmerge"_s);
 
 static void Show(Label& label, const QString& caption)
 {
@@ -134,7 +135,7 @@ void Locations_mnu_PopupMKVMergeBrowse1(Program& program, frm_Locations& form)
         program.Person.Pick_File({.Title = u"Find and select the mkvmerge.exe file."_s,
                                   .Start_Folder = File_Exists(path) ? Folder_Of(path) : program.Settings.App_Folder,
                                   .File_Name = MKVMerge_Name,
-                                  .Filter = u"Program Files (mkvmerge)|mkvmerge|All Files (*)|*|"_s});
+                                  .Filter = u"Program Files (%1)|%1|All Files (*)|*|"_s.arg(MKVMerge_Name)});
     int code = 0;
     Check_Path(chosen.value(0), MKVMerge_Name, code);
     if (code == 0) {

@@ -5,6 +5,7 @@
 #include "settings/preset_names.h"
 #include "state/program.h"
 #include "support/disk_steps.h"
+#include "support/paths.h"
 #include "support/shown_text.h"
 #include "support/string_builder.h"
 #include "support/trash.h"
@@ -26,7 +27,7 @@ static QString Why_Not(const Program& program, const QString& name)
     const QString& folder = program.Settings.App_Folder;
     const QString there = Preset_Path(folder, name);
     // Its own name in other letters leads to itself.
-    return QFileInfo::exists(there) && there != Preset_Path(folder, present)
+    return QFileInfo::exists(there) && there.compare(Preset_Path(folder, present), Case_Of_Names) != 0
                ? u"There is a preset of that name already."_s
                : QString();
 }

@@ -46,7 +46,7 @@ void Insert_Recent_Folder(QStringList& list, const QString& folder)
 void Remove_Recent_Folder(QStringList& list, const QString& folder)
 {
     if (!folder.isEmpty())
-        list.removeAll(folder);
+        list.removeIf([&folder](const QString& other) { return other.compare(folder, Case_Of_Names) == 0; });
 }
 
 void img_SourceMRU_MouseDown(Program& program)

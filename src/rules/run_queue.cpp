@@ -16,11 +16,12 @@ using namespace Qt::StringLiterals;
 static QString Why_Not_Queued(const Program& program, const QString& folder)
 {
     const std::vector<Queued_Run>& runs = program.Queue.Runs;
-    if (folder == program.Options.Path_Videos)
+    const auto is_folder = [&folder](const QString& other) { return folder.compare(other, Case_Of_Names) == 0; };
+    if (is_folder(program.Options.Path_Videos))
         return u"That folder is in work."_s;
-    if (folder == program.Options.Path_Target)
+    if (is_folder(program.Options.Path_Target))
         return u"That folder is the target."_s;
-    if (std::any_of(runs.begin(), runs.end(), [&](const Queued_Run& queued) { return queued.Folder == folder; }))
+    if (std::any_of(runs.begin(), runs.end(), [&](const Queued_Run& queued) { return is_folder(queued.Folder); }))
         return u"That folder is to be run next already."_s;
     return {};
 }

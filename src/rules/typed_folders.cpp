@@ -24,14 +24,17 @@ static QString Unquoted(const QString& text)
         if (url.host() == "localhost"_L1)
             url.setHost({});
         if (QString path = url.toLocalFile(); !path.isEmpty())
-            return path;
+            return QDir::toNativeSeparators(path);
     }
-    return plain;
+    return QDir::toNativeSeparators(plain);
 }
 
-/// As a shell shows a name that holds blanks: each backslash stands for the letter behind it.
+/// As a shell shows a name that holds blanks: each backslash stands for the letter behind it. Not so where it is the
+/// separator.
 static QString Without_Backslashes(const QString& text)
 {
+    if (Path_Separator == u'\\')
+        return text;
     QString plain;
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (text[i] == u'\\' && i + 1 < text.size())
@@ -43,18 +46,22 @@ static QString Without_Backslashes(const QString& text)
 
 static QString From_Root(const QString& text, const QString& base)
 {
-    if (text.isEmpty() || text.startsWith(Path_Separator))
+    if (text.isEmpty() || Is_Absolute_Path(text))
         return text;
-    if (text == "~"_L1 || text.startsWith("~/"_L1))
-        return QDir::homePath() + text.sliced(1);
-    const QString path = QDir::cleanPath(With_Separator(base.isEmpty() ? QDir::homePath() : base) + text);
+    const QString home = QDir::toNativeSeparators(QDir::homePath());
+    if (text == "~"_L1 || text.startsWith(u"~"_s + Path_Separator))
+        return home + text.sliced(1);
+    const QString from = With_Separator(base.isEmpty() ? home : base);
+    // One that begins with a separator goes out from the drive.
+    const QString whole = text.startsWith(Path_Separator) ? Absolute_Path(text, from) : from + text;
+    const QString path = QDir::toNativeSeparators(QDir::cleanPath(whole));
     return text.endsWith(Path_Separator) ? With_Separator(path) : path;
 }
 
 QString Path_Of_Typing(const QString& text, const QString& base)
 {
     const QString plain = Unquoted(text);
-    for (const QString& reading : {text, plain, Without_Backslashes(plain)})
+    for (const QString& reading : {QDir::toNativeSeparators(text), plain, Without_Backslashes(plain)})
         if (QString path = From_Root(reading, base); !Folder_Of(path).isEmpty())
             return path;
     return From_Root(plain, base);

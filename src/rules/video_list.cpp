@@ -23,7 +23,7 @@ bool Has_Output(const Video_Row& row)
 
 static Video_Row Row_Of_Path(const QString& path)
 {
-    const qsizetype name = path.lastIndexOf(u'/') + 1;
+    const qsizetype name = path.lastIndexOf(Path_Separator) + 1;
     Video_Row row;
     row.Name = path.sliced(name);
     row.Sub_Path = path.first(name);

@@ -66,7 +66,8 @@ static bool Is_In_Part(const Careful_Walk& walk, const QString& name)
     const Shard& part = walk.Prog.Run.Choice.Part;
     if (part.Of == 1)
         return true;
-    const QString output = walk.Folders.Sub + Output_Base_Of(walk.Prog, walk.Folders.Videos + name).toLower();
+    QString output = walk.Folders.Sub + Output_Base_Of(walk.Prog, walk.Folders.Videos + name).toLower();
+    output.replace(Path_Separator, u'/');
     const QByteArray hash = QCryptographicHash::hash(output.toUtf8(), QCryptographicHash::Sha1);
     return qFromBigEndian<quint32>(hash.constData()) % static_cast<quint32>(part.Of) + 1 ==
            static_cast<quint32>(part.Number);

@@ -74,7 +74,7 @@ struct Careful_Walk
     std::vector<std::unique_ptr<Working_Folder>> Spare; ///< working folders that no video has at the moment
     std::vector<Folder_Entry> Videos; ///< every entry of the folder with a video's extension, in order
     QStringList Bases;                ///< their base names in lower case
-    QHash<QString, QString> Claims;   ///< name in the target folder to the source it belongs to in this run
+    QHash<QString, QString> Claims;   ///< name in the target folder, by Key_Of_Name, to the source it belongs to
     QSet<QString> Done;               ///< names of the videos that are done, also before this run
     std::vector<Folder_Entry> Chosen; ///< those of Videos that this run takes in work
     std::size_t Begun = 0;            ///< so many of them were handed out

@@ -1,8 +1,8 @@
 #include "run/final_name.h"
 
+#include "support/disk_names.h"
 #include "support/paths.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <cerrno>
@@ -14,13 +14,18 @@ Target_Before::Target_Before(const QString& target) : folder_(With_Separator(tar
     int error = 0;
     for (const Folder_Entry& entry : List_Entries(folder_, error))
         if (const auto identity = Identity_Of_Name(folder_ + entry.Name))
-            entries_.insert(entry.Name, *identity);
+            entries_.insert(Key_Of_Name(entry.Name), {entry.Name, *identity});
 }
 
 std::optional<File_Identity> Target_Before::At(const QString& name) const
 {
-    const auto found = entries_.constFind(name);
-    return found == entries_.constEnd() ? std::nullopt : std::optional(*found);
+    const auto found = entries_.constFind(Key_Of_Name(name));
+    return found == entries_.constEnd() ? std::nullopt : std::optional(found->Identity);
+}
+
+QString Target_Before::Name_There(const QString& name) const
+{
+    return entries_.value(Key_Of_Name(name)).Name;
 }
 
 /// `name` as what stands ahead of its extension and the extension with its dot.
@@ -34,11 +39,13 @@ QStringList Target_Before::Pieces_Of(const QString& name) const
 {
     const auto [base, extension] = Halves(name);
     const QRegularExpression piece(
-        u"\\A%1-[0-9]{3,}%2\\z"_s.arg(QRegularExpression::escape(base), QRegularExpression::escape(extension)));
+        u"\\A%1-[0-9]{3,}%2\\z"_s.arg(QRegularExpression::escape(base), QRegularExpression::escape(extension)),
+        Case_Of_Names == Qt::CaseSensitive ? QRegularExpression::NoPatternOption
+                                           : QRegularExpression::CaseInsensitiveOption);
     QStringList pieces;
-    for (auto entry = entries_.keyBegin(); entry != entries_.keyEnd(); ++entry)
-        if (piece.match(*entry).hasMatch())
-            pieces += *entry;
+    for (const Entry& entry : entries_)
+        if (piece.match(entry.Name).hasMatch())
+            pieces += entry.Name;
     pieces.sort();
     return pieces;
 }
@@ -53,7 +60,7 @@ QString Marked_Name(const QString& name, const QString& word, int longest)
 {
     auto [base, extension] = Halves(name);
     const QString end = u" ("_s + word + u')' + extension;
-    while (!base.isEmpty() && QFile::encodeName(base + end).size() > longest)
+    while (!base.isEmpty() && Length_On_Disk(base + end) > longest)
         base.chop(base.size() > 1 && base.back().isLowSurrogate() ? 2 : 1);
     return base + end;
 }
@@ -63,7 +70,8 @@ static QStringList Standing(const Target_Before& before, const QString& name, bo
 {
     if (split)
         return before.Pieces_Of(name);
-    return before.At(name) ? QStringList{name} : QStringList();
+    const QString there = before.Name_There(name);
+    return there.isEmpty() ? QStringList() : QStringList{there};
 }
 
 Name_Choice Choose_Name(const Target_Before& before, const QString& name, bool split, Output_Exists choice,
@@ -79,7 +87,7 @@ Name_Choice Choose_Name(const Target_Before& before, const QString& name, bool s
         break;
     case Output_Exists::Number: {
         const int longest = Longest_Name(before.Folder()) - (split ? 4 : 0);
-        for (int number = 1; !chosen.Old.isEmpty() || taken.contains(chosen.Name); ++number) {
+        for (int number = 1; !chosen.Old.isEmpty() || taken.contains(Key_Of_Name(chosen.Name)); ++number) {
             chosen.Name = Marked_Name(name, QString::number(number), longest);
             chosen.Old = Standing(before, chosen.Name, split);
         }

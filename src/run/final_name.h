@@ -21,14 +21,23 @@ class Target_Before
     /// What stood under that name; nothing if nothing did.
     std::optional<File_Identity> At(const QString& name) const;
 
+    /// The name as the folder has it, where capitals don't make another one; empty if nothing stood there.
+    QString Name_There(const QString& name) const;
+
     /// The names that are pieces of a split whose output is `name`: "Film-001.mkv" for "Film.mkv".
     QStringList Pieces_Of(const QString& name) const;
 
     const QString& Folder() const { return folder_; }
 
   private:
+    struct Entry
+    {
+        QString Name;
+        File_Identity Identity;
+    };
+
     QString folder_;
-    QHash<QString, File_Identity> entries_;
+    QHash<QString, Entry> entries_; ///< by Key_Of_Name
 };
 
 /// The names that one video's output is to get.
@@ -39,15 +48,16 @@ struct Name_Choice
     QString Skip_Reason; ///< not empty: the video is left alone
 };
 
-/// Chooses by what stood there before. The keys of `taken` are the names that this run has given or is about to
-/// give, which Output_Exists::Number steps over.
+/// Chooses by what stood there before. The keys of `taken`, by Key_Of_Name, are the names that this run has given or is
+/// about to give, which Output_Exists::Number steps over.
 Name_Choice Choose_Name(const Target_Before& before, const QString& name, bool split, Output_Exists choice,
                         const QHash<QString, QString>& taken);
 
 /// "Film-002.mkv": piece 2 of "Film.mkv".
 QString Piece_Name(const QString& name, int number);
 
-/// "Film (old 1).mkv": `name` with a word ahead of its extension, the base cut so that it fits into `longest` bytes.
+/// "Film (old 1).mkv": `name` with a word ahead of its extension, the base cut so that it fits into `longest`, as
+/// Length_On_Disk counts it.
 QString Marked_Name(const QString& name, const QString& word, int longest);
 
 /// What became of the names.

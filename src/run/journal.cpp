@@ -198,8 +198,8 @@ static QStringList Files_That_Go_With(const Program& program, const QString& sou
     for (const QString& folder : folders)
         Add_Companions(folder, base, masks, known, files);
     if (program.Run.Add_Attachments_On)
-        for (const QString& folder :
-             {options.Path_Attachments, options.Path_Attachments + Get_Base_Name(source) + u"_Attachments/"_s})
+        for (const QString& folder : {options.Path_Attachments, options.Path_Attachments + Get_Base_Name(source) +
+                                                                    u"_Attachments"_s + Path_Separator})
             Add_Companions(folder, {}, u"*"_s, known, files);
     // A classic run makes these anew of the text beside them.
     files.removeIf([](const QString& file) {

@@ -93,9 +93,9 @@ QHash<QString, QString> Makers_Of_Outputs(const Journal_Results& results)
     QHash<QString, QDateTime> made;
     for (const auto& [source, entry] : results.asKeyValueRange())
         for (const QString& output : Has_Its_Outputs(entry) ? entry.Outputs : QStringList())
-            if (!made.contains(output) || made[output] <= entry.When) {
-                made[output] = entry.When;
-                makers[output] = File_Name_Of(source);
+            if (const QString key = Key_Of_Name(output); !made.contains(key) || made[key] <= entry.When) {
+                made[key] = entry.When;
+                makers[key] = File_Name_Of(source);
             }
     return makers;
 }

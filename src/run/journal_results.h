@@ -28,7 +28,8 @@ using Journal_Results = QHash<QString, Journal_Entry>;
 /// Reads every journal file. What is no line of a journal is passed over.
 Journal_Results Read_Journal(const QString& app_folder);
 
-/// The video's name that each output was made of last, by the output's path, as far as it still stands there.
+/// The video's name that each output was made of last, by Key_Of_Name of the output's path, as far as it still stands
+/// there.
 QHash<QString, QString> Makers_Of_Outputs(const Journal_Results& results);
 
 /// The size of all these files; one that is gone has none.

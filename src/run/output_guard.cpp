@@ -1,20 +1,13 @@
 #include "run/output_guard.h"
 
 #include "support/disk_names.h"
+#include "support/disk_steps.h"
 #include "support/files.h"
+#include "support/link_end.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
 
-#include <QFileInfo>
-#include <filesystem>
-
 using namespace Qt::StringLiterals;
-namespace fs = std::filesystem;
-
-static fs::path Guarded_Path(const QString& text)
-{
-    return Bytes_Of_Name(text).toStdString();
-}
 
 static QString Input_That_Is_Output(const Command_Line& command, const QString& output)
 {
@@ -40,31 +33,13 @@ static QString File_That_Is_Output(const Command_Line& command, const QString& o
     return {};
 }
 
-/// The file that a chain of links leads to, whether or not it is there; empty for one that goes round in circles.
-static fs::path End_Of_Links(fs::path file)
-{
-    constexpr int longest_chain = 40;
-    std::error_code error;
-    for (int steps = 0; steps < longest_chain; ++steps) {
-        if (!fs::is_symlink(file, error))
-            return fs::weakly_canonical(file.parent_path(), error) / file.filename();
-        file = file.parent_path() / fs::read_symlink(file, error);
-    }
-    return {};
-}
-
 /// Where an output that is a symbolic link leads to, if that isn't in the target folder or below it.
 static QString Outside_Of_Target(const QString& output, const QString& target)
 {
-    std::error_code error;
-    if (!fs::is_symlink(Guarded_Path(output), error))
+    const std::optional<QString> leads_to = End_Of_Links(output);
+    if (!leads_to || leads_to->startsWith(With_Separator(Without_Links(target)), Case_Of_Names))
         return {};
-    const fs::path end = End_Of_Links(Guarded_Path(output));
-    const QString inside = With_Separator(QFileInfo(target).canonicalFilePath());
-    const QString leads_to = Text_Of_Name(QByteArray::fromStdString(end.string()));
-    if (leads_to.startsWith(inside))
-        return {};
-    return leads_to.isEmpty() ? output : leads_to;
+    return leads_to->isEmpty() ? output : *leads_to;
 }
 
 /// True if the file has hard links that aren't names in the target folder.
@@ -74,11 +49,11 @@ static bool Has_Names_Elsewhere(const QString& output, const QString& target)
     if (!file || file->Names < 2)
         return false;
     std::uint64_t names_here = 0;
-    std::error_code error;
-    for (fs::directory_iterator entry(Guarded_Path(target), error), end; !error && entry != end;
-         entry.increment(error)) {
-        std::error_code entry_error;
-        if (!entry->is_symlink(entry_error) && fs::equivalent(entry->path(), Guarded_Path(output), entry_error))
+    int error = 0;
+    for (const Folder_Entry& entry : List_Entries(target, error)) {
+        // Of the name itself: a symbolic link is no name of the file.
+        const auto here = Identity_Of_Name(With_Separator(target) + entry.Name);
+        if (here && here->Is_Same_File(*file))
             ++names_here;
     }
     return file->Names > names_here;
@@ -88,6 +63,8 @@ static QString Why_One_Is_Not_Written(const Command_Line& command, const QString
                                       const Guarded_Folders& folders)
 {
     const QString shown = As_One_Line(output);
+    if (const QString why = Why_Not_A_Name(File_Name_Of(output)); !why.isEmpty())
+        return u"the name of the output \"%1\" %2. Rename the video."_s.arg(shown, why);
     if (const QString file = File_That_Is_Output(command, output, folders.Videos); !file.isEmpty())
         return u"the output \"%1\" is the same file on disk as \"%2\", which would be destroyed. Choose another target "
                u"folder."_s.arg(shown, As_One_Line(file));
@@ -111,7 +88,7 @@ QString Why_Not_Written(const Command_Line& command, const QStringList& outputs,
 QString Written_Outputs::Writer_Of(const QStringList& outputs) const
 {
     for (const QString& output : outputs) {
-        if (const auto writer = by_path_.constFind(output); writer != by_path_.constEnd())
+        if (const auto writer = by_path_.constFind(Key_Of_Name(output)); writer != by_path_.constEnd())
             return *writer;
         const auto file = Identity_Of(output);
         const auto writer = file ? by_file_.constFind({file->Device, file->Number}) : by_file_.constEnd();
@@ -124,7 +101,7 @@ QString Written_Outputs::Writer_Of(const QStringList& outputs) const
 void Written_Outputs::Note(const QString& source, const QStringList& outputs)
 {
     for (const QString& output : outputs) {
-        by_path_.insert(output, source);
+        by_path_.insert(Key_Of_Name(output), source);
         if (const auto file = Identity_Of(output))
             by_file_.insert({file->Device, file->Number}, source);
     }

@@ -4,8 +4,9 @@
 
 bool Run_Folders::Read_From(const QString& folder) const
 {
-    return folder == Videos || folder == Audios || folder == Subtitles || folder == Chapters ||
-           (!Attachments.isEmpty() && folder.startsWith(Attachments));
+    const auto is_one = [&folder](const QString& other) { return folder.compare(other, Case_Of_Names) == 0; };
+    return is_one(Videos) || is_one(Audios) || is_one(Subtitles) || is_one(Chapters) ||
+           (!Attachments.isEmpty() && folder.startsWith(Attachments, Case_Of_Names));
 }
 
 Run_Folders Folders_Of(const JobOptions& options)

@@ -1,14 +1,12 @@
 #include "run/split_pieces.h"
 
-#include "support/disk_names.h"
+#include "support/disk_steps.h"
 #include "support/paths.h"
 
 #include <QRegularExpression>
-#include <filesystem>
 #include <map>
 
 using namespace Qt::StringLiterals;
-namespace fs = std::filesystem;
 
 /// Matches the names of an output's pieces; the first group is the number.
 static QRegularExpression Piece_Name(const QString& output_name)
@@ -38,13 +36,10 @@ QStringList Pieces_Beside(const QString& output)
     const QString folder = output.left(output.lastIndexOf(Path_Separator) + 1);
     const QRegularExpression piece = Piece_Name(File_Name_Of(output));
     std::multimap<qulonglong, QString> pieces;
-    std::error_code error;
-    for (fs::directory_iterator entry(fs::path(Bytes_Of_Name(folder).toStdString()), error), end;
-         !error && entry != end; entry.increment(error)) {
-        const QString name = Text_Of_Name(QByteArray::fromStdString(entry->path().filename().string()));
-        if (const QRegularExpressionMatch match = piece.match(name); match.hasMatch())
-            pieces.emplace(match.captured(1).toULongLong(), folder + name);
-    }
+    int error = 0;
+    for (const Folder_Entry& entry : List_Entries(folder, error))
+        if (const QRegularExpressionMatch match = piece.match(entry.Name); match.hasMatch())
+            pieces.emplace(match.captured(1).toULongLong(), folder + entry.Name);
     QStringList paths;
     for (const auto& [number, path] : pieces)
         paths += path;

@@ -5,6 +5,7 @@
 #include "state/program.h"
 #include "support/paths.h"
 #include "support/signal_name.h"
+#include "support/system_identification.h"
 #include "support/text.h"
 #include "support/whole_file.h"
 #include "tools/tool_runner.h"
@@ -73,7 +74,7 @@ bool Mux(Video_Work& work)
         return Halted(work);
     Note_Start_Of_Tool(work);
     if (run.Pipe_Result == 0 || run.Process_Result != -1)
-        return Fail(work, u"mkvmerge couldn't be started: "_s + System_Words(run.Process_Result));
+        return Fail(work, u"mkvmerge couldn't be started: "_s + Format_System_Error(run.Process_Result));
     if (!run.Exit_Status)
         return Fail(work, u"it isn't known how mkvmerge ended"_s);
     return work.Outcome.Exit == 0 || work.Outcome.Exit == 1 ? true : Fail(work, Why_It_Failed(work.Outcome.Exit, said));

@@ -52,7 +52,7 @@ static QString Why_Not_Replaced(Video_Work& work)
     if (!work.Names.Old.isEmpty() && !run.Makers)
         run.Makers = Makers_Of_Outputs(Read_Journal(run.Prog.Settings.App_Folder));
     for (const QString& old : work.Names.Old) {
-        const QString maker = run.Makers->value(work.Walk.Before.Folder() + old);
+        const QString maker = run.Makers->value(Key_Of_Name(work.Walk.Before.Folder() + old));
         if (!maker.isEmpty() && maker != File_Name_Of(work.Outcome.Source))
             return u"its output would replace \"%1\", which was made of \"%2\": rename the video, or move that away"_s
                 .arg(old, maker);
@@ -75,11 +75,13 @@ bool Choose_Output(Video_Work& work)
         return Give_Up(work, File_Outcome::Kind::Skipped, work.Names.Skip_Reason);
     work.Outcome.Replaces = work.Names.Old;
     const QString& chosen = work.Names.Name;
-    if (const auto first = walk.Claims.constFind(chosen); first != walk.Claims.constEnd())
+    if (const QString why = Why_Not_A_Name(work.Split ? Piece_Name(chosen, 1) : chosen); !why.isEmpty())
+        return Fail(work, u"its output's name \"%1\" %2: rename the video"_s.arg(chosen, why));
+    if (const auto first = walk.Claims.constFind(Key_Of_Name(chosen)); first != walk.Claims.constEnd())
         return Fail(work, u"its output would be \"%1\", as that of \"%2\""_s.arg(chosen, first.value()));
     if (const QString why = Why_Not_Replaced(work); !why.isEmpty())
         return Fail(work, why);
-    walk.Claims.insert(chosen, File_Name_Of(work.Outcome.Source));
+    walk.Claims.insert(Key_Of_Name(chosen), File_Name_Of(work.Outcome.Source));
     work.Outcome.Output = walk.Before.Folder() + chosen;
     const auto old = Identity_Of_Name(work.Outcome.Output);
     if (old && old->Is_Same_File(work.Source.Identity()))

@@ -5,6 +5,7 @@
 #include "support/paths.h"
 #include "support/shown_text.h"
 
+#include <QDir>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -34,7 +35,9 @@ QStringList Preset_Names(const QString& app_folder)
 
 QString Preset_Path(const QString& app_folder, const QString& name)
 {
-    if (name.isEmpty() || name.startsWith(u'.') || name.contains(Path_Separator) || name.contains(QChar(u'\0')))
+    const bool leads_elsewhere = QDir::toNativeSeparators(name).contains(Path_Separator);
+    if (name.isEmpty() || name.startsWith(u'.') || leads_elsewhere || name.contains(QChar(u'\0')) ||
+        !Why_Not_A_Name(name + Extension).isEmpty())
         return {};
     return As_On_Disk(Presets_Folder(app_folder) + name + Extension);
 }
@@ -51,6 +54,8 @@ QString Why_No_Preset_Name(const QString& name)
         return u"The name can't begin with a dot."_s;
     if (Has_Stand_Ins(plain) || std::any_of(plain.begin(), plain.end(), Can_Mislead))
         return u"The name can't hold line breaks or other control characters."_s;
+    if (const QString why = Why_Not_A_Name(plain + Extension); !why.isEmpty())
+        return u"The name "_s + why + u'.';
     const qsizetype too_many = Bytes_Of_Name(plain + Extension).size() - longest_name;
     if (too_many > 0)
         return u"The name is too long: it is stored in %1 bytes, and %2 are left for it."_s

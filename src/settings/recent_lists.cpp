@@ -6,6 +6,7 @@
 #include "support/paths.h"
 #include "support/text.h"
 
+#include <QDir>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -30,7 +31,7 @@ static void Read_List(const Stored_List& stored, QString value)
     }
     if (value.isEmpty())
         return;
-    const QStringList folders = Split_Text(value, u";"_s).mid(0, Stored_Limit);
+    const QStringList folders = Split_Text(QDir::toNativeSeparators(value), u";"_s).mid(0, Stored_Limit);
     const auto if_there = [](const QString& folder) { return Folder_Exists(folder) ? folder : QString(); };
     stored.Path = if_there(folders.constFirst());
     stored.Shown.Caption = stored.Path;

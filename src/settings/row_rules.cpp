@@ -4,6 +4,7 @@
 #include "settings/setting_texts.h"
 #include "support/text.h"
 
+#include <QDir>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -92,6 +93,9 @@ Settings_Row Folder_Row(const QString& key, QString JobOptions::*path)
 {
     Settings_Row row = Text_Row(u"Paths"_s, key, path);
     row.Written = [path](const Program& program) { return Storable_Path(program.Options.*path); };
+    row.Take = [path](Program& program, const QString& read, const QString&) {
+        program.Options.*path = QDir::toNativeSeparators(read);
+    };
     return row;
 }
 

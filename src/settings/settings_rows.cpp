@@ -6,6 +6,7 @@
 #include "state/program.h"
 #include "support/text.h"
 
+#include <QDir>
 #include <QLocale>
 #include <algorithm>
 
@@ -60,7 +61,7 @@ static std::vector<Settings_Row> Menu_And_Path_Rows()
          .Key = u"System mkvmerge.exe Path"_s,
          .Written = [](const Program& program) { return Storable_Path(program.Tools.System_MKVMerge_Path); },
          .Take = [](Program& program, const QString& text,
-                    const QString&) { program.Settings.Mkvmerge_Path_Ini = text; }},
+                    const QString&) { program.Settings.Mkvmerge_Path_Ini = QDir::toNativeSeparators(text); }},
         {.Section = paths,
          .Key = u"Set or read"_s,
          .Written = [](const Program& program) { return program.Settings.lbl_MKVMerge_Choose; },

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QList>
 #include <QStringList>
 #include <QUrl>
@@ -16,6 +17,6 @@ inline Drop_Data Drop_Data_Of(const QList<QUrl>& urls)
 {
     Drop_Data data{.Has_File_List = !urls.isEmpty(), .Paths = {}};
     for (const QUrl& url : urls)
-        data.Paths += url.toLocalFile();
+        data.Paths += QDir::toNativeSeparators(url.toLocalFile());
     return data;
 }

@@ -4,6 +4,16 @@
 
 using namespace Qt::StringLiterals;
 
+QString Key_Of_Name(const QString& path)
+{
+    if (Case_Of_Names == Qt::CaseSensitive)
+        return path;
+    QString raised = path;
+    for (QChar& letter : raised)
+        letter = letter.toUpper();
+    return raised;
+}
+
 QString With_Separator(const QString& folder)
 {
     return folder.isEmpty() || folder.endsWith(Path_Separator) ? folder : folder + Path_Separator;

@@ -11,6 +11,10 @@ inline constexpr char16_t Path_Separator = std::filesystem::path::preferred_sepa
 /// Whether capitals make another name: for paths that are compared as text.
 inline constexpr Qt::CaseSensitivity Case_Of_Names = Path_Separator == u'/' ? Qt::CaseSensitive : Qt::CaseInsensitive;
 
+/// The text under which all spellings of one name or path are one, for the keys of tables: where capitals don't make
+/// another name the letters are raised, one by one, as the system does it.
+QString Key_Of_Name(const QString& path);
+
 /// True for a path that leads to the same place whatever the current folder is: it begins with "/"; on Windows with a
 /// drive, ":" and a backslash, or as a share, with two backslashes.
 bool Is_Absolute_Path(const QString& path);

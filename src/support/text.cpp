@@ -1,5 +1,6 @@
 #include "support/text.h"
 
+#include "support/code_page.h"
 #include "support/run_time_error.h"
 
 #include <algorithm>
@@ -166,7 +167,7 @@ bool Is_Digit_List(const QString& text)
 
 QString Text_Of_Bytes(QByteArrayView bytes)
 {
-    return QUtf8StringView(bytes).isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
+    return QUtf8StringView(bytes).isValidUtf8() ? QString::fromUtf8(bytes) : Text_In_Code_Page(bytes);
 }
 
 QString On_One_Line(QString text)

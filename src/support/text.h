@@ -56,8 +56,9 @@ bool Is_Signed_Number(const QString& text);
 /// Every piece between commas passes Is_All_Digits; the empty text has no pieces and passes.
 bool Is_Digit_List(const QString& text);
 
-/// Bytes without a mark that tells their encoding: UTF-8, and Latin-1 where they are no UTF-8. Texts from a system with
-/// an 8-bit code page aren't; taken for U+FFFD, their letters would be lost once the text is written again.
+/// Bytes without a mark that tells their encoding: UTF-8, and the system's code page where they are no UTF-8. Texts
+/// from a system with an 8-bit one aren't; taken for U+FFFD, their letters would be lost once the text is written
+/// again.
 QString Text_Of_Bytes(QByteArrayView bytes);
 
 /// The text with a blank for each CR LF, CR or LF: it goes into a line of a file.

@@ -4,10 +4,10 @@
 #include "support/child_process.h"
 #include "support/command_line.h"
 #include "support/signal_name.h"
+#include "support/system_identification.h"
 
 #include <QRegularExpression>
 #include <algorithm>
-#include <cstring>
 #include <deque>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +25,7 @@ bool Tool_Answer::Ended_Well(int also) const
 QString First_Line(const QByteArray& messages)
 {
     // ffprobe says where in its memory the part lies that complains: "[mov @ 0x55d0ac] moov atom not found".
-    static const QRegularExpression address(u" @ 0x[0-9a-f]+\\]"_s);
+    static const QRegularExpression address(u" @ (0x)?[0-9a-f]+\\]"_s);
     for (const QString& line : QString::fromUtf8(messages).split(u'\n')) {
         QString text = line;
         for (QChar& letter : text)
@@ -103,7 +103,7 @@ static Tool_Answer Hear(Program& program, Asked_Tool& asked)
     run.Process_Result = asked.Started == Child_Process::Started::Yes ? -1 : child.System_Error();
     Tool_Answer answer;
     if (asked.Started != Child_Process::Started::Yes) {
-        answer.Not_Started = QString::fromLocal8Bit(std::strerror(child.System_Error()));
+        answer.Not_Started = Format_System_Error(child.System_Error());
         return answer;
     }
     Read_Answer(program, child, answer);

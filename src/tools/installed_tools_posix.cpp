@@ -25,3 +25,8 @@ QString Installed_MKVToolNix()
             return path;
     return {};
 }
+
+bool Can_Link_Tools()
+{
+    return true;
+}

@@ -3,6 +3,7 @@
 #include "state/program.h"
 #include "support/command_line.h"
 #include "support/paths.h"
+#include "support/platform_names.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
 #include "tools/installed_tools.h"
@@ -15,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 /// The one version whose verbose identification text is known.
 static const QString Accepted_Local_Version = u"mkvmerge v19.0.0 ('Brave Captain')"_s;
-static const QString FFProbe_Name = u"ffprobe"_s;
-static const QString MKVMerge_Name = u"mkvmerge"_s;
+static const QString FFProbe_Name = Executable_Name(u"ffprobe"_s);
+static const QString MKVMerge_Name = Executable_Name(u"mkvmerge"_s);
 
 static void Run_With(Program& program, const QString& tool, const QString& option, QString& output)
 {
@@ -40,8 +41,8 @@ void Discover_Tools(Program& program)
 void Link_FFProbe(Program& program)
 {
     const QString wanted = program.Settings.App_Folder + FFProbe_Name;
-    const QString found = Find_In_Path(FFProbe_Name);
-    if (program.Run.Dry_Run || File_Exists(wanted) || found.isEmpty())
+    const QString found = Find_In_Path(u"ffprobe"_s);
+    if (!Can_Link_Tools() || program.Run.Dry_Run || File_Exists(wanted) || found.isEmpty())
         return;
     if (QFileInfo(wanted).isSymLink() && !QFileInfo::exists(wanted))
         QFile::remove(wanted);
@@ -57,9 +58,9 @@ void Link_FFProbe(Program& program)
 static QString FFProbe_Location(const Program& program)
 {
     QString own = program.Settings.App_Folder + FFProbe_Name;
-    if (File_Exists(own) || !program.Run.Dry_Run)
+    if (File_Exists(own) || (Can_Link_Tools() && !program.Run.Dry_Run))
         return own;
-    QString elsewhere = Find_In_Path(FFProbe_Name);
+    QString elsewhere = Find_In_Path(u"ffprobe"_s);
     return elsewhere.isEmpty() ? own : elsewhere;
 }
 

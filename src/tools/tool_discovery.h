@@ -13,11 +13,11 @@ struct Tool_Paths;
 void Discover_Tools(Program& program);
 
 /// Puts a link to PATH's ffprobe into the program's folder where none lies there; a link that leads nowhere is
-/// replaced. Tells the operator if it can't. Nothing is linked in a dry run.
+/// replaced. Tells the operator if it can't. Nothing is linked in a dry run, nor where tools are used where they lie.
 void Link_FFProbe(Program& program);
 
-/// Sets FFProbe_Path if ffprobe lies in the program's folder (in a dry run PATH's will do), and runs it once; else
-/// report 20.
+/// Sets FFProbe_Path if ffprobe lies in the program's folder (PATH's will do in a dry run, and where it can't be
+/// linked), and runs it once; else report 20.
 bool Find_FFProbe(Program& program);
 
 /// Sets Local_MKVMerge_Path if the program's folder holds mkvmerge 19.0.0; silent if it doesn't.

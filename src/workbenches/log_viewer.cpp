@@ -3,6 +3,7 @@
 #include "logs/log_rotation.h"
 #include "state/program.h"
 #include "support/form_placement.h"
+#include "support/last_error.h"
 #include "support/paths.h"
 #include "support/plain_file.h"
 #include "support/run_time_error.h"
@@ -14,7 +15,6 @@
 
 #include <QFile>
 #include <algorithm>
-#include <cerrno>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -89,11 +89,11 @@ QStringList Read_Log_Lines(const QString& path, int limit)
     QStringList lines;
     Line_Cutter cutter(lines, limit, path);
     while (!cutter.Is_Full()) {
-        errno = 0;
+        Forget_Last_Error();
         const QByteArray bytes = file.read(piece);
         if (bytes.isEmpty()) {
             if (file.error() != QFileDevice::NoError)
-                Raise_File_Error(u"Reading the process log to show it"_s, path, errno);
+                Raise_File_Error(u"Reading the process log to show it"_s, path, Last_Error());
             cutter.Finish();
             break;
         }

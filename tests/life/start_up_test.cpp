@@ -30,7 +30,7 @@ TEST(AppFolder, TheFirstPlaceThatIsGivenCounts)
         {{u"here"_s, {}, {}, u"/data"_s}, QDir::currentPath() + u"/here/"_s},
         {{{}, u"/env"_s, portable, u"/data"_s}, u"/env/"_s},
         {{{}, {}, portable, u"/data"_s}, portable + u'/'},
-        {{{}, {}, plain, u"/data"_s}, u"/data/vantorra/"_s},
+        {{{}, {}, plain, u"/data/vantorra"_s}, u"/data/vantorra/"_s},
     };
     for (const Claim& claim : claims)
         EXPECT_EQ(Choose_App_Folder(claim.Places), claim.Folder);
