@@ -3,9 +3,11 @@
 #include "forms/looks.h"
 #include "forms/readable_style.h"
 
+#include <QAbstractItemView>
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QPalette>
+#include <QTableView>
 #include <optional>
 #include <windows.h>
 
@@ -59,6 +61,45 @@ static QPalette Dark_Palette()
     return dark;
 }
 
+namespace {
+
+/// Windows' own style marks the lines of a list, but not of a table, in a pale shade and leaves the words as they are.
+/// Delegates that write their words themselves learn it from the view's palette.
+class Light_Style : public Readable_Style
+{
+  public:
+    Light_Style() : Readable_Style(u"windowsvista"_s) {}
+
+    using Readable_Style::polish;
+    using Readable_Style::unpolish;
+
+    void polish(QWidget* widget) override
+    {
+        Readable_Style::polish(widget);
+        if (!Is_List(widget))
+            return;
+        QPalette marks;
+        marks.setColor(QPalette::HighlightedText, widget->palette().color(QPalette::Text));
+        marks.setColor(QPalette::Highlight, widget->palette().color(QPalette::Base).darker(108));
+        widget->setPalette(marks);
+    }
+
+    void unpolish(QWidget* widget) override
+    {
+        Readable_Style::unpolish(widget);
+        if (Is_List(widget))
+            widget->setPalette(QPalette());
+    }
+
+  private:
+    static bool Is_List(QWidget* widget)
+    {
+        return qobject_cast<QAbstractItemView*>(widget) && !qobject_cast<QTableView*>(widget);
+    }
+};
+
+} // namespace
+
 /// Qt follows the choice with the title bars; its own dark colours fit only a style that draws as Windows did long ago.
 class Desktop_Style::Watch : public QAbstractNativeEventFilter
 {
@@ -83,7 +124,7 @@ class Desktop_Style::Watch : public QAbstractNativeEventFilter
   private:
     void Apply() const
     {
-        QApplication::setStyle(new Readable_Style(dark_ ? u"Fusion"_s : u"windowsvista"_s));
+        QApplication::setStyle(dark_ ? new Readable_Style(u"Fusion"_s) : new Light_Style);
         QApplication::setPalette(dark_ ? Dark_Palette() : QPalette());
     }
 
