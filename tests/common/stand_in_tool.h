@@ -15,6 +15,9 @@ inline constexpr bool Failed_Starts_Are_Told = true;
 /// as arguments.
 QString Write_Stand_In(const Test_Program& test, const QString& relative, const QByteArray& body);
 
+/// Puts the real tool of PATH into a folder below the test's root, as a link.
+void Put_Tool(const Test_Program& test, const QString& name, const QString& folder);
+
 /// A path as a stand-in's body has it: on Windows that of Wine's host.
 QByteArray Path_In_Script(const QString& path);
 

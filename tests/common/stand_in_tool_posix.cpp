@@ -12,6 +12,11 @@ QString Write_Stand_In(const Test_Program& test, const QString& relative, const 
     return path;
 }
 
+void Put_Tool(const Test_Program& test, const QString& name, const QString& folder)
+{
+    QFile::link(Tool_In_Path(name), test.Path(folder + u'/' + name));
+}
+
 QByteArray Path_In_Script(const QString& path)
 {
     return QFile::encodeName(path);

@@ -1,3 +1,4 @@
+#include "common/media.h"
 #include "common/stand_in_tool.h"
 
 #include "windows/unix_paths.h"
@@ -20,9 +21,17 @@ QString Write_Stand_In(const Test_Program& test, const QString& relative, const 
     QString path = test.Path(relative + u".exe"_s);
     const QString forwarder =
         QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + u"/tool_forwarder.exe"_s);
-    if (!QFile::exists(path) && !CreateHardLinkW(Wide(path), Wide(forwarder), nullptr) && !QFile::copy(forwarder, path))
+    if (!QFile::exists(path) && !QFile::copy(forwarder, path))
         qFatal("A stand-in can't be written: %s", qPrintable(path));
     return path;
+}
+
+void Put_Tool(const Test_Program& test, const QString& name, const QString& folder)
+{
+    const QString path = Native(test.Path(folder + u'/' + name + u".exe"_s));
+    const QString tool = Tool_In_Path(name);
+    if (!CreateHardLinkW(Wide(path), Wide(tool), nullptr) && !QFile::copy(tool, path))
+        qFatal("A tool can't be put there: %s", qPrintable(path));
 }
 
 QByteArray Path_In_Script(const QString& path)

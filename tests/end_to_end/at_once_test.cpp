@@ -1,46 +1,11 @@
-#include "common/stand_in_tool.h"
-#include "end_to_end/batch_process.h"
+#include "end_to_end/at_once.h"
 #include "end_to_end/library.h"
+#include "support/paths.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
-#include <csignal>
-
-/// Eight videos at once: what concerns several of them is decided as if they came one after the other.
-struct At_Once : Batch_Process, testing::Test
-{
-    At_Once()
-    {
-        for (int number = 1; number <= 8; ++number)
-            Place(*this, Short_Video(), Video(number));
-    }
-
-    static QString Video(int number) { return u"videos/e%1.mkv"_s.arg(number); }
-
-    /// A mkvmerge that does `ahead` before it is the real one; it answers questions at once.
-    void Put_Ahead_Of_Mkvmerge(const QByteArray& ahead)
-    {
-        Write_Stand_In(*this, u"tools/mkvmerge"_s,
-                       "case \"$1\" in -V|-J|--ident*) ;; *) " + ahead + ";; esac\nexec " +
-                           Tool_In_Path(u"mkvmerge"_s).toUtf8() + " \"$@\"\n");
-        more_ = u"--set \"Paths/System mkvmerge.exe Path=%1\" "_s.arg(Path(u"tools/mkvmerge"_s));
-    }
-
-    Batch_Result Run_Eight(const QString& more = {})
-    {
-        return Batch_Process::Run(u"--json --careful --jobs 8 --set \"Menu/Log Verbosity=1\" "_s + more_ + more);
-    }
-
-    /// How many ended so, by the last event.
-    static int Ended(const Batch_Result& result, const QString& how)
-    {
-        return result.Events(u"finished"_s).value(0)[how].toInt();
-    }
-
-  private:
-    QString more_;
-};
+#include <QThread>
 
 TEST_F(At_Once, WhatGoesWithSeveralVideosGoesOnceAllOfThemAreDone)
 {
@@ -74,14 +39,14 @@ TEST_F(At_Once, NamesCountsAndTheLogAreAsOneAfterTheOther)
     const Batch_Result result = Run_Eight();
     QStringList files;
     for (const QJsonObject& file : result.Events(u"file"_s))
-        files += QString::number(file[u"index"_s].toInt()) + file[u"source"_s].toString().section(u'/', -1);
+        files += QString::number(file[u"index"_s].toInt()) + File_Name_Of(file[u"source"_s].toString());
     EXPECT_EQ(files.join(u' '), u"1e1.mkv 2e1.mp4 3e2.mkv 4e3.mkv 5e4.mkv 6e5.mkv 7e6.mkv 8e7.mkv 9e8.mkv"_s);
     EXPECT_EQ(Ended(result, u"done"_s), 8) << result.Err.toStdString();
     EXPECT_EQ(Ended(result, u"failed"_s), 1);
     EXPECT_TRUE(result.Err.contains(u"e1.mp4 failed: its output would be \"e1.mkv\", as that of \"e1.mkv\""_s));
     int overall = 0;
     for (const QJsonObject& progress : result.Events(u"progress"_s)) {
-        EXPECT_TRUE(progress[u"source"_s].toString().contains(u"/videos/e"_s));
+        EXPECT_TRUE(progress[u"source"_s].toString().startsWith(Path(u"videos/e"_s)));
         EXPECT_GE(progress[u"overall"_s].toInt(), overall);
         overall = progress[u"overall"_s].toInt();
     }
@@ -94,20 +59,6 @@ TEST_F(At_Once, NamesCountsAndTheLogAreAsOneAfterTheOther)
     }
 }
 
-TEST_F(At_Once, TheRoomThatVideosInWorkStillNeedCountsAsTaken)
-{
-    // The first to get the room waits for the others' failures.
-    Put_Ahead_Of_Mkvmerge("for i in $(seq 400); do [ $(cat \"" + Path(u"app"_s).toUtf8() +
-                          "/\"*.jsonl | grep -c '\"failed\"') -lt 7 ] || break; sleep 0.05; done");
-    Set_Environment(u"LD_PRELOAD"_s, QStringLiteral(VANTORRA_FAULT_SHIM));
-    Set_Environment(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0:detect_leaks=0"_s);
-    Set_Environment(u"ROOM"_s, QString::number(QFile(Path(Video(1))).size() * 5 / 4));
-    const Batch_Result result = Run_Eight();
-    EXPECT_EQ(Ended(result, u"done"_s), 1) << result.Err.toStdString();
-    EXPECT_EQ(Ended(result, u"failed"_s), 7);
-    EXPECT_EQ(result.Err.count(u"of which the other videos in work need"_s), 7) << result.Err.toStdString();
-}
-
 TEST_F(At_Once, ToolsThatCantBeStartedEndTheBatch)
 {
     if (!Failed_Starts_Are_Told)
@@ -115,7 +66,10 @@ TEST_F(At_Once, ToolsThatCantBeStartedEndTheBatch)
     for (int number = 9; number <= 20; ++number)
         Place(*this, Short_Video(), Video(number));
     Put_Ahead_Of_Mkvmerge("");
-    Write(u"tools/mkvmerge"_s, "#!/nowhere\n");
+    QFile tool(mkvmerge_);
+    ASSERT_TRUE(tool.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    tool.write("#!/nowhere\n");
+    tool.close();
     const Batch_Result result = Run_Eight();
     const int failed = Ended(result, u"failed"_s);
     EXPECT_TRUE(failed >= 3 && failed <= 10) << failed;
@@ -126,14 +80,13 @@ TEST_F(At_Once, ToolsThatCantBeStartedEndTheBatch)
 TEST_F(At_Once, AHaltEndsAllOfThemWithinTwoSeconds)
 {
     Put_Ahead_Of_Mkvmerge("exec sleep 1000");
-    Start(QStringList{u"--json"_s, u"--careful"_s, u"--jobs"_s, u"8"_s, u"--set"_s,
-                      u"Paths/System mkvmerge.exe Path="_s + Path(u"tools/mkvmerge"_s)});
+    Start_Eight();
     QElapsedTimer clock;
     clock.start();
     while (Children_Of(Process.processId()).size() < 8 && clock.elapsed() < 20'000)
-        ::usleep(10'000);
+        QThread::msleep(10);
     clock.start();
-    ::kill(static_cast<pid_t>(Process.processId()), SIGINT);
+    Ask_To_Halt(Process);
     const Batch_Result result = Finish();
     EXPECT_LT(clock.elapsed(), 10'000);
     EXPECT_EQ(result.Exit, 130);

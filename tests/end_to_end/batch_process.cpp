@@ -41,9 +41,12 @@ QStringList Batch_Result::Values(const QString& kind, const QString& key) const
 Batch_Process::Batch_Process()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"XDG_DATA_HOME"_s, Path(u"trash"_s));
+    // Wine makes the innermost folders only.
+    QDir().mkpath(Path(u"trash/Trash"_s));
+    environment.insert(u"XDG_DATA_HOME"_s, QFile::decodeName(Path_In_Script(Path(u"trash"_s))));
     environment.remove(u"VANTORRA_HOME"_s);
     Process.setProcessEnvironment(environment);
+    Prepare_For_Halt(Process);
 }
 
 Batch_Process::~Batch_Process()
@@ -92,13 +95,19 @@ bool Batch_Process::Read_Until(const QByteArray& text)
     }
 }
 
+/// Lines end as they do on the platform.
+static QString Text_Of(const QByteArray& bytes)
+{
+    return QString::fromUtf8(bytes).replace(u"\r\n"_s, u"\n"_s);
+}
+
 Batch_Result Batch_Process::Finish()
 {
     EXPECT_TRUE(Process.waitForFinished(240'000)) << "the program hangs";
     Batch_Result result;
     result.Exit = Process.exitStatus() == QProcess::NormalExit ? Process.exitCode() : -Process.exitCode();
-    result.Out = QString::fromUtf8(out_ + Process.readAllStandardOutput());
-    result.Err = QString::fromUtf8(Process.readAllStandardError());
+    result.Out = Text_Of(out_ + Process.readAllStandardOutput());
+    result.Err = Text_Of(Process.readAllStandardError());
     return result;
 }
 
@@ -128,20 +137,4 @@ QStringList Batch_Process::Tree() const
 QStringList Batch_Process::Names_In(const QString& folder) const
 {
     return QDir(Path(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
-
-QList<long> Children_Of(long process)
-{
-    QList<long> children;
-    for (const QString& number : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
-        QFile file(u"/proc/%1/stat"_s.arg(number));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        // The parent is the second field behind the name in parentheses.
-        const QByteArray line = file.readAll();
-        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-        if (fields.size() > 1 && fields[1].toLong() == process)
-            children += number.toLong();
-    }
-    return children;
 }

@@ -54,5 +54,10 @@ struct Batch_Process : Test_Program
     QByteArray out_;
 };
 
+/// Has to be called before a program is started that Ask_To_Halt is for.
+void Prepare_For_Halt(QProcess& process);
+/// What a person does who wants the program to stop: SIGINT; on Windows Ctrl-Break.
+void Ask_To_Halt(QProcess& process);
+
 /// The children of a process, by number; those that ended and were never reaped, too.
 QList<long> Children_Of(long process);

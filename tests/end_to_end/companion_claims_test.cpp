@@ -1,5 +1,6 @@
 #include "common/stand_in_tool.h"
 #include "end_to_end/track_claim.h"
+#include "support/paths.h"
 
 #include <QFile>
 
@@ -122,9 +123,8 @@ TEST(Companions, ThatVanishBeforeTheRunEndInMkvmergesOwnWordsAndTheNextVideoGoes
     run.Add(u"plain.mkv"_s, u"Movie.mkv"_s);
     run.Add(u"plain.mkv"_s, u"Other.mkv"_s);
     Add_Subtitles(run, u"c.srt"_s, u"Movie.srt"_s);
-    const QString mkvmerge = run.Prog.Tools.System_MKVMerge_Path;
-    const QByteArray script =
-        "rm -f '" + run.Path(u"videos/Movie.srt"_s).toUtf8() + "'\nexec " + mkvmerge.toUtf8() + " \"$@\"\n";
+    const QByteArray script = "rm -f '" + Path_In_Script(run.Path(u"videos/Movie.srt"_s)) + "'\nexec " +
+                              Tool_In_Script(u"mkvmerge"_s) + " \"$@\"\n";
     run.Prog.Tools.System_MKVMerge_Path = Write_Stand_In(run, u"app/mkvmerge"_s, script);
     EXPECT_TRUE(run.Run());
     EXPECT_EQ(run.Tracks(u"Other.mkv"_s), QStringList({Plain_Video, Plain_Audio}));
@@ -139,8 +139,8 @@ TEST(Targets, ThatTakeNothingFailTheFileAndKeepTheSource)
     run.Prog.Settings.Extensions.Delete_Source_Only_After_Success = true;
     run.Prog.Options.Delete_Video_After = true;
     const std::pair<QString, QByteArray> claims[] = {
-        {u"/proc/"_s, ""},                                       // can't be written, whoever asks
-        {run.Path(u"target/"_s), "trap '' XFSZ\nulimit -f 2\n"}, // full after a kilobyte
+        {Path_Separator == u'/' ? u"/proc/"_s : u"Z:\\proc\\"_s, ""}, // can't be written, whoever asks
+        {run.Path(u"target/"_s), "trap '' XFSZ\nulimit -f 2\n"},      // full after a kilobyte
     };
     for (const auto& [target, ahead] : claims) {
         run.Prog.Options.Path_Target = target;

@@ -1,5 +1,6 @@
 #include "common/media.h"
 #include "end_to_end/batch_process.h"
+#include "support/paths.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,7 +15,7 @@ static QStringList Checked(Batch_Process& batch, const QString& kind, const QStr
                    u"--tick"_s, u"ConvertTXT"_s, u"--set"_s, u"Extensions/Sensible Names And Sizes="_s + sensible});
     QStringList lines;
     for (const QJsonObject& check : result.Events(u"check"_s))
-        lines += QStringList{check[u"output"_s].toString().section(u'/', -1),
+        lines += QStringList{File_Name_Of(check[u"output"_s].toString()),
                              check[u"added"_s].toVariant().toStringList().join(u'+'), check[u"chapters"_s].toString(),
                              QString::number(check[u"problems"_s].toArray().size())}
                      .join(u'|');

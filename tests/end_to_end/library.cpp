@@ -1,5 +1,6 @@
 #include "end_to_end/library.h"
 
+#include "common/stand_in_tool.h"
 #include "rules/option_rules.h"
 #include "run/run_driver.h"
 #include "settings/filter_modes.h"
@@ -122,7 +123,7 @@ QString Library_File(const QString& name)
     const QByteArray bytes = Bytes_Of(name);
     if (bytes.isEmpty())
         return Media_File(name, Recipe(name));
-    QString path = by_hand.filePath(name);
+    QString path = Native(by_hand.filePath(name));
     QFile file(path);
     if (!QFile::exists(path) && (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()))
         qFatal("A file of the library can't be written: %s", qPrintable(path));
@@ -133,7 +134,7 @@ Library_Run::Library_Run()
 {
     Use_Real_Tools(*this);
     // The run button looks for ffprobe in the program's folder.
-    QFile::link(Prog.Tools.FFProbe_Path, Prog.Settings.App_Folder + u"ffprobe"_s);
+    Put_Tool(*this, u"ffprobe"_s, u"app"_s);
     Load_Language_Table(Prog.Language_Table, u"scrap"_s);
     Prog.Options.Log_Verbosity = 7;
 }

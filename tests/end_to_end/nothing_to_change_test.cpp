@@ -1,5 +1,6 @@
 #include "end_to_end/batch_process.h"
 #include "end_to_end/library.h"
+#include "support/paths.h"
 
 /// A video that mkvmerge made of one of the library's with these options, and what a batch with these arguments does
 /// with it.
@@ -63,7 +64,7 @@ TEST(Nothing_To_Change, OnlyWhatWouldComeOutAsItIsIsLeftAlone)
         const Batch_Result result = batch.Run(arguments);
         QMap<QString, QString> reasons;
         for (const QJsonObject& event : result.Events(u"result"_s))
-            reasons[event[u"source"_s].toString().section(u'/', -1).chopped(4)] =
+            reasons[File_Name_Of(event[u"source"_s].toString()).chopped(4)] =
                 event[u"status"_s].toString() + u' ' + event[u"reason"_s].toString();
         for (const Nearly_Unchanged* video : each.value())
             EXPECT_EQ(reasons.value(QString::fromLatin1(video->Name)),

@@ -26,7 +26,9 @@ struct Subfolders_Test : Batch_Process, testing::Test
 
     QStringList Sources(const Batch_Result& result) const
     {
-        return result.Values(u"result"_s, u"source"_s).replaceInStrings(Path(u"videos/"_s), QString());
+        return result.Values(u"result"_s, u"source"_s)
+            .replaceInStrings(Path(u"videos/"_s), QString())
+            .replaceInStrings(u"\\"_s, u"/"_s);
     }
 };
 

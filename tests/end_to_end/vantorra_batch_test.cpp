@@ -1,15 +1,11 @@
 #include "common/media.h"
-#include "common/stand_in_tool.h"
 #include "end_to_end/batch_process.h"
+#include "support/paths.h"
+#include "support/platform_names.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
-#include <csignal>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 /// The command line that a --dry-run gives for the only video of the folder.
 static QStringList Command_Of(Batch_Process& batch, const QString& more)
@@ -17,15 +13,6 @@ static QStringList Command_Of(Batch_Process& batch, const QString& more)
     const Batch_Result result = batch.Run(u"--dry-run --json "_s + more);
     EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
     return result.Events(u"command"_s).value(0)[u"arguments"_s].toVariant().toStringList();
-}
-
-/// The children that run a program of their own by now: one that was stopped before that would hold its parent up.
-static QList<long> Children_At_Work(long process)
-{
-    QList<long> children = Children_Of(process);
-    const QString parents = QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(process));
-    children.removeIf([&](long child) { return QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(child)) == parents; });
-    return children;
 }
 
 TEST(Vantorra_Batch, AFolderOfVideosBecomesAFolderOfMatroskaFiles)
@@ -74,7 +61,8 @@ TEST(Vantorra_Batch, ADryRunWritesNothingAtAll)
                                           "chk_ConvertTXT --set \"Menu/Delete Source Video Sundry Files=True\""_s);
     EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
     EXPECT_EQ(result.Out.count(u'\n'), 1);
-    EXPECT_TRUE(result.Out.contains(u"/mkvmerge --ui-language en_US --output "_s)) << result.Out.toStdString();
+    const QString tool = Executable_Name(u"mkvmerge"_s) + u" --ui-language "_s + Tool_Language() + u" --output "_s;
+    EXPECT_TRUE(result.Out.contains(Path_Separator + tool)) << result.Out.toStdString();
     EXPECT_TRUE(result.Out.contains(u"film_Chapters.xml"_s)) << "a chapter file still to be made is named";
 
     // A refusal, the settings and a run-time error leave nothing, either.
@@ -162,7 +150,7 @@ TEST(Vantorra_Batch, WhatIsDoneIsLeftOutUntilSomethingChanges)
         const Batch_Result result = batch.Run(QStringList{u"--json"_s, u"--careful"_s} + more);
         QStringList names;
         for (const QString& source : result.Values(u"result"_s, u"source"_s))
-            names += source.section(u'/', -1);
+            names += File_Name_Of(source);
         const QStringList told = result.Values(u"message"_s, u"text"_s).filter(u"done before"_s);
         return (names + told).join(u" - "_s);
     };
@@ -180,21 +168,10 @@ TEST(Vantorra_Batch, WhatIsDoneIsLeftOutUntilSomethingChanges)
     EXPECT_EQ(taken({u"--resume"_s, u"--only"_s, u"*.mkv"_s}), u"good.mkv"_s + one);
 }
 
-TEST(Vantorra_Batch, WhatADryRunPrintsIsWhatAShellCanRun)
-{
-    Batch_Process batch;
-    Place(batch, Short_Video(), u"videos/it's \"$HOME\" `now`.mkv"_s);
-    const Batch_Result result = batch.Run({u"--dry-run"_s});
-    ASSERT_EQ(result.Exit, 0) << result.Err.toStdString();
-    QProcess shell;
-    shell.start(u"/bin/sh"_s, {u"-c"_s, result.Out});
-    ASSERT_TRUE(shell.waitForFinished());
-    EXPECT_EQ(shell.exitCode(), 0) << shell.readAllStandardOutput().constData();
-    EXPECT_EQ(batch.Names_In(u"target"_s), QStringList{u"it's \"$HOME\" `now`.mkv"_s});
-}
-
 TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
 {
+    const QString nowhere = Native(u"/nonexistent"_s);
+
     const struct
     {
         QStringList Files; ///< written as text; names ending in "!" are real videos, without the "!"
@@ -206,8 +183,8 @@ TEST(Vantorra_Batch, TheExitStatusTellsHowItWent)
         {{u"a.mkv!"_s, u"b.avi"_s, u"c.mkv!"_s}, {}, 2, u"b.avi"_s},
         {{u"a.avi!"_s, u"a.mkv!"_s}, {}, 0, u"a.avi and a.mkv write the same file"_s},
         {{u"readme.txt"_s}, {}, 1, u"NO VIDEO FILES FOUND!"_s},
-        {{u"a.mkv!"_s}, u"--target /nonexistent"_s, 1, u"--target \"/nonexistent\" is no folder"_s},
-        {{}, u"--videos /nonexistent"_s, 1, u"The Video path does not exist!"_s},
+        {{u"a.mkv!"_s}, u"--target "_s + nowhere, 1, u"--target \"%1\" is no folder"_s.arg(nowhere)},
+        {{}, u"--videos "_s + nowhere, 1, u"The Video path does not exist!"_s},
         {{u"a.mkv!"_s}, u"--target videos/."_s, 1, u"is the video folder itself"_s},
         {{u"a.mkv!"_s, u"name."_s}, {}, 0, u"#70"_s},
         {{u"a.mkv!"_s}, u"--vidoes"_s, 64, u"vidoes"_s},
@@ -301,152 +278,4 @@ TEST(Vantorra_Batch, SettingsListsEveryKeyWithItsValueInForce)
     const QString table = batch.Finish().Out;
     EXPECT_EQ(table.count(u'\n'), json.Events(u"setting"_s).size() + 1);
     EXPECT_TRUE(table.contains(u"\nAudio/Strip Existing Audio "_s));
-}
-
-TEST(Vantorra_Batch, AnyLocaleAndAnyNameWillDo)
-{
-    const QStringList accented{u"Café"_s};
-    // 251 letters and the extension are the longest that a file system takes.
-    const QStringList hostile{u"Été 漢字 😀"_s, u" two  blanks "_s, u"it's \"quoted\""_s, u"$(id) %s; ,"_s,  u"-dash"_s,
-                              u"--output"_s,   u"@file"_s,         u"line\nbreak"_s,     QString(251, u'x')};
-    for (const auto& [locale, names] :
-         {std::pair(u"C"_s, hostile), std::pair(QString(), accented), std::pair(u"de_DE.ISO-8859-1"_s, accented)}) {
-        SCOPED_TRACE(locale.toStdString());
-        Batch_Process batch;
-        for (const QString& variable : {u"LC_ALL"_s, u"LANG"_s, u"LC_CTYPE"_s})
-            batch.Set_Environment(variable, locale);
-        for (const QString& name : names)
-            Place(batch, Short_Video(), u"videos/"_s + name + u".mkv"_s);
-        const Batch_Result result = batch.Run({u"--json"_s});
-        EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
-        EXPECT_TRUE(result.Err.isEmpty()) << result.Err.toStdString();
-        for (const QString& name : names)
-            EXPECT_EQ(Tracks_Of(batch.Path(u"target/"_s + name + u".mkv"_s)).size(), 2) << name.toStdString();
-    }
-}
-
-TEST(Vantorra_Batch, ANameThatIsNoUnicodeFailsAloneAndIsNotPassedOver)
-{
-    Batch_Process batch;
-    Place(batch, Short_Video(), u"videos/good.mkv"_s);
-    const QByteArray bad = QFile::encodeName(batch.Path(u"videos/"_s)) + "bad\xff.mkv";
-    ASSERT_EQ(::rename(QFile::encodeName(Place(batch, Short_Video(), u"videos/x.mkv"_s)).constData(), bad.constData()),
-              0);
-    const Batch_Result result = batch.Run({u"--json"_s});
-    EXPECT_EQ(result.Exit, 2);
-    QStringList statuses = result.Values(u"result"_s, u"status"_s);
-    statuses.sort();
-    EXPECT_EQ(statuses, (QStringList{u"done"_s, u"failed"_s}));
-    EXPECT_EQ(Tracks_Of(batch.Path(u"target/good.mkv"_s)).size(), 2);
-    // Qt, which clears the folder away, doesn't see such a name.
-    ::unlink(bad.constData());
-}
-
-/// A mkvmerge that comes first in the batch's PATH; it knows its version unless it does `ahead`.
-static void Put_Mkvmerge_Ahead(Batch_Process& batch, const QByteArray& ahead)
-{
-    Write_Stand_In(batch, u"tools/mkvmerge"_s,
-                   ahead + "\n[ \"$1\" = -V ] && echo \"mkvmerge v74.0.0 ('A name') 64-bit\" || exec sleep 1000\n");
-    batch.Set_Environment(u"PATH"_s, batch.Path(u"tools:"_s) + qEnvironmentVariable("PATH"));
-}
-
-TEST(Vantorra_Batch, EverySignalEndsTheChildAtOnceWhateverTheParentDidToSignals)
-{
-    for (const int signal_number : {SIGINT, SIGTERM, SIGQUIT, SIGUSR1, SIGHUP, SIGKILL}) {
-        SCOPED_TRACE(signal_number);
-        Batch_Process batch;
-        for (const QString& name : {u"a"_s, u"b"_s, u"c"_s})
-            Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(name));
-        Put_Mkvmerge_Ahead(batch,
-                           "case \"$*\" in */a.mkv*) exec " + Tool_In_Path(u"mkvmerge"_s).toUtf8() + " \"$@\";; esac");
-        batch.Process.start(u"env"_s, QStringList{u"--block-signal"_s, u"--ignore-signal=CHLD"_s,
-                                                  QStringLiteral(VANTORRA_BATCH_PROGRAM), u"--json"_s, u"--classic"_s,
-                                                  u"--app-folder"_s, batch.Path(u"app"_s), batch.Path(u"videos"_s),
-                                                  batch.Path(u"target"_s)});
-        ASSERT_TRUE(batch.Read_Until("\"event\":\"command\",\"source\":\"" + batch.Path(u"videos/b.mkv"_s).toUtf8()));
-        QElapsedTimer clock;
-        clock.start();
-        QList<long> children;
-        while (children.isEmpty() && clock.elapsed() < 20'000)
-            children = Children_At_Work(batch.Process.processId());
-        ASSERT_EQ(children.size(), 1);
-        clock.start();
-        ASSERT_EQ(::kill(static_cast<pid_t>(batch.Process.processId()), signal_number), 0);
-        const Batch_Result result = batch.Finish();
-        EXPECT_LT(clock.elapsed(), 2000);
-        for (clock.start(); Is_Running(children[0]) && clock.elapsed() < 5000;)
-            ::usleep(10'000);
-        EXPECT_FALSE(Is_Running(children[0]));
-        EXPECT_EQ(Tracks_Of(batch.Path(u"target/a.mkv"_s)).size(), 2) << "what was done before stays";
-        EXPECT_EQ(result.Exit, signal_number == SIGKILL ? -SIGKILL : 130) << result.Err.toStdString();
-        if (signal_number == SIGKILL)
-            continue;
-        const QJsonObject finished = result.Events(u"finished"_s).constLast();
-        EXPECT_EQ(finished[u"status"_s].toString(), u"interrupted"_s);
-        EXPECT_EQ(finished[u"done"_s].toInt(), 1);
-        EXPECT_EQ(result.Values(u"result"_s, u"reason"_s).constLast(), u"the run was halted"_s);
-        EXPECT_EQ(result.Values(u"result"_s, u"status"_s), (QStringList{u"done"_s, u"not run"_s}));
-        EXPECT_TRUE(batch.Read(u"app/Vantorra_Process.log"_s).contains("*** Process halted before finishing!"));
-    }
-}
-
-TEST(Vantorra_Batch, IdentifyAndSettingsPrintNoHalfTextWhenTheyAreHalted)
-{
-    const std::pair<QStringList, QByteArray> claims[] = {
-        {{u"settings"_s}, "kill -TERM $PPID; exec sleep 1000"},
-        {{u"identify"_s, u"/some/file"_s}, "kill -TERM $PPID; exec sleep 1000"},
-        {{u"identify"_s, u"/some/file"_s},
-         "[ \"$1\" = -V ] || { echo '{ \"half\":'; kill -TERM $PPID; exec sleep 1000; }"},
-    };
-    for (const auto& [command, ahead] : claims) {
-        Batch_Process batch;
-        Put_Mkvmerge_Ahead(batch, ahead);
-        batch.Start_With(command + QStringList{u"--app-folder"_s, batch.Path(u"app"_s)});
-        const Batch_Result result = batch.Finish();
-        EXPECT_EQ(result.Exit, 130) << command[0].toStdString();
-        EXPECT_EQ(result.Out, QString()) << command[0].toStdString();
-        EXPECT_EQ(result.Err, QString()) << command[0].toStdString();
-    }
-}
-
-TEST(Vantorra_Batch, AStopIsObeyedThoughNobodyReadsAndManyVideosAreLeft)
-{
-    Batch_Process batch;
-    for (int i = 0; i < 10'000; ++i)
-        batch.Write(u"videos/%1.mkv"_s.arg(i));
-    const QString pipe = batch.Path(u"pipe"_s);
-    ::mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR);
-    const int unread = ::open(QFile::encodeName(pipe).constData(), O_RDWR | O_NONBLOCK);
-    while (::write(unread, "x", 1) == 1) // it is full before the first word
-        ;
-    batch.Process.setStandardOutputFile(pipe);
-    batch.Process.setStandardErrorFile(pipe);
-    batch.Start({u"--careful"_s, u"--json"_s});
-    QElapsedTimer clock;
-    clock.start();
-    while (batch.Names_In(u"app"_s).filter(u"Journal"_s).isEmpty() && clock.elapsed() < 20'000)
-        ::usleep(10'000);
-    clock.start();
-    ::kill(static_cast<pid_t>(batch.Process.processId()), SIGTERM);
-    EXPECT_TRUE(batch.Process.waitForFinished());
-    EXPECT_EQ(batch.Process.exitCode(), 130);
-    EXPECT_LT(clock.elapsed(), 60'000) << "and not half a second for each";
-    ::close(unread);
-}
-
-TEST(Vantorra_Batch, AReaderThatGoesAwayHaltsTheRun)
-{
-    Batch_Process batch;
-    for (int i = 0; i < 20; ++i)
-        Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
-    QProcess shell;
-    shell.setProcessEnvironment(batch.Process.processEnvironment());
-    shell.start(u"/bin/bash"_s,
-                {u"-c"_s, u"\"$@\" | head -n 1; exit ${PIPESTATUS[0]}"_s, u"bash"_s,
-                 QStringLiteral(VANTORRA_BATCH_PROGRAM), u"--json"_s, u"--app-folder"_s, batch.Path(u"app"_s),
-                 u"--videos"_s, batch.Path(u"videos"_s), u"--target"_s, batch.Path(u"target"_s)});
-    ASSERT_TRUE(shell.waitForFinished(60'000));
-    EXPECT_EQ(shell.exitCode(), 130);
-    EXPECT_LT(batch.Names_In(u"target"_s).size(), 20);
-    EXPECT_TRUE(batch.Read(u"app/Vantorra_Process.log"_s).contains("*** Process halted before finishing!"));
 }

@@ -86,6 +86,14 @@ static void Add_Pair(std::vector<Path_Pair>& pairs, const std::string& unix_path
         pairs.push_back({folder, Folder_Of(windows_path, '\\')});
 }
 
+/// What may stand ahead of a path in one argument, its colon included.
+static std::wstring Prefix_Of(const std::wstring& argument)
+{
+    const std::wstring word = argument.substr(0, argument.find(L':') + 1);
+    const bool is_number = word.size() > 1 && word.find_first_not_of(L"0123456789:") == std::wstring::npos;
+    return is_number || word == L"file:" ? word : L"";
+}
+
 std::vector<std::string> Unix_Arguments(const std::vector<std::wstring>& arguments, std::vector<Path_Pair>& pairs)
 {
     std::vector<std::string> result;
@@ -93,7 +101,7 @@ std::vector<std::string> Unix_Arguments(const std::vector<std::wstring>& argumen
     bool json = false;
     for (const std::wstring& argument : arguments) {
         const bool title = before == L"--title" || before == L"--track-name";
-        const std::wstring prefix = argument.starts_with(L"file:") ? L"file:" : L"";
+        const std::wstring prefix = Prefix_Of(argument);
         const std::wstring path = argument.substr(prefix.size());
         const std::string translated = !title && Has_Drive(path) ? Unix_Path(path) : "";
         if (!translated.empty())

@@ -1,0 +1,28 @@
+#include "end_to_end/batch_process.h"
+
+#include <QDir>
+#include <QFile>
+#include <csignal>
+
+void Prepare_For_Halt(QProcess&) {}
+
+void Ask_To_Halt(QProcess& process)
+{
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+}
+
+QList<long> Children_Of(long process)
+{
+    QList<long> children;
+    for (const QString& number : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+        QFile file(u"/proc/%1/stat"_s.arg(number));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        // The parent is the second field behind the name in parentheses.
+        const QByteArray line = file.readAll();
+        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+        if (fields.size() > 1 && fields[1].toLong() == process)
+            children += number.toLong();
+    }
+    return children;
+}
