@@ -1,5 +1,6 @@
 #include "logs/log_rotation.h"
 
+#include "support/disk_steps.h"
 #include "support/files.h"
 #include "support/operator.h"
 #include "support/paths.h"
@@ -9,13 +10,10 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
 #include <QUuid>
 #include <chrono>
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
-namespace fs = std::filesystem;
 
 QString Process_Log_Path(const QString& app_folder)
 {
@@ -61,25 +59,10 @@ QStringList Waiting_Entries(const QString& app_folder)
     return names;
 }
 
-static fs::path Native(const QString& path)
-{
-    return QFileInfo(path).filesystemFilePath();
-}
-
-/// Gives a file a second name; false where that can't be.
-static bool Link(const QString& file, const QString& second_name)
-{
-    std::error_code error;
-    fs::create_hard_link(Native(file), Native(second_name), error);
-    return !error;
-}
-
 void Rename_Log(const QString& from, const QString& to)
 {
-    std::error_code error;
-    fs::rename(Native(from), Native(to), error);
-    if (error)
-        Raise_File_Error(u"Renaming a process log to "_s + File_Name_Of(to), from, error.value());
+    if (const int error = Rename_Onto(from, to); error != 0)
+        Raise_File_Error(u"Renaming a process log to "_s + File_Name_Of(to), from, error);
 }
 
 static void Pump_Three_Times(Operator& person)
@@ -118,7 +101,7 @@ Rotation Rotate_Logs(const QString& app_folder, Log_Name name, Operator& person,
     }
     if (!Shift_Generations(app_folder, person, faults))
         return Rotation::Refused;
-    if (name == Log_Name::Freed || !Link(log, newest))
+    if (name == Log_Name::Freed || Give_Second_Name(log, newest) != 0)
         Rename_Log(log, newest);
     return Rotation::Rotated;
 }

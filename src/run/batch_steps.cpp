@@ -2,11 +2,11 @@
 
 #include "inspect/video_names.h"
 #include "state/program.h"
+#include "support/death_words.h"
 #include "support/disk_names.h"
 #include "support/file_identity.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
-#include "support/signal_name.h"
 #include "support/system_identification.h"
 #include "support/text.h"
 #include "tools/failure_reports.h"
@@ -39,8 +39,8 @@ void Count_Video(Program& program, int files_done)
 /// Why mkvmerge failed, in its own words where it has any.
 static QString Mkvmerge_Failure(const Run_State& run, int exit)
 {
-    QString how = exit < 0 ? u"mkvmerge was ended by the signal "_s + Signal_Name(-exit)
-                           : u"mkvmerge ended with status %1"_s.arg(exit);
+    QString how =
+        exit < 0 ? u"mkvmerge was ended by "_s + What_Ended(exit) : u"mkvmerge ended with status %1"_s.arg(exit);
     if (!run.Tool_Error.isEmpty())
         return exit < 0 ? how + u": "_s + run.Tool_Error : u"mkvmerge says: "_s + run.Tool_Error;
     if (exit < 0)

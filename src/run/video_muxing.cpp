@@ -3,8 +3,8 @@
 #include "run/careful_share.h"
 #include "run/careful_walk.h"
 #include "state/program.h"
+#include "support/death_words.h"
 #include "support/paths.h"
-#include "support/signal_name.h"
 #include "support/system_identification.h"
 #include "support/text.h"
 #include "support/whole_file.h"
@@ -51,8 +51,8 @@ static QStringList Lines_Said(const Video_Work& work)
 /// How mkvmerge ended, where that wasn't well: its own first words, if it had some.
 static QString Why_It_Failed(int exit, const QStringList& said)
 {
-    QString end = exit < 0 ? u"mkvmerge was ended by the signal "_s + Signal_Name(-exit)
-                           : u"mkvmerge ended with status %1"_s.arg(exit);
+    QString end =
+        exit < 0 ? u"mkvmerge was ended by "_s + What_Ended(exit) : u"mkvmerge ended with status %1"_s.arg(exit);
     for (const QString& line : said)
         if (line.startsWith("Error:"_L1))
             return end + u": "_s + line.mid(6).trimmed();

@@ -67,8 +67,8 @@ class Child_Process
     /// The system's own error number of the last failed start; Format_System_Error has its words.
     int System_Error() const { return system_error_; }
 
-    /// The exit status of a reaped child: 0 to 255, or less than 0 if it didn't end by itself; Signal_Name has a word
-    /// for the number without its sign.
+    /// The exit status of a reaped child: 0 to 255, or less than 0 if it didn't end by itself; What_Ended has its
+    /// words.
     std::optional<int> Exit_Status() const { return exit_status_; }
 
     /// The child's process number, 0 if there is none.

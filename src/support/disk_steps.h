@@ -32,6 +32,9 @@ struct Folder_Entry
     Entry_Kind Kind = Entry_Kind::Unknown;
 };
 
+/// All entries of a folder as the system lists them; `error` as for List_Entries.
+std::vector<Folder_Entry> Read_Entries(const QString& folder, int& error);
+
 /// All entries of a folder, by name, without regard to case. `error` is 0, or why the listing didn't begin or broke
 /// off.
 std::vector<Folder_Entry> List_Entries(const QString& folder, int& error);
@@ -54,10 +57,13 @@ class Held_File
     const File_Identity& Identity() const { return identity_; }
 
   private:
-    int handle_ = -1;
+    std::intptr_t handle_ = -1; ///< the system's
     QString path_;
     File_Identity identity_;
 };
+
+/// Where a name leads in the end: what a link there, and the links behind it, lead to; else `path` itself.
+QString Behind_Links(const QString& path);
 
 /// What a name itself is, links not followed; nothing where there is no such name.
 std::optional<File_Identity> Identity_Of_Name(const QString& path);
@@ -78,13 +84,22 @@ struct Rename_Result
 /// Gives a file another name in the same file system, and never takes the place of anything.
 Rename_Result Rename_To_Free_Name(const QString& from, const QString& to, Rename_Ways ways = {});
 
+/// Gives a file another name in the same file system, and takes the place of a file that has it.
+int Rename_Onto(const QString& from, const QString& to);
+/// Gives a file the name of another one in the same folder, whose place it takes in one step, with that one's
+/// permissions; the name may be free, too. If it fails both are as they were.
+int Take_The_Place_Of(const QString& from, const QString& to);
+/// Gives a file a second name in the same file system; EEXIST if it is taken.
+int Give_Second_Name(const QString& path, const QString& second);
+
 /// Whatever was written is on the disk when these return.
 int Sync_File(const QString& path);
 int Sync_Folder(const QString& folder);
 /// The same for a file of Qt's that is open for writing; what it still holds itself has to be flushed ahead.
 int Sync_Open_File(const QFileDevice& file);
 
-/// Makes a folder that only its owner may look into.
+/// Makes a folder that only its owner may look into; on Windows, where a file keeps the rights that it was made under
+/// wherever it is moved to, one with the rights of the folder that it is in.
 int Make_Private_Folder(const QString& path);
 /// Makes a folder and those above it that are missing, each of them on the disk before what it holds can be.
 int Make_Folders(const QString& path);
@@ -106,3 +121,6 @@ int Longest_Name(const QString& folder);
 
 /// "No space left on device": the system's words for an error.
 QString System_Words(int error);
+
+/// True if the error says that there is no room: on the disk, in a quota, in one file.
+bool Is_Disk_Full(int error);

@@ -4,7 +4,6 @@
 
 #include <QFileDevice>
 #include <QFileInfo>
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <dirent.h>
@@ -12,9 +11,7 @@
 #include <memory>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
-#include <tuple>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -68,25 +65,7 @@ static Entry_Kind Kind_Of(int folder, const dirent& entry)
                                      : Entry_Kind::Other;
 }
 
-/// As List_Files sorts: by code unit, capitals and small letters as one.
-static void Sort_By_Name(std::vector<Folder_Entry>& entries)
-{
-    std::vector<std::pair<QString, Folder_Entry>> raised;
-    raised.reserve(entries.size());
-    for (Folder_Entry& entry : entries) {
-        QString key = entry.Name;
-        for (QChar& letter : key)
-            letter = letter.toUpper();
-        raised.emplace_back(std::move(key), std::move(entry));
-    }
-    std::sort(raised.begin(), raised.end(), [](const auto& one, const auto& other) {
-        return std::tie(one.first, one.second.Name) < std::tie(other.first, other.second.Name);
-    });
-    for (std::size_t i = 0; i < raised.size(); ++i)
-        entries[i] = std::move(raised[i].second);
-}
-
-std::vector<Folder_Entry> List_Entries(const QString& folder, int& error)
+std::vector<Folder_Entry> Read_Entries(const QString& folder, int& error)
 {
     std::vector<Folder_Entry> entries;
     const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(Bytes_Of_Name(folder).constData()), ::closedir);
@@ -102,14 +81,13 @@ std::vector<Folder_Entry> List_Entries(const QString& folder, int& error)
             entries.push_back({Text_Of_Name(entry->d_name), Kind_Of(::dirfd(open.get()), *entry)});
     }
     error = errno;
-    Sort_By_Name(entries);
     return entries;
 }
 
 Held_File::~Held_File()
 {
     if (handle_ >= 0)
-        ::close(handle_);
+        ::close(static_cast<int>(handle_));
 }
 
 int Held_File::Open(const QString& path)
@@ -119,7 +97,7 @@ int Held_File::Open(const QString& path)
     if (handle_ < 0)
         return errno;
     struct stat status = {};
-    if (::fstat(handle_, &status) != 0)
+    if (::fstat(static_cast<int>(handle_), &status) != 0)
         return errno;
     if (S_ISDIR(status.st_mode))
         return EISDIR;
@@ -133,8 +111,17 @@ bool Held_File::Is_Still_There() const
 {
     struct stat status = {};
     const std::optional<File_Identity> named = Identity_Of(path_);
-    return named && handle_ >= 0 && ::fstat(handle_, &status) == 0 && identity_.Is_Unchanged(Identity_From(status)) &&
-           identity_.Is_Unchanged(*named);
+    return named && handle_ >= 0 && ::fstat(static_cast<int>(handle_), &status) == 0 &&
+           identity_.Is_Unchanged(Identity_From(status)) && identity_.Is_Unchanged(*named);
+}
+
+QString Behind_Links(const QString& path)
+{
+    constexpr int longest_chain = 40;
+    QString target = path;
+    for (int link = 0; link < longest_chain && QFileInfo(target).isSymLink(); ++link)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
 }
 
 std::optional<File_Identity> Identity_Of_Name(const QString& path)
@@ -172,6 +159,24 @@ Rename_Result Rename_To_Free_Name(const QString& from, const QString& to, Rename
     if (::lstat(name.constData(), &status) == 0)
         return {EEXIST, false};
     return {::rename(source.constData(), name.constData()) == 0 ? 0 : errno, false};
+}
+
+int Rename_Onto(const QString& from, const QString& to)
+{
+    return ::rename(Bytes_Of_Name(from).constData(), Bytes_Of_Name(to).constData()) == 0 ? 0 : errno;
+}
+
+int Take_The_Place_Of(const QString& from, const QString& to)
+{
+    struct stat status = {};
+    if (::stat(Bytes_Of_Name(to).constData(), &status) == 0)
+        ::chmod(Bytes_Of_Name(from).constData(), status.st_mode);
+    return Rename_Onto(from, to);
+}
+
+int Give_Second_Name(const QString& path, const QString& second)
+{
+    return ::link(Bytes_Of_Name(path).constData(), Bytes_Of_Name(second).constData()) == 0 ? 0 : errno;
 }
 
 static int Sync(const QString& path, int flags)
@@ -279,4 +284,9 @@ int Longest_Name(const QString& folder)
 QString System_Words(int error)
 {
     return QString::fromLocal8Bit(std::strerror(error));
+}
+
+bool Is_Disk_Full(int error)
+{
+    return error == ENOSPC || error == EDQUOT || error == EFBIG;
 }

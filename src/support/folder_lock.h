@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 
 /// Holds a folder for one process at a time, so that two programs that share a folder don't mix what they write there.
-/// The lock is the system's own on the folder itself: no file appears, and a process that dies lets go of it.
-/// Every user asks for it; nothing stops a program that doesn't.
+/// The lock is the system's own on the folder itself: no file appears, and a process that dies lets go of it. On
+/// Windows, where a folder can't be locked, it is a hidden file in it that the system removes with its holder. Every
+/// user asks for it; nothing stops a program that doesn't.
 class Folder_Lock
 {
   public:
@@ -18,5 +20,5 @@ class Folder_Lock
     bool Try(const QString& folder);
 
   private:
-    int handle_ = -1;
+    std::intptr_t handle_ = -1; ///< the system's
 };

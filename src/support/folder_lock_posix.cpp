@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 Folder_Lock::~Folder_Lock()
 {
     if (handle_ >= 0)
-        ::close(handle_);
+        ::close(static_cast<int>(handle_));
 }
 
 bool Folder_Lock::Try(const QString& folder)
@@ -22,7 +22,7 @@ bool Folder_Lock::Try(const QString& folder)
         handle_ = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle_ < 0)
         Raise_File_Error(u"Locking the program's folder"_s, folder, errno);
-    while (::flock(handle_, LOCK_EX | LOCK_NB) != 0) {
+    while (::flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB) != 0) {
         if (errno == EWOULDBLOCK)
             return false;
         if (errno != EINTR)

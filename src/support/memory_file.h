@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// A file that lies on no disk: for a tool that takes its input from a file only, where nothing may be written.
+/// A file that lies on no disk: for a tool that takes its input from a file only, where nothing may be written. On
+/// Windows, which knows none, a temporary file that is kept off the disk as far as that goes.
 class Memory_File
 {
   public:
@@ -16,5 +17,6 @@ class Memory_File
     QString Path() const;
 
   private:
-    int handle_;
+    int handle_ = -1;
+    QString path_;
 };

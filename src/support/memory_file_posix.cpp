@@ -15,6 +15,7 @@ Memory_File::Memory_File(const QByteArray& content) : handle_(::memfd_create("va
             break;
         done += written;
     }
+    path_ = u"/proc/%1/fd/%2"_s.arg(::getpid()).arg(handle_);
 }
 
 Memory_File::~Memory_File()
@@ -25,5 +26,5 @@ Memory_File::~Memory_File()
 
 QString Memory_File::Path() const
 {
-    return u"/proc/%1/fd/%2"_s.arg(::getpid()).arg(handle_);
+    return path_;
 }

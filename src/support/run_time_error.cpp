@@ -108,11 +108,6 @@ void Raise_File_Error(const QString& doing, const QString& path, int error_numbe
     case ENOTDIR:
         number = Error_Number::Path_Not_Found;
         break;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        number = Error_Number::Disk_Full;
-        break;
     case EACCES:
     case EPERM:
     case EROFS:
@@ -122,6 +117,7 @@ void Raise_File_Error(const QString& doing, const QString& path, int error_numbe
         number = Error_Number::Device_IO_Error;
         break;
     default:
+        number = Is_Disk_Full(error_number) ? Error_Number::Disk_Full : Error_Number::Path_File_Access_Error;
         break;
     }
     throw Run_Time_Error(number, doing, path, {}, error_number == 0 ? QString() : System_Words(error_number));

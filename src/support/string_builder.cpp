@@ -1,24 +1,15 @@
 #include "support/string_builder.h"
 
-#include "support/run_time_error.h"
+#include "support/memory_pages.h"
 #include "support/text.h"
 
 #include <algorithm>
 #include <cstring>
 #include <new>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 static constexpr std::size_t Initial_Bytes = 1048576;
-
-static std::size_t Page_Size()
-{
-    const long size = ::sysconf(_SC_PAGESIZE);
-    if (size <= 0)
-        throw Run_Time_Error(Error_Number::Invalid_Procedure_Call, u"Cannot obtain page size"_s);
-    return static_cast<std::size_t>(size);
-}
 
 /// Characters that fill whole pages and are at least `characters`.
 static std::size_t Round_To_Pages(std::size_t characters)

@@ -1,6 +1,5 @@
 #include "support/system_identification.h"
 
-#include <QSysInfo>
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -64,13 +63,6 @@ QString Service_Pack(const Os_Version_Info& info)
 QString OS_Version_Line(const QString& name, const QString& service_pack, const QString& version)
 {
     return name + u' ' + service_pack + u" (v"_s + version + u')';
-}
-
-bool Get_Bitness(int& bitness)
-{
-    const bool wide = sizeof(void*) == 8 || QSysInfo::currentCpuArchitecture().contains(u"64"_s);
-    bitness = wide ? 64 : 32;
-    return true;
 }
 
 QString Format_System_Error(int code)

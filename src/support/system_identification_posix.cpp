@@ -4,9 +4,18 @@
 #include <cerrno>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 QString Get_OS_Version_Text()
 {
     return OS_Version_Line(QSysInfo::prettyProductName(), {}, QSysInfo::kernelVersion());
+}
+
+bool Get_Bitness(int& bitness)
+{
+    const bool wide = sizeof(void*) == 8 || QSysInfo::currentCpuArchitecture().contains(u"64"_s);
+    bitness = wide ? 64 : 32;
+    return true;
 }
 
 /// The library has words for every number; those it makes up for an unknown one count as none. A number of 0 or less

@@ -5,8 +5,6 @@
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/run_time_error.h"
-#include "support/shown_text.h"
-#include "support/string_builder.h"
 #include "support/whole_file.h"
 
 #include <QDir>
@@ -128,22 +126,6 @@ bool Delete_To_Recycle(const QString& path, clsStringBuilder& faults)
         (Is_Too_Long_For_Trash(plain) ? Trash_Under_Shorter_Name(plain)
                                       : Can_Be_Described(plain) && QFile::moveToTrash(plain)))
         return true;
-    faults.AppendLine(u"-- Could not be moved to the trash - \""_s + As_One_Line(plain) + u'"');
+    Tell_Of_Untrashed(plain, faults);
     return false;
-}
-
-void Recycle_If_Exists(const QString& path, clsStringBuilder& faults)
-{
-    if (File_Exists(path))
-        Delete_To_Recycle(path, faults);
-}
-
-bool Recycle_By_Prefix(const QString& folder, const QString& prefix, clsStringBuilder& faults)
-{
-    bool all_gone = true;
-    int error = 0;
-    for (const Folder_Entry& entry : List_Entries(folder, error))
-        if (entry.Name.startsWith(prefix, Qt::CaseInsensitive))
-            all_gone = Delete_To_Recycle(With_Separator(folder) + entry.Name, faults) && all_gone;
-    return all_gone;
 }

@@ -1,45 +1,24 @@
 #include "support/whole_file.h"
 
-#include "support/paths.h"
+#include "support/disk_steps.h"
+#include "support/last_error.h"
 #include "support/run_time_error.h"
+#include "support/whole_file_name.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QUuid>
 #include <cerrno>
-#include <filesystem>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 /// A short write leaves no number behind: then the disk was full.
-[[noreturn]] static void Raise_Writing_Failed(const QString& path)
+[[noreturn]] static void Raise_Writing_Failed(const QString& path, int error)
 {
-    Raise_File_Error(u"Writing a file"_s, path, errno != 0 ? errno : ENOSPC);
-}
-
-/// Where a chain of links ends, whether or not a file is there.
-static QString Behind_Links(const QString& path)
-{
-    constexpr int longest_chain = 40;
-    QString target = path;
-    for (int link = 0; link < longest_chain && QFileInfo(target).isSymLink(); ++link)
-        target = QFileInfo(target).symLinkTarget();
-    return target;
-}
-
-/// The name that QSaveFile gets. It writes to a name that is longer by seven bytes, which not every name has room for.
-static QString Name_With_Room(const QString& path)
-{
-    constexpr qsizetype longest_name = 255 - 7;
-    if (QFile::encodeName(File_Name_Of(path)).size() <= longest_name)
-        return path;
-    return path.left(path.lastIndexOf(Path_Separator) + 1) + u".vantorra-"_s +
-           QUuid::createUuid().toString(QUuid::Id128).left(12);
+    Raise_File_Error(u"Writing a file"_s, path, error != 0 ? error : ENOSPC);
 }
 
 Whole_File::Whole_File(const QString& path, QIODevice::OpenMode more)
-    : path_(Behind_Links(path)), file_(Name_With_Room(path_))
+    : path_(Behind_Links(path)), file_(Name_To_Write_Under(path_))
 {
     const QString doing = u"Opening a file to write it"_s;
     const QFileInfo there(path_);
@@ -48,42 +27,44 @@ Whole_File::Whole_File(const QString& path, QIODevice::OpenMode more)
                              u"Something that is no plain file has that name. Move it away, then try again."_s);
     if (there.exists() && !there.isWritable())
         Raise_File_Error(doing, path, EACCES);
-    errno = 0;
+    Forget_Last_Error();
     if (!file_.open(QIODevice::WriteOnly | more))
-        Raise_File_Error(doing, path, errno);
+        Raise_File_Error(doing, path, Last_Error());
 }
 
 void Whole_File::Append(const QByteArray& bytes)
 {
-    errno = 0;
+    Forget_Last_Error();
     if (file_.write(bytes) != bytes.size())
-        Raise_Writing_Failed(path_);
+        Raise_Writing_Failed(path_, Last_Error());
 }
 
 void Whole_File::Flush_To_Disk()
 {
-    errno = 0;
+    Forget_Last_Error();
     // QSaveFile's commit doesn't tell that its own flush has failed, and then gives an empty file the final name.
-    if (!file_.flush() || (::fsync(file_.handle()) != 0 && errno != EINVAL))
-        Raise_Writing_Failed(path_);
+    if (!file_.flush())
+        Raise_Writing_Failed(path_, Last_Error());
+    if (const int error = Sync_Open_File(file_); error != 0)
+        Raise_Writing_Failed(path_, error);
 }
 
 void Whole_File::Take_Its_Name()
 {
-    errno = 0;
+    Forget_Last_Error();
     if (!file_.commit())
-        Raise_Writing_Failed(path_);
+        Raise_Writing_Failed(path_, Last_Error());
     const QString written = file_.fileName();
     if (written == path_)
         return;
-    if (QFileInfo::exists(path_))
-        QFile::setPermissions(written, QFile::permissions(path_));
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(written).filesystemFilePath(), QFileInfo(path_).filesystemFilePath(), error);
-    if (!error)
+    const bool is_there = QFileInfo::exists(path_);
+    const int error = Take_The_Place_Of(written, path_);
+    if (error == 0)
         return;
-    QFile::remove(written);
-    Raise_File_Error(u"Writing a file"_s, path_, error.value());
+    // Where the step has failed half-way it is all that is left.
+    if (!is_there || QFileInfo::exists(path_))
+        QFile::remove(written);
+    Raise_File_Error(u"Writing a file"_s, path_, error);
 }
 
 void Write_Whole_File(const QString& path, const QByteArray& content, QIODevice::OpenMode more)

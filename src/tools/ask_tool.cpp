@@ -3,7 +3,7 @@
 #include "state/program.h"
 #include "support/child_process.h"
 #include "support/command_line.h"
-#include "support/signal_name.h"
+#include "support/death_words.h"
 #include "support/system_identification.h"
 
 #include <QRegularExpression>
@@ -49,7 +49,7 @@ QString Tool_Answer::Why_Not(const QString& tool) const
     const QString said = First_Line(Messages);
     QString how = u" did not end as it should"_s;
     if (Exit_Status && *Exit_Status < 0)
-        how = u" was ended by the signal "_s + Signal_Name(-*Exit_Status);
+        how = u" was ended by "_s + What_Ended(*Exit_Status);
     else if (Exit_Status)
         how = u" ended with status %1"_s.arg(*Exit_Status);
     return tool + how + (said.isEmpty() ? QString() : u": "_s + said);

@@ -1,12 +1,13 @@
-#include "support/signal_name.h"
+#include "support/death_words.h"
 
 #include <csignal>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
-QString Signal_Name(int signal_number)
+QString What_Ended(int exit_status)
 {
+    const int signal_number = -exit_status;
     static constexpr std::pair<int, const char*> names[] = {
         {SIGHUP, "SIGHUP"},   {SIGINT, "SIGINT"},   {SIGQUIT, "SIGQUIT"}, {SIGILL, "SIGILL"},   {SIGTRAP, "SIGTRAP"},
         {SIGABRT, "SIGABRT"}, {SIGBUS, "SIGBUS"},   {SIGFPE, "SIGFPE"},   {SIGKILL, "SIGKILL"}, {SIGUSR1, "SIGUSR1"},
@@ -15,6 +16,6 @@ QString Signal_Name(int signal_number)
     };
     for (const auto& [number, name] : names)
         if (number == signal_number)
-            return u"%1 (%2)"_s.arg(QLatin1StringView(name)).arg(number);
-    return QString::number(signal_number);
+            return u"the signal %1 (%2)"_s.arg(QLatin1StringView(name)).arg(number);
+    return u"the signal "_s + QString::number(signal_number);
 }
