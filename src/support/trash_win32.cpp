@@ -6,12 +6,13 @@
 #include "support/paths.h"
 #include "support/system_calls_win32.h"
 
+#include <windows.h>
+
 #include <QFile>
-#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <shellapi.h>
 #include <shlobj.h>
-#include <windows.h>
 
 using namespace Qt::StringLiterals;
 
