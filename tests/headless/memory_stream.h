@@ -1,34 +1,34 @@
 #pragma once
 
-#include <QString>
+#include <QFile>
+#include <QTemporaryFile>
 #include <cstdio>
-#include <cstdlib>
 
-/// A stream that keeps what is written to it, in place of standard output or standard error.
+/// A stream that keeps what is written to it, byte for byte, in place of standard output or standard error.
 class Memory_Stream
 {
   public:
-    Memory_Stream() : stream_(open_memstream(&text_, &size_)) {}
+    Memory_Stream()
+    {
+        if (file_.open())
+            stream_ = std::fopen(QFile::encodeName(file_.fileName()).constData(), "wb");
+    }
 
     Memory_Stream(const Memory_Stream&) = delete;
     Memory_Stream& operator=(const Memory_Stream&) = delete;
 
-    ~Memory_Stream()
-    {
-        std::fclose(stream_);
-        std::free(text_);
-    }
+    ~Memory_Stream() { std::fclose(stream_); }
 
     std::FILE* Stream() { return stream_; }
 
     QString Text()
     {
         std::fflush(stream_);
-        return QString::fromUtf8(text_, static_cast<qsizetype>(size_));
+        file_.seek(0);
+        return QString::fromUtf8(file_.readAll());
     }
 
   private:
-    char* text_ = nullptr;
-    std::size_t size_ = 0;
-    std::FILE* stream_;
+    QTemporaryFile file_;
+    std::FILE* stream_ = nullptr;
 };

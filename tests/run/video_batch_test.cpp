@@ -1,91 +1,16 @@
-#include "run/video_batch.h"
+#include "run/video_batch_fixture.h"
 
-#include "common/stand_in_tool.h"
-#include "inspect/video_names.h"
+#include "support/disk_names.h"
 
-#include <QDir>
 #include <QFile>
-#include <functional>
-#include <sys/resource.h>
-#include <unistd.h>
+#include <filesystem>
 
-namespace {
-
-/// What an ffprobe says about a file with one video track, and about nothing that is empty.
-const QByteArray Probe = "for file; do :; done\n"
-                         "[ -s \"$file\" ] || { [ \"$2\" = quiet ] || echo \"[mov @ 0x5] no moov\" >&2; exit 1; }\n"
-                         "case \"$*\" in\n"
-                         "*-show_format*) printf 'format|filename=x|duration=1.5|size=1\\n' ;;\n"
-                         "*) printf 'stream|index=0|codec_name=h264|codec_type=video|tag:language=eng\\n' ;;\n"
-                         "esac\n";
-/// A mkvmerge that writes its output and says so; the fourth argument is the output.
-const QByteArray Merge = "echo 'mkvmerge v74.0.0'; echo 'The file has been opened for writing.'\n"
-                         "sleep 0.05; printf 'Progress: 100%%\\r'; sleep 0.05\n"
-                         "echo done > \"$4\"; echo 'Multiplexing took 0 seconds.'\n";
-
-/// Gives the file a second name, by a symbolic link or by a hard one.
-bool Link(const QString& file, const QString& name, bool symbolic)
+static bool Hard_Link(const QString& file, const QString& name)
 {
-    return symbolic ? QFile::link(file, name)
-                    : ::link(QFile::encodeName(file).constData(), QFile::encodeName(name).constData()) == 0;
+    std::error_code error;
+    std::filesystem::create_hard_link(Native_Path(file), Native_Path(name), error);
+    return !error;
 }
-
-/// Keeps what a driver would hear.
-struct Recorder : Run_Listener
-{
-    int Files = -1;
-    QStringList Started;
-    QStringList Commands;
-    std::vector<File_Outcome> Outcomes;
-    std::function<void()> On_Start;
-    std::function<void()> On_Command;
-
-    void Run_Started(int files) override { Files = files; }
-
-    void File_Started(int index, const QString& source) override
-    {
-        Started += QString::number(index) + u' ' + source.section(u'/', -1);
-        if (On_Start)
-            On_Start();
-    }
-
-    void Command_Ready(const Program&, const QString&, const QString& output) override
-    {
-        Commands += output;
-        if (On_Command)
-            On_Command();
-    }
-
-    void File_Finished(const File_Outcome& outcome) override { Outcomes.push_back(outcome); }
-};
-
-struct VideoBatch : testing::Test
-{
-    Test_Program Test;
-    Program& Prog = Test.Prog;
-    Recorder Heard;
-
-    VideoBatch()
-    {
-        Prog.Tools.FFProbe_Path = Write_Stand_In(Test, u"tools/ffprobe"_s, Probe);
-        Prog.Tools.System_MKVMerge_Path = Write_Stand_In(Test, u"tools/mkvmerge"_s, Merge);
-        Prog.Options.Log_Verbosity = 1;
-        Prog.Listener = &Heard;
-    }
-
-    bool Run()
-    {
-        Find_Video_Files(Prog, Prog.Options.Path_Videos, Video_Extensions, Prog.Run.Video_File_List);
-        return Process_Video_Files(Prog);
-    }
-
-    QStringList Names(const QString& folder) const
-    {
-        return QDir(Test.Path(folder)).entryList(QDir::Files, QDir::Name);
-    }
-};
-
-} // namespace
 
 TEST_F(VideoBatch, NamesAreFoundByTheirLoweredExtensionAndKeptAsTheyAre)
 {
@@ -189,27 +114,6 @@ TEST_F(VideoBatch, AMkvmergeThatCannotRunStopsTheBatchAheadOfAnyDeletion)
     EXPECT_EQ(Names(u"videos"_s), (QStringList{u"a.mkv"_s, u"b.mkv"_s}));
 }
 
-TEST_F(VideoBatch, WithoutADescriptorThePipeIsReported)
-{
-    Test.Write(u"videos/a.mkv"_s, "x");
-    rlimit limit = {};
-    ::getrlimit(RLIMIT_NOFILE, &limit);
-    const auto take_all = [&limit] {
-        const int next = ::dup(0);
-        ::close(next);
-        const rlimit none = {static_cast<rlim_t>(next), limit.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &none);
-    };
-    for (const bool for_mkvmerge : {true, false}) {
-        Test.Person.Messages.clear();
-        (for_mkvmerge ? Heard.On_Command : Heard.On_Start) = take_all;
-        // ffprobe's failure is one file's, mkvmerge's ends the batch.
-        EXPECT_EQ(Run(), !for_mkvmerge);
-        ::setrlimit(RLIMIT_NOFILE, &limit);
-        EXPECT_EQ(Test.Codes(), QList<int>{for_mkvmerge ? 8 : 11});
-    }
-}
-
 TEST_F(VideoBatch, ANameWithoutExtensionIsReportedByWhatWentBefore)
 {
     for (const QString& name : {u"1"_s, u"a.mkv"_s, u"plain"_s})
@@ -234,20 +138,6 @@ TEST_F(VideoBatch, AFileThatVanishesIsPassedOver)
     EXPECT_EQ(Test.Results().count(u"@"_s), 3);
 }
 
-TEST_F(VideoBatch, ANameThatIsNotUtf8GetsItsReport)
-{
-    const QByteArray path = QFile::encodeName(Test.Path(u"videos/bad_"_s)) + "\xff.mkv";
-    FILE* file = ::fopen(path.constData(), "w");
-    ASSERT_NE(file, nullptr);
-    ::fputs("x", file);
-    ::fclose(file);
-    Test.Write(u"videos/good.mkv"_s, "x");
-    EXPECT_TRUE(Run());
-    EXPECT_EQ(Test.Codes(), QList<int>{13});
-    EXPECT_EQ(Names(u"target"_s), QStringList{u"good.mkv"_s});
-    ::unlink(path.constData()); // Qt can't
-}
-
 TEST_F(VideoBatch, ADryRunAssemblesAndTouchesNothing)
 {
     Test.Write(u"videos/a.mkv"_s, "x");
@@ -261,44 +151,16 @@ TEST_F(VideoBatch, ADryRunAssemblesAndTouchesNothing)
     EXPECT_EQ(Names(u"target"_s), QStringList());
 }
 
-TEST_F(VideoBatch, AnOutputThatIsASourceOrHasANameOutsideOfTheTargetIsNotWrittenThrough)
+TEST_F(VideoBatch, AnOutputThatHasANameAmongTheSourcesOrOutsideOfTheTargetIsNotWrittenThrough)
 {
-    const QString output = Test.Path(u"target/a.mkv"_s);
-    const QString elsewhere = Test.Write(u"elsewhere/old.mkv"_s, "precious");
-    const QString source = Test.Write(u"videos/a.avi"_s, "precious");
-    const QString other = Test.Write(u"videos/b.mkv_kept"_s, "precious");
-    const auto link = [&](const QString& to) { return QFile::link(to, output); };
-    const auto hard_link = [&](const QString& to) { return Link(to, output, false); };
-    const QString same = u"is the same file on disk as"_s;
-    // The reason; none where the output is written.
-    const std::tuple<const char*, std::function<bool()>, QString> claims[] = {
-        {"link to its source", [&] { return link(source); }, same},
-        {"hard link to its source", [&] { return hard_link(source); }, same},
-        {"link to another video", [&] { return link(other); }, same},
-        {"hard link to another video", [&] { return hard_link(other); }, same},
-        {"link out", [&] { return link(elsewhere); }, u"output"_s},
-        {"link out by steps",
-         [&] { return link(u"step"_s) && QFile::link(u"../elsewhere/old.mkv"_s, Test.Path(u"target/step"_s)); },
-         u"output"_s},
-        {"link to nothing out", [&] { return link(elsewhere + u"2"_s); }, u"output"_s},
-        {"link to itself", [&] { return link(output); }, u"output"_s},
-        {"link within", [&] { return link(Test.Write(u"target/b.mkv"_s)); }, {}},
-        {"hard link out", [&] { return hard_link(elsewhere); }, u"output"_s},
-        {"hard link within", [&] { return hard_link(Test.Write(u"target/c.mkv"_s)); }, {}},
+    const auto link_to = [this](const QString& file) {
+        return [this, file] { return Hard_Link(file, Guarded.Output); };
     };
-    for (const auto& [what, make, reason] : claims) {
-        QFile::remove(output);
-        ASSERT_TRUE(make()) << what;
-        Prog.Options.Delete_Video_After = !reason.isEmpty();
-        EXPECT_TRUE(Run());
-        EXPECT_EQ(Heard.Outcomes.back().Status == File_Outcome::Kind::Done, reason.isEmpty()) << what;
-        EXPECT_TRUE(Heard.Outcomes.back().Reason.contains(reason)) << what;
-        for (const QString& file : {u"elsewhere/old.mkv"_s, u"videos/a.avi"_s, u"videos/b.mkv_kept"_s})
-            EXPECT_EQ(Test.Read(file), "precious") << what;
-        EXPECT_FALSE(QFile::exists(elsewhere + u"2"_s)) << what;
-    }
-    EXPECT_EQ(Heard.Commands.size(), 2);
-    EXPECT_EQ(Test.Results().filter(same).size(), 4);
+    Expect_Guarded({{"to its source", link_to(Guarded.Source), Guarded.Same},
+                    {"to another video", link_to(Guarded.Other), Guarded.Same},
+                    {"out", link_to(Guarded.Elsewhere), u"output"_s},
+                    {"within", link_to(Test.Write(u"target/c.mkv"_s)), {}}});
+    EXPECT_EQ(Test.Results().filter(Guarded.Same).size(), 2);
 }
 
 TEST_F(VideoBatch, TheSecondWriterOfAFileIsWarnedOfByWhateverName)
@@ -306,7 +168,7 @@ TEST_F(VideoBatch, TheSecondWriterOfAFileIsWarnedOfByWhateverName)
     for (const QString& name : {u"a.avi"_s, u"a.mp4"_s, u"b.avi"_s, u"c.avi"_s})
         Test.Write(u"videos/"_s + name, "x");
     // As where case doesn't count: two names, one file.
-    ASSERT_TRUE(Link(Test.Write(u"target/b.mkv"_s), Test.Path(u"target/c.mkv"_s), false));
+    ASSERT_TRUE(Hard_Link(Test.Write(u"target/b.mkv"_s), Test.Path(u"target/c.mkv"_s)));
     EXPECT_TRUE(Run());
     EXPECT_EQ(Prog.Run.Shared_Outputs.size(), 2);
     EXPECT_EQ(Test.Results().filter(u"write the same file"_s).size(), 2);
