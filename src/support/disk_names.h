@@ -19,6 +19,9 @@ QByteArray Bytes_Of_Name(const QString& text);
 /// True if the text holds a stand-in: the name is no valid UTF-8, or UTF-16 on Windows.
 bool Has_Stand_Ins(const QString& text);
 
+/// How one stand-in is shown to people: "\xE9", its byte; on Windows "\uD83D", the lone surrogate itself.
+QString Stand_In_Shown(QChar letter);
+
 /// For the standard library: the bytes of the name, or on Windows its UTF-16.
 std::filesystem::path Native_Path(const QString& path);
 

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 static constexpr char16_t First_Stand_In = 0xDC80; ///< for the byte 0x80: the bytes below are valid by themselves
 static constexpr char16_t Last_Stand_In = 0xDCFF;
 
@@ -60,6 +62,11 @@ QByteArray Bytes_Of_Name(const QString& text)
         valid_from = at + 1;
     }
     return bytes + text.sliced(valid_from).toUtf8();
+}
+
+QString Stand_In_Shown(QChar letter)
+{
+    return u"\\x"_s + QString::number(letter.unicode() - 0xDC00, 16).toUpper();
 }
 
 std::filesystem::path Native_Path(const QString& path)

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 /// A half of a character by itself, at that place.
 static bool Is_Lone_Half(const QString& text, qsizetype at)
 {
@@ -54,6 +56,11 @@ QString Text_Of_Name(const QByteArray& bytes)
         valid_from = at + 1;
     }
     return text + QString::fromUtf8(bytes.sliced(std::min(valid_from, bytes.size())));
+}
+
+QString Stand_In_Shown(QChar letter)
+{
+    return u"\\u"_s + QString::number(letter.unicode(), 16).toUpper();
 }
 
 std::filesystem::path Native_Path(const QString& path)

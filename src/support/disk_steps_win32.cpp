@@ -151,27 +151,39 @@ int Rename_Onto(const QString& from, const QString& to)
     });
 }
 
-/// Some file systems of other machines don't know the step that keeps the attributes.
-static bool Is_Unknown_Step(DWORD error)
+/// Gives a file the attributes of another one, and who may do what with it.
+static void Take_Rights_Of(const QString& from, const QString& to)
 {
-    return error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION || error == ERROR_CALL_NOT_IMPLEMENTED;
+    constexpr DWORD kept =
+        FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    const DWORD attributes = ::GetFileAttributesW(Wide_Path(from)) & kept;
+    ::SetFileAttributesW(Wide_Path(to), attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes);
+    DWORD size = 0;
+    ::GetFileSecurityW(Wide_Path(from), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<std::byte> rights(size);
+    if (size > 0 && ::GetFileSecurityW(Wide_Path(from), DACL_SECURITY_INFORMATION, rights.data(), size, &size) != 0)
+        ::SetFileSecurityW(Wide_Path(to), DACL_SECURITY_INFORMATION, rights.data());
 }
 
 int Take_The_Place_Of(const QString& from, const QString& to)
 {
+    const auto is_there = [&to] { return ::GetFileAttributesW(Wide_Path(to)) != INVALID_FILE_ATTRIBUTES; };
+    constexpr DWORD onto = MOVEFILE_WRITE_THROUGH | MOVEFILE_REPLACE_EXISTING;
+    if (is_there())
+        Take_Rights_Of(to, from);
     return Patiently([&] {
-        // The system's exchange may fail half-way, when the old file is gone and the name is free.
-        if (::GetFileAttributesW(Wide_Path(to)) == INVALID_FILE_ATTRIBUTES)
-            return ::MoveFileExW(Wide_Path(from), Wide_Path(to), MOVEFILE_WRITE_THROUGH) != 0;
+        if (::MoveFileExW(Wide_Path(from), Wide_Path(to), onto) != 0)
+            return true;
+        if (::GetLastError() != ERROR_ACCESS_DENIED || !is_there())
+            return false;
+        // Somebody has the file open. The system's exchange puts it aside first, which takes more than one step.
         if (::ReplaceFileW(Wide_Path(to), Wide_Path(from), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                            nullptr) != 0)
             return true;
-        const DWORD error = ::GetLastError();
-        if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT || Is_Unknown_Step(error))
-            return ::MoveFileExW(Wide_Path(from), Wide_Path(to), MOVEFILE_WRITE_THROUGH | MOVEFILE_REPLACE_EXISTING) !=
-                   0;
-        // Held open by somebody, in the words of this step.
-        ::SetLastError(error == ERROR_UNABLE_TO_REMOVE_REPLACED ? ERROR_SHARING_VIOLATION : error);
+        if (::GetLastError() == ERROR_UNABLE_TO_MOVE_REPLACEMENT)
+            return ::MoveFileExW(Wide_Path(from), Wide_Path(to), onto) != 0;
+        if (::GetLastError() == ERROR_UNABLE_TO_REMOVE_REPLACED)
+            ::SetLastError(ERROR_SHARING_VIOLATION);
         return false;
     });
 }

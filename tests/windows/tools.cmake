@@ -11,6 +11,11 @@ target_include_directories(tool_forwarder PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tool_forwarder PRIVATE vantorra_flags)
 target_link_options(tool_forwarder PRIVATE -municode -s)
 
+# A child that takes its arguments apart by the C run-time, crashes or closes its outputs.
+add_executable(test_child windows/test_child.cpp)
+target_link_libraries(test_child PRIVATE vantorra_flags)
+target_link_options(test_child PRIVATE -municode -s)
+
 # There is no Windows' mkvmerge to be had: the host's stands in for it, and the host's ffmpeg makes the media.
 set(tools ${CMAKE_CURRENT_BINARY_DIR}/tools)
 find_program(MKVMERGE mkvmerge REQUIRED)

@@ -47,17 +47,6 @@ TEST(Files, AListingComesByNameAndTellsEveryNameApart)
         ::unlink((folder + name).constData()); // Qt can't remove all of them
 }
 
-TEST(Files, AFolderGoesToTheTrashWithOrWithoutItsSeparatorAndWhatIsGoneIsNoFault)
-{
-    const Test_Program test;
-    test.Write(u"old/x"_s);
-    clsStringBuilder faults;
-    for (int time = 1; time <= 2; ++time)
-        EXPECT_TRUE(Delete_To_Recycle(test.Path(u"old//"_s), faults));
-    EXPECT_FALSE(QFile::exists(test.Path(u"old"_s)));
-    EXPECT_EQ(faults.ToString(), u""_s);
-}
-
 TEST(Files, APathIsFoundInAnotherCaseWhereItsOwnIsMissing)
 {
     const Test_Program test;
@@ -75,4 +64,11 @@ TEST(Shown_Text, WhatCouldPassForSomethingElseIsWrittenOut)
     const QString name = u"a\r\n\t\x1b[2J\u009b\u202Eb😀"_s + Text_Of_Name("\xe9");
     EXPECT_EQ(As_One_Line(name), u"a\\r\\n\t\x1b[2J\u009b\u202Eb😀\\xE9"_s);
     EXPECT_EQ(Printable(name), u"a\\r\\n\\t\\x1B[2J\\u009B\\u202Eb😀\\xE9"_s);
+}
+
+TEST(Paths, ALinkToAFolderIsThatFolder)
+{
+    const Test_Program test;
+    ASSERT_TRUE(QFile::link(test.Path(u"videos"_s), test.Path(u"link"_s)));
+    EXPECT_TRUE(Same_Folder(test.Path(u"videos"_s), test.Path(u"link/"_s)));
 }
