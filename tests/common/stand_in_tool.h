@@ -18,6 +18,9 @@ QString Write_Stand_In(const Test_Program& test, const QString& relative, const 
 /// Puts the real tool of PATH into a folder below the test's root, as a link.
 void Put_Tool(const Test_Program& test, const QString& name, const QString& folder);
 
+/// Makes of a stand-in a program that can't be started.
+void Spoil(const QString& stand_in);
+
 /// A path as a stand-in's body has it: on Windows that of Wine's host.
 QByteArray Path_In_Script(const QString& path);
 

@@ -17,6 +17,13 @@ void Put_Tool(const Test_Program& test, const QString& name, const QString& fold
     QFile::link(Tool_In_Path(name), test.Path(folder + u'/' + name));
 }
 
+void Spoil(const QString& stand_in)
+{
+    QFile file(stand_in);
+    if (!file.open(QIODevice::WriteOnly) || file.write("#!/nowhere\n") < 0)
+        qFatal("A stand-in can't be spoilt: %s", qPrintable(stand_in));
+}
+
 QByteArray Path_In_Script(const QString& path)
 {
     return QFile::encodeName(path);

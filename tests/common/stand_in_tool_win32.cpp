@@ -34,6 +34,13 @@ void Put_Tool(const Test_Program& test, const QString& name, const QString& fold
         qFatal("A tool can't be put there: %s", qPrintable(path));
 }
 
+void Spoil(const QString& stand_in)
+{
+    QFile file(stand_in);
+    if (!file.open(QIODevice::WriteOnly) || file.write("#!/nowhere\n") < 0)
+        qFatal("A stand-in can't be spoilt: %s", qPrintable(stand_in));
+}
+
 QByteArray Path_In_Script(const QString& path)
 {
     return QByteArray::fromStdString(Unix_Path(QDir::toNativeSeparators(path).toStdWString()));

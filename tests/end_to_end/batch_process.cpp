@@ -46,7 +46,7 @@ Batch_Process::Batch_Process()
     environment.insert(u"XDG_DATA_HOME"_s, QFile::decodeName(Path_In_Script(Path(u"trash"_s))));
     environment.remove(u"VANTORRA_HOME"_s);
     Process.setProcessEnvironment(environment);
-    Prepare_For_Halt(Process);
+    Prepare_For_Start(Process);
 }
 
 Batch_Process::~Batch_Process()

@@ -54,10 +54,16 @@ struct Batch_Process : Test_Program
     QByteArray out_;
 };
 
-/// Has to be called before a program is started that Ask_To_Halt is for.
-void Prepare_For_Halt(QProcess& process);
+/// What has to stand ready before the program is started; on Windows a console, and mkvmerge in the registry.
+void Prepare_For_Start(QProcess& process);
 /// What a person does who wants the program to stop: SIGINT; on Windows Ctrl-Break.
 void Ask_To_Halt(QProcess& process);
 
+/// What a stand-in's script, in the test's folder, does to have the program killed or asked to halt.
+extern const char* const Kill_It;
+extern const char* const Halt_It;
+/// Has to be called in the run where a script does that: on Windows it can only leave word. Waits for the end then.
+void Do_As_The_Script_Asks(Batch_Process& batch);
+
 /// The children of a process, by number; those that ended and were never reaped, too.
-QList<long> Children_Of(long process);
+QList<long> Children_Of(qint64 process);

@@ -11,7 +11,7 @@ void Ask_To_Halt(QProcess& process)
     ::kill(static_cast<pid_t>(process.processId()), SIGINT);
 }
 
-QList<long> Children_Of(long process)
+QList<long> Children_Of(qint64 process)
 {
     QList<long> children;
     for (const QString& number : QDir(u"/proc"_s).entryList(QDir::Dirs)) {

@@ -1,11 +1,23 @@
+#include "common/media.h"
 #include "end_to_end/batch_process.h"
 
+#include <QFile>
 #include <windows.h>
 // It takes what windows.h defines.
 #include <tlhelp32.h>
 
-void Prepare_For_Halt(QProcess& process)
+/// Where MKVToolNix puts its path; the tools of PATH stand in for an installed one.
+static void Register_Mkvtoolnix()
 {
+    constexpr wchar_t key[] = LR"(SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\mkvtoolnix-gui.exe)";
+    const QString tool = Tool_In_Path(u"mkvtoolnix-gui"_s);
+    RegSetKeyValueW(HKEY_CURRENT_USER, key, nullptr, REG_SZ, tool.utf16(),
+                    static_cast<DWORD>((tool.size() + 1) * qsizetype(sizeof(wchar_t))));
+}
+
+void Prepare_For_Start(QProcess& process)
+{
+    Register_Mkvtoolnix();
     // Ctrl-Break goes to a group of processes that share a console.
     if (GetConsoleCP() == 0)
         AllocConsole();
@@ -15,12 +27,25 @@ void Prepare_For_Halt(QProcess& process)
     });
 }
 
+const char* const Kill_It = ": > kill_it; sleep 5";
+const char* const Halt_It = ": > halt_it; sleep 5";
+
+void Do_As_The_Script_Asks(Batch_Process& batch)
+{
+    while (batch.Process.state() != QProcess::NotRunning && !batch.Process.waitForFinished(20)) {
+        if (QFile::remove(batch.Path(u"kill_it"_s)))
+            batch.Process.kill();
+        if (QFile::remove(batch.Path(u"halt_it"_s)))
+            Ask_To_Halt(batch.Process);
+    }
+}
+
 void Ask_To_Halt(QProcess& process)
 {
     GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, static_cast<DWORD>(process.processId()));
 }
 
-QList<long> Children_Of(long process)
+QList<long> Children_Of(qint64 process)
 {
     QList<long> children;
     const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);

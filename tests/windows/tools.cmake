@@ -22,7 +22,7 @@ find_program(MKVMERGE mkvmerge REQUIRED)
 configure_file(windows/mkvmerge.in ${tools}/host/mkvmerge @ONLY FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 find_file(FFPROBE_EXE ffprobe.exe PATHS $ENV{VANTORRA_WINDOWS_NEEDS}/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 file(CREATE_LINK ${FFPROBE_EXE} ${tools}/ffprobe.exe SYMBOLIC)
-foreach(tool mkvmerge mkvextract ffmpeg)
+foreach(tool mkvmerge mkvextract mkvtoolnix-gui ffmpeg)
     file(WRITE ${tools}/${tool}.exe.sh "exec ${tool} \"$@\"\n")
     list(APPEND forwarders ${tools}/${tool}.exe)
     add_custom_command(OUTPUT ${tools}/${tool}.exe DEPENDS tool_forwarder
