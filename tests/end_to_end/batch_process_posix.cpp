@@ -4,7 +4,12 @@
 #include <QFile>
 #include <csignal>
 
-void Prepare_For_Halt(QProcess&) {}
+const char* const Kill_It = "kill -9 $PPID; sleep 5";
+const char* const Halt_It = "kill -2 $PPID; sleep 5";
+
+void Prepare_For_Start(QProcess&) {}
+
+void Do_As_The_Script_Asks(Batch_Process&) {}
 
 void Ask_To_Halt(QProcess& process)
 {
