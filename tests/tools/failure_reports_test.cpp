@@ -1,6 +1,7 @@
 #include "tools/failure_reports.h"
 
 #include "common/test_program.h"
+#include "support/system_identification.h"
 
 #include <cerrno>
 
@@ -36,6 +37,8 @@ TEST(FailureReports, EachShowsItsBoxAndLogsItsLines)
 
 TEST(FailureReports, OneAndTwoQuoteTheSystem)
 {
+    const QString words = Format_System_Error(ENOENT);
+    ASSERT_TRUE(words.contains(u"file"_s)) << words.toStdString();
     for (const int code : {1, 2}) {
         Test_Program test;
         test.Prog.Options.Log_Verbosity = 1;
@@ -43,7 +46,7 @@ TEST(FailureReports, OneAndTwoQuoteTheSystem)
         Report_Run_Failure(test.Prog, code);
         const Message_Box& box = test.Person.Messages.at(0);
         EXPECT_EQ(box.Icon, Message_Icon::Stop);
-        EXPECT_TRUE(box.Text.contains(u"Error:\r\nmkvmerge.exe No such file or directory"_s)) << box.Text.toStdString();
-        EXPECT_EQ(test.Prog.Run.Last_Error_Text, u"No such file or directory"_s);
+        EXPECT_TRUE(box.Text.contains(u"Error:\r\nmkvmerge.exe "_s + words)) << box.Text.toStdString();
+        EXPECT_EQ(test.Prog.Run.Last_Error_Text, words);
     }
 }

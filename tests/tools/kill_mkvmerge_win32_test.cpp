@@ -1,7 +1,10 @@
 #include "tools/kill_mkvmerge.h"
 
 #include "common/stand_in_tool.h"
+
 #include "support/child_process.h"
+
+#include <QCoreApplication>
 
 TEST(KillMkvmerge, EveryProcessOfTheSessionWithTheNameGoesInWhateverLettersAndNoOther)
 {

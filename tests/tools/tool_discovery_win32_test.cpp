@@ -1,0 +1,107 @@
+#include "tools/tools_fixture.h"
+
+#include <windows.h>
+
+static const QString App_Paths = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\mkvtoolnix-gui.exe"_s;
+
+namespace {
+
+/// A registry of the test's own in place of the machine's and the person's.
+struct Registered_Tools : Tools_Test
+{
+    Registered_Tools()
+    {
+        for (const auto& [root, name] :
+             {std::pair(HKEY_LOCAL_MACHINE, u"\\machine"_s), std::pair(HKEY_CURRENT_USER, u"\\person"_s)}) {
+            HKEY key = nullptr;
+            RegCreateKeyExW(HKEY_CURRENT_USER, (place_ + name).toStdWString().c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                            nullptr, &key, nullptr);
+            overrides_.emplace_back(root, key);
+        }
+        for (const auto& [root, key] : overrides_)
+            RegOverridePredefKey(root, key);
+    }
+
+    ~Registered_Tools() override
+    {
+        for (const auto& [root, key] : overrides_) {
+            RegOverridePredefKey(root, nullptr);
+            RegCloseKey(key);
+        }
+        RegDeleteTreeW(HKEY_CURRENT_USER, place_.toStdWString().c_str());
+    }
+
+    static void Register(HKEY root, const QString& path, DWORD type = REG_SZ)
+    {
+        const std::wstring text = path.toStdWString();
+        RegSetKeyValueW(root, App_Paths.toStdWString().c_str(), nullptr, type, text.c_str(),
+                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+    }
+
+  private:
+    QString place_ = u"Software\\Vantorra_Test_%1"_s.arg(GetCurrentProcessId());
+    std::vector<std::pair<HKEY, HKEY>> overrides_;
+};
+
+} // namespace
+
+TEST_F(Registered_Tools, TheInstalledMkvmergeIsTheOneBesideTheRegisteredProgram)
+{
+    EXPECT_EQ(Installed_MKVToolNix(), u""_s);
+    const QString own = Says(u"person/mkvmerge"_s, "x");
+    const QString all = Says(u"machine/mkvmerge"_s, "x");
+    const QString person_gui = Says(u"person/mkvtoolnix-gui"_s, "x");
+    const QString gui = Says(u"machine/mkvtoolnix-gui"_s, "x");
+    QString path;
+    // By what root, as what, and the mkvmerge that it leads to.
+    const std::tuple<HKEY, QString, DWORD, QString> claims[] = {
+        {HKEY_CURRENT_USER, person_gui, REG_SZ, own},
+        {HKEY_LOCAL_MACHINE, u'"' + gui + u'"', REG_SZ, all},
+        {HKEY_LOCAL_MACHINE, QString(gui).replace(u'\\', u'/'), REG_SZ, all},
+        {HKEY_LOCAL_MACHINE, QString(gui).replace(Path(), u"%Test_Root%\\"_s), REG_EXPAND_SZ, all},
+    };
+    qputenv("Test_Root", Path().chopped(1).toUtf8());
+    for (const auto& [root, registered, type, mkvmerge] : claims) {
+        Register(root, registered, type);
+        EXPECT_TRUE(Find_MKVMerge_In_Registry(Prog, path)) << registered.toStdString();
+        EXPECT_EQ(path, mkvmerge) << registered.toStdString();
+    }
+    Register(HKEY_LOCAL_MACHINE, u"C:\\gone\\mkvtoolnix-gui.exe"_s);
+    EXPECT_FALSE(Find_MKVMerge_In_Registry(Prog, path));
+    EXPECT_EQ(Codes(), QList<int>{52});
+}
+
+TEST_F(Registered_Tools, TheSystemCopyIsTheSettingsPathElseTheRegisteredOneElseTheLocalOne)
+{
+    const QString kept = Says(u"my tools/mkvmerge"_s, "mkvmerge v1");
+    const QString installed = Says(u"suite/mkvmerge"_s, "mkvmerge v1");
+    Register(HKEY_LOCAL_MACHINE, Says(u"suite/mkvtoolnix-gui"_s, "x"));
+    Prog.Tools.Local_MKVMerge_Path = u"C:\\local\\mkvmerge.exe"_s;
+    const std::tuple<QString, QString, QString, QList<int>> claims[] = {
+        {kept, kept, u"Set by Operator"_s, {}},
+        {u"C:\\gone"_s, installed, u"Read from Registry"_s, {}},
+        {{}, u"C:\\local\\mkvmerge.exe"_s, u"Using Local mkvmerge"_s, {52}}};
+    for (const auto& [of_settings, path, choice, codes] : claims) {
+        Prog.Settings.Mkvmerge_Path_Ini = of_settings;
+        if (of_settings.isEmpty())
+            QFile::remove(installed);
+        EXPECT_TRUE(Find_System_MKVMerge(Prog));
+        EXPECT_EQ(Prog.Tools.System_MKVMerge_Path, path);
+        EXPECT_EQ(Prog.Settings.lbl_MKVMerge_Choose, choice);
+        EXPECT_EQ(Codes(), codes);
+    }
+}
+
+TEST_F(Registered_Tools, FFProbeOfPathIsUsedWhereItLiesUntilOneLiesInTheProgramsFolder)
+{
+    const QString ffprobe = Says(u"bin/ffprobe"_s, "ffprobe version 1");
+    qputenv("PATH", "relative;;\"" + Path(u"bin"_s).toUtf8() + "\"");
+    Link_FFProbe(Prog);
+    EXPECT_FALSE(QFile::exists(Path(u"app/ffprobe.exe"_s)));
+    EXPECT_TRUE(Find_FFProbe(Prog));
+    EXPECT_EQ(Prog.Tools.FFProbe_Path, ffprobe);
+    const QString own = Says(u"app/ffprobe"_s, "ffprobe version 1");
+    EXPECT_TRUE(Find_FFProbe(Prog));
+    EXPECT_EQ(Prog.Tools.FFProbe_Path, own);
+    EXPECT_TRUE(Person.Messages.empty());
+}
