@@ -54,7 +54,7 @@ TEST_F(Attachments, TitledSubfoldersAreLookedForInOrder)
     Write(u"att/Movie/inside.png"_s);
     EXPECT_EQ(Find(), QStringList{u"Moviemovieposter.png"_s});
     Write(u"att/Movie_Attachments/first.png"_s);
-    EXPECT_EQ(Find(), QStringList{u"Movie_Attachments/first.png"_s});
+    EXPECT_EQ(Find(), QStringList{Native(u"Movie_Attachments/first.png"_s)});
 }
 
 TEST_F(Attachments, ANameThatMkvmergeWouldNotTakeForOneIsLeftOutAndTheFileIsStillAttached)

@@ -2,6 +2,7 @@
 
 #include "command/chapter_text.h"
 #include "command/companion_fixture.h"
+#include "common/test_trash.h"
 #include "support/command_line.h"
 
 #include <QRegularExpression>
@@ -170,7 +171,7 @@ TEST_F(Chapters, AnOldXmlThatCanNotGoToTheTrashIsNeverOverwritten)
 {
     Write(u"videos/Movie_Chapters.txt"_s, "1 text\n");
     const QString xml = Write(u"videos/Movie_Chapters.xml"_s, "old");
-    qputenv("XDG_DATA_HOME", "/proc/nowhere");
+    const Refused_By_Trash refused(xml);
     EXPECT_EQ(Error_Of([&] { Find(); }).Subject, xml);
     EXPECT_EQ(Xml(), u"old"_s);
     EXPECT_EQ(Faults(), QStringList{u"-- Could not be moved to the trash - \""_s + xml + u'"'});

@@ -1,5 +1,6 @@
 #include "command/command_frame.h"
 
+#include "command/native_command.h"
 #include "command/track_order.h"
 #include "common/test_program.h"
 
@@ -15,7 +16,7 @@ static const QString Subtitle_Line = u"stream|index=2|codec_type=subtitle|dispos
 static QString Command_Of(Test_Program& test, const QString& ffprobe_output, const QString& video_path)
 {
     test.Prog.Media.FFProbe_Output = ffprobe_output;
-    EXPECT_EQ(Parse_VideoData_A(test.Prog, u"/out/"_s, u"/in/"_s, video_path), 1);
+    EXPECT_EQ(Parse_VideoData_A(test.Prog, Native(u"/out/"_s), Native(u"/in/"_s), Native(video_path)), 1);
     return test.Prog.Run.Mkvmerge_Arguments.Text();
 }
 
@@ -27,11 +28,12 @@ TEST(CommandFrame, OptionsStandInTheirPlaces)
     options.chk_RemoveAllTags.Value = options.chk_RemoveAllAttachments.Value = options.chk_StripChaps.Value = 1;
     options.chk_SetFileTitle.Value = options.chk_SetVideoTitle.Value = 1;
     options.opt_SetFileTitle.Selected = options.opt_SetVideoTitle.Selected = 2;
-    EXPECT_EQ(Command_Of(test, Format_Line + Video_Line + Audio_Line + Subtitle_Line, u"/in/My Movie.avi"_s),
-              u" --ui-language en_US --output \"/out/My Movie.mkv\" --no-audio --no-subtitles --no-track-tags"
-              " --no-attachments --no-chapters --language 0:eng --default-track 0:yes"
-              " --display-dimensions 0:1920x1080 --track-name  \"0:\\\"My Movie\\\"\""
-              " ( \"/in/My Movie.avi\" ) --title \"\\\"My Movie\\\"\""_s);
+    EXPECT_EQ(
+        Command_Of(test, Format_Line + Video_Line + Audio_Line + Subtitle_Line, u"/in/My Movie.avi"_s),
+        Native_Command(u" --ui-language en_US --output \"/out/My Movie.mkv\" --no-audio --no-subtitles --no-track-tags"
+                       " --no-attachments --no-chapters --language 0:eng --default-track 0:yes"
+                       " --display-dimensions 0:1920x1080 --track-name  \"0:\\\"My Movie\\\"\""
+                       " ( \"/in/My Movie.avi\" ) --title \"\\\"My Movie\\\"\""_s));
 }
 
 TEST(CommandFrame, NothingIsTouchedWhereFfprobeSaidNothing)
@@ -39,9 +41,9 @@ TEST(CommandFrame, NothingIsTouchedWhereFfprobeSaidNothing)
     Test_Program test;
     const QString before = Command_Of(test, Format_Line + Video_Line, u"/in/Movie.avi"_s);
     test.Prog.Media.FFProbe_Output.clear();
-    EXPECT_EQ(Parse_VideoData_A(test.Prog, u"/out/"_s, u"/in/"_s, u"/in/Other.avi"_s), 0);
+    EXPECT_EQ(Parse_VideoData_A(test.Prog, Native(u"/out/"_s), Native(u"/in/"_s), Native(u"/in/Other.avi"_s)), 0);
     EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), before);
-    EXPECT_EQ(test.Prog.Run.Output_Path, u"/out/Movie.mkv"_s);
+    EXPECT_EQ(test.Prog.Run.Output_Path, Native(u"/out/Movie.mkv"_s));
 }
 
 TEST(CommandFrame, AStreamTextMadeToSmuggleOptionsStaysInItsArguments)

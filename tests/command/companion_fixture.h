@@ -1,9 +1,7 @@
 #pragma once
 
-#include "common/test_program.h"
+#include "common/stand_in_tool.h"
 #include "support/text.h"
-
-#include <QFile>
 
 /// A program with its language table and an ffprobe that says the same of every file: German, default, "Handler". It
 /// says nothing of a file whose name holds "silent".
@@ -13,11 +11,10 @@ struct Companion_Test : testing::Test, Test_Program
     {
         Load_Language_Table(Prog.Language_Table, QStringLiteral("scrap"));
         Prog.Tools.FFProbe_Path =
-            Write(QStringLiteral("app/ffprobe"),
-                  "#!/bin/sh\ncase \"$*\" in *silent*) exit 1;; esac\n"
-                  "echo 'stream|index=0|codec_type=audio|disposition:default=1|disposition:forced=0|"
-                  "tag:language=ger|tag:handler_name=Handler'\n");
-        QFile::setPermissions(Prog.Tools.FFProbe_Path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            Write_Stand_In(*this, QStringLiteral("app/ffprobe"),
+                           "case \"$*\" in *silent*) exit 1;; esac\n"
+                           "echo 'stream|index=0|codec_type=audio|disposition:default=1|disposition:forced=0|"
+                           "tag:language=ger|tag:handler_name=Handler'\n");
     }
 
     /// Writes empty files into the video folder.

@@ -1,5 +1,6 @@
 #include "command/split_command.h"
 
+#include "command/native_command.h"
 #include "common/test_program.h"
 
 static const QString Split_Video =
@@ -29,9 +30,9 @@ TEST(SplitCommand, OnlyLanguagesThePiecesAndTheOrderAreWritten)
     for (const auto& [path, streams, text] : claims) {
         test.Prog.Logs.Log_Faults.Clear();
         test.Prog.Media.FFProbe_Output = u"format|filename=x\r\n"_s + streams;
-        EXPECT_EQ(Split_Video_Mod(test.Prog, u"/out/"_s, u"/in/"_s, path), 1);
-        EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), text);
-        EXPECT_EQ(test.Faults(), QStringList(u"-- Processing video file - \""_s + path + u'"'));
+        EXPECT_EQ(Split_Video_Mod(test.Prog, Native(u"/out/"_s), Native(u"/in/"_s), Native(path)), 1);
+        EXPECT_EQ(test.Prog.Run.Mkvmerge_Arguments.Text(), Native_Command(text));
+        EXPECT_EQ(test.Faults(), QStringList(u"-- Processing video file - \""_s + Native(path) + u'"'));
     }
 }
 

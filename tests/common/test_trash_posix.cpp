@@ -22,3 +22,13 @@ QStringList Names_In_Trash()
 {
     return QDir(Data_Home() + u"/Trash/files"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
 }
+
+Refused_By_Trash::Refused_By_Trash(const QString&)
+{
+    qputenv("XDG_DATA_HOME", "/proc/nowhere");
+}
+
+Refused_By_Trash::~Refused_By_Trash()
+{
+    Use_Own_Trash();
+}

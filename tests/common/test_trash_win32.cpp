@@ -21,3 +21,12 @@ QStringList Names_In_Trash()
 {
     return QDir(Data_Home() + u"/Trash/files"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
 }
+
+Refused_By_Trash::Refused_By_Trash(const QString& path) : held_(path)
+{
+    // Qt lets others read and write meanwhile, but not rename.
+    if (!held_.open(QIODevice::ReadOnly))
+        qFatal("A file can't be held: %s", qPrintable(path));
+}
+
+Refused_By_Trash::~Refused_By_Trash() = default;

@@ -23,20 +23,21 @@ static Batch_Options Options_Of(const QString& line)
 TEST(Batch_Options, FoldersAreAbsoluteNeedNoOptionsAndChoicesAddUp)
 {
     const QString here = QDir::currentPath();
-    Batch_Options options = Options_Of(u"--videos \"in put\" --target=/out --app-folder ../app"_s);
+    const QString out = Native(u"/out"_s);
+    Batch_Options options = Options_Of(u"--videos \"in put\" --target=%1 --app-folder sub/app"_s.arg(out));
     EXPECT_EQ(options.Command, Batch_Command::Run);
-    EXPECT_EQ(options.Videos, here + u"/in put"_s);
-    EXPECT_EQ(options.Target, u"/out"_s);
-    EXPECT_EQ(options.App_Folder, here + u"/../app"_s);
+    EXPECT_EQ(options.Videos, Native(here + u"/in put"_s));
+    EXPECT_EQ(options.Target, out);
+    EXPECT_EQ(options.App_Folder, Native(here + u"/sub/app"_s));
     EXPECT_FALSE(options.Dry_Run || options.Json || options.Quiet);
 
-    options =
-        Options_Of(u"\"in put\" /out -nq --careful --resume --failed --only a* --only=b --leave-out -c --shard 2/10"_s);
-    EXPECT_EQ(options.Videos, here + u"/in put"_s);
-    EXPECT_EQ(options.Target, u"/out"_s);
+    options = Options_Of(
+        u"\"in put\" %1 -nq --careful --resume --failed --only a* --only=b/c --leave-out -c --shard 2/10"_s.arg(out));
+    EXPECT_EQ(options.Videos, Native(here + u"/in put"_s));
+    EXPECT_EQ(options.Target, out);
     EXPECT_TRUE(options.Dry_Run && options.Quiet && options.Resume && options.Only_Failed);
     EXPECT_EQ(options.Careful, true);
-    EXPECT_EQ(options.Only, (QStringList{u"a*"_s, u"b"_s}));
+    EXPECT_EQ(options.Only, (QStringList{u"a*"_s, Native(u"b/c"_s)}));
     EXPECT_EQ(options.Leave_Out, QStringList(u"-c"_s));
     EXPECT_EQ(options.Part.Number * 100 + options.Part.Of, 210);
     EXPECT_EQ(Options_Of(u"run /a /b --classic"_s).Careful, false);
@@ -45,8 +46,8 @@ TEST(Batch_Options, FoldersAreAbsoluteNeedNoOptionsAndChoicesAddUp)
     const int by_itself = Options_Of(u"--jobs auto"_s).At_Once.value_or(0);
     EXPECT_TRUE(by_itself >= 1 && by_itself <= 4);
 
-    options = Options_Of(u"identify /a \"b c\" --codec-private"_s);
-    EXPECT_EQ(options.Files, (QStringList{u"/a"_s, here + u"/b c"_s}));
+    options = Options_Of(u"identify %1 \"b c\" --codec-private"_s.arg(out));
+    EXPECT_EQ(options.Files, (QStringList{out, Native(here + u"/b c"_s)}));
     EXPECT_TRUE(options.Codec_Private);
     options = Options_Of(u"log --full"_s);
     EXPECT_EQ(options.Command, Batch_Command::Log);
@@ -108,11 +109,11 @@ TEST(Batch_Options, MistakesAreToldAndGiveNoOptions)
 TEST(Batch_Options, EachCommandHasAHelpThatNamesTheProgramsFolder)
 {
     const QByteArray present = qgetenv("VANTORRA_HOME");
-    qputenv("VANTORRA_HOME", "/some/where");
+    qputenv("VANTORRA_HOME", Native(u"/some/where"_s).toUtf8());
     const Batch_Line help = Parse(u"--help --videos /nowhere"_s);
     present.isNull() ? qunsetenv("VANTORRA_HOME") : qputenv("VANTORRA_HOME", present);
     EXPECT_FALSE(help.Options);
-    for (const QString& word : {u"settings"_s, u"identify"_s, u"log"_s, u"130"_s, u"/some/where/\n"_s})
+    for (const QString& word : {u"settings"_s, u"identify"_s, u"log"_s, u"130"_s, Native(u"/some/where/"_s) + u'\n'})
         EXPECT_TRUE(help.Text.contains(word)) << word.toStdString();
     const QString log = Parse(u"log --help"_s).Text;
     EXPECT_TRUE(log.contains(u"--full") && !log.contains(u"--tick")) << log.toStdString();

@@ -44,7 +44,7 @@ TEST(Batch_Program, APresetIsTakenByItsNameAndSetWinsOverIt)
     const QString title = u"Other Options/Set Custom File Title Text"_s;
     const std::tuple<QStringList, int, QString> claims[] = {
         {{u"presets"_s}, 0, u"A & b bad"_s},
-        {{u"presets"_s, u"--json"_s}, 0, u"{\"event\":\"preset\",\"name\":\"bad\",\"path\":\"/"_s},
+        {{u"presets"_s, u"--json"_s}, 0, u"{\"event\":\"preset\",\"name\":\"bad\",\"path\":\""_s},
         {{u"settings"_s, u"--preset"_s, u"a & b"_s}, 0, title + u" \"q\" "_s},
         {{u"settings"_s, u"--set"_s, title + u"=x"_s, u"--preset=A & b"_s}, 0, title + u" x "_s},
         {{u"settings"_s, u"--preset"_s, u"bed"_s}, Exit_Bad_Usage, u"no such preset (vantorra-batch presets"_s},

@@ -7,6 +7,7 @@
 /// A report of the kind that the options ask for, over a program whose run is played to it.
 struct Played_Run
 {
+    const QString Folder = Native(u"/v/"_s);
     Memory_Stream Out;
     Memory_Stream Err;
     Test_Operator Person;
@@ -16,7 +17,7 @@ struct Played_Run
     explicit Played_Run(const Batch_Options& options) : Report(Batch_Report::Make(options, Out.Stream(), Err.Stream()))
     {
         Prog.Run.Dry_Run = options.Dry_Run;
-        Prog.Options.Path_Videos = u"/v/"_s;
+        Prog.Options.Path_Videos = Folder;
         Prog.Options.Path_Target = u"/t/"_s;
         Prog.Tools.System_MKVMerge_Path = u"/usr/bin/mkvmerge"_s;
         Report->Watch_Over(Prog);
@@ -27,11 +28,11 @@ struct Played_Run
     {
         Command_Line command;
         command.Add_Path(u" --output "_s, u"/t/my film.mkv"_s);
-        Report->File_Started(1, u"/v/"_s + name);
+        Report->File_Started(1, Folder + name);
         Prog.Run.Mkvmerge_Arguments = command;
-        Report->Command_Ready(Prog, u"/v/"_s + name, u"/t/my film.mkv"_s);
-        Report->Progress(u"/v/"_s + name, 24, 3);
-        Report->File_Finished({.Source = u"/v/"_s + name,
+        Report->Command_Ready(Prog, Folder + name, u"/t/my film.mkv"_s);
+        Report->Progress(Folder + name, 24, 3);
+        Report->File_Finished({.Source = Folder + name,
                                .Output = u"/t/my film.mkv"_s,
                                .Status = status,
                                .Exit = exit,
@@ -48,14 +49,16 @@ TEST(Batch_Report, JsonLinesHaveTheirKeysInTheirOrder)
     run.File(u"my \"film\"\n.avi"_s, File_Outcome::Kind::Done, 1, u"R"_s, {u"w"_s});
     run.Report->Show_Message({.Code = 13, .Title = u"T."_s, .Text = u"one\r\ntwo"_s});
     run.Report->Ended(Batch_End::Finished, 0);
-    EXPECT_EQ(run.Out.Text(), uR"({"event":"run","videos":"/v/","target":"/t/","files":1,"version":"2.5.5"}
+    const QString folder = QString(run.Folder).replace(u"\\"_s, u"\\\\"_s);
+    EXPECT_EQ(run.Out.Text(), QString(uR"({"event":"run","videos":"/v/","target":"/t/","files":1,"version":"2.5.5"}
 {"event":"file","index":1,"source":"/v/my \"film\"\n.avi"}
 {"event":"command","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","text":" --output \"/t/my film.mkv\"","arguments":["--output","/t/my film.mkv"]}
 {"event":"progress","source":"/v/my \"film\"\n.avi","percent":24,"overall":3}
 {"event":"result","source":"/v/my \"film\"\n.avi","output":"/t/my film.mkv","status":"done","exit":1,"seconds":1.25,"reason":"R","warnings":["w"]}
 {"event":"message","code":13,"title":"T.","text":"one\r\ntwo"}
 {"event":"finished","status":"finished","done":0,"warnings":1,"failed":0,"skipped":0,"not_run":0,"exit":0}
-)"_s);
+)"_s)
+                                  .replace(u"/v/"_s, folder));
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: my \"film\" .avi: w\nvantorra-batch: #13 T. one two\n"_s);
 }
 
@@ -97,9 +100,10 @@ TEST(Batch_Report, WhatWasWarnedOfIsNotSaidTwiceBesideTheVideo)
     run.Report->Warned(u"T"_s, u"both write one file"_s);
     run.File(u"a.avi"_s, File_Outcome::Kind::Done, 0, {}, {u"both write one file"_s});
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: warning: both write one file\n"_s);
-    run.Report->File_Started(2, u"/v/b.avi"_s);
+    run.Report->File_Started(2, run.Folder + u"b.avi"_s);
     run.Report->Show_Message({.Code = 13, .Title = u"T."_s, .Text = u"It failed."_s});
-    run.Report->File_Finished({.Source = u"/v/b.avi"_s, .Status = File_Outcome::Kind::Failed, .Reason = u"torn"_s});
+    run.Report->File_Finished(
+        {.Source = run.Folder + u"b.avi"_s, .Status = File_Outcome::Kind::Failed, .Reason = u"torn"_s});
     EXPECT_TRUE(run.Err.Text().endsWith(u"one file\nvantorra-batch: b.avi failed: torn (#13)\n"_s));
     run.Report->Ended(Batch_End::Finished, 0);
     EXPECT_TRUE(run.Err.Text().contains(u"vantorra-batch: warning: a.avi: both write one file\n"_s));
@@ -151,11 +155,11 @@ TEST(Batch_Report, ADryRunPrintsCommandsForAShellAndNothingElse)
 TEST(Batch_Report, AMessageNamesTheFileInWork)
 {
     Played_Run run({});
-    run.Report->File_Started(1, u"/v/a.avi"_s);
+    run.Report->File_Started(1, run.Folder + u"a.avi"_s);
     run.Report->Show_Message(
         {.Code = 12, .Title = u"T."_s, .Text = u"Failed.\r\n\r\nClick OK to continue processing next video file."_s});
     run.Report->Show_Message({.Title = u"T."_s, .Text = u"About /v/a.avi"_s});
     EXPECT_EQ(run.Err.Text(), u"vantorra-batch: T. About /v/a.avi\n"_s) << "the other waits for the video's own words";
-    run.Report->File_Finished({.Source = u"/v/a.avi"_s, .Status = File_Outcome::Kind::Failed});
+    run.Report->File_Finished({.Source = run.Folder + u"a.avi"_s, .Status = File_Outcome::Kind::Failed});
     EXPECT_TRUE(run.Err.Text().endsWith(u"\nvantorra-batch: #12 T. Failed. [/v/a.avi]\n"_s)) << "it has none";
 }

@@ -5,6 +5,7 @@
 #include "headless/identify_command.h"
 #include "headless/log_command.h"
 #include "headless/memory_stream.h"
+#include "support/paths.h"
 #include "support/run_time_error.h"
 
 #include <QDir>
@@ -35,6 +36,8 @@ TEST(Log_Command, PrintsTheNewestFiveHundredLinesOrAllOfThemWithPlainLineEnds)
     Memory_Stream out;
     Print_Log(test.Path(u"other/"_s), true, out.Stream());
     EXPECT_EQ(out.Text(), QString()) << "a folder of that name is no log";
+    if (Path_Separator != u'/')
+        return; // no device can be linked to
     QFile::link(u"/dev/null"_s, test.Path(u"target/Vantorra_Process.log"_s));
     for (const bool full : {false, true})
         EXPECT_EQ(Error_Of([&] { Print_Log(test.Path(u"target/"_s), full, out.Stream()); }).Number, 75);

@@ -54,7 +54,7 @@ TEST(Json_Probe, ADurationThatIsNotThereIsUnknown)
 
 TEST(Json_Probe, ANameIsNeverAnOptionOrAProtocol)
 {
-    EXPECT_EQ(Json_Probe_Command(u"/v/-i a.mkv"_s).Arguments().constLast(), u"/v/-i a.mkv"_s);
+    EXPECT_EQ(Json_Probe_Command(Native(u"/v/-i a.mkv"_s)).Arguments().constLast(), Native(u"/v/-i a.mkv"_s));
     EXPECT_EQ(Json_Probe_Command(u"-i"_s).Arguments().constLast(), u"file:-i"_s);
     EXPECT_EQ(Json_Probe_Command(u"http://x"_s).Arguments().constLast(), u"file:http://x"_s);
 }
@@ -76,10 +76,10 @@ TEST(Json_Probe, AToolsWordCountsOnlyIfItEndedWell)
     EXPECT_EQ(Probe_With(test, answer + "echo >&2; echo '[mov @ 0x55d0] broken' >&2; exit 1"),
               u"ffprobe ended with status 1: [mov] broken"_s);
     EXPECT_EQ(test.Prog.Media.FileInfoList.size(), 1U);
-    EXPECT_EQ(Probe_With(test, answer + "kill -9 $$"), u"ffprobe was ended by the signal SIGKILL (9)"_s);
+    EXPECT_TRUE(Probe_With(test, answer + "kill -9 $$").startsWith(u"ffprobe was ended by the signal "_s));
     EXPECT_EQ(Probe_With(test, "exec cat /dev/zero"), u"ffprobe printed without end"_s);
     test.Prog.Tools.FFProbe_Path = test.Path(u"missing"_s);
-    EXPECT_TRUE(Probe_Video(test.Prog, u"/v/a.mkv"_s).startsWith(u"ffprobe could not be started: No such file"));
+    EXPECT_TRUE(Probe_Video(test.Prog, u"/v/a.mkv"_s).startsWith(u"ffprobe could not be started: "));
     EXPECT_EQ(Children_Left(), 0);
 }
 

@@ -80,7 +80,7 @@ TEST(Output_Check, AGoodOutputIsGoodAndACutOneIsNone)
             << options.toStdString();
     EXPECT_EQ(Check_Output(asked, said, 1, output, {}).Warnings.size(), 1) << "mkvmerge warned";
     EXPECT_EQ(Check_Output(Asked_Of(command, Streams({u"0"_s, u"7"_s})), said, 0, output, {}).Warnings,
-              QStringList(u"mkvmerge didn't take track 7 of \"%1\""_s.arg(source.section(u'/', -1))));
+              QStringList(u"mkvmerge didn't take track 7 of \"%1\""_s.arg(File_Name_Of(source))));
     EXPECT_FALSE(Check_Output(asked, u"nothing"_s, 0, output, {}).Failure.isEmpty());
     for (const qint64 size : {QFile(output).size() - 1, QFile(output).size() / 50, qint64{0}}) {
         ASSERT_TRUE(QFile::resize(output, size));

@@ -25,12 +25,12 @@ TEST(AppFolder, TheFirstPlaceThatIsGivenCounts)
     };
 
     const Claim claims[] = {
-        {{u"/asked"_s, u"/env"_s, portable, u"/data"_s}, u"/asked/"_s},
-        {{u"/asked/./a//"_s, {}, {}, u"/data"_s}, u"/asked/a/"_s},
-        {{u"here"_s, {}, {}, u"/data"_s}, QDir::currentPath() + u"/here/"_s},
-        {{{}, u"/env"_s, portable, u"/data"_s}, u"/env/"_s},
-        {{{}, {}, portable, u"/data"_s}, portable + u'/'},
-        {{{}, {}, plain, u"/data/vantorra"_s}, u"/data/vantorra/"_s},
+        {{Native(u"/asked"_s), Native(u"/env"_s), portable, u"/data"_s}, Native(u"/asked/"_s)},
+        {{Native(u"/asked/./a//"_s), {}, {}, u"/data"_s}, Native(u"/asked/a/"_s)},
+        {{u"here"_s, {}, {}, u"/data"_s}, Native(QDir::currentPath() + u"/here/"_s)},
+        {{{}, Native(u"/env"_s), portable, u"/data"_s}, Native(u"/env/"_s)},
+        {{{}, {}, portable, u"/data"_s}, With_Separator(portable)},
+        {{{}, {}, plain, Native(u"/data/vantorra"_s)}, Native(u"/data/vantorra/"_s)},
     };
     for (const Claim& claim : claims)
         EXPECT_EQ(Choose_App_Folder(claim.Places), claim.Folder);

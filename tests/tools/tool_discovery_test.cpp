@@ -74,6 +74,7 @@ TEST_F(Tools_Test, TheLocalCopyIdentifiesElseWithTheExtensionTheSystemCopy)
 {
     EXPECT_EQ(Which_Tool_Identifies(Prog), Identifying_Tool::None);
     Prog.Tools.System_MKVMerge_Path = Says(u"bin/mkvmerge"_s, "mkvmerge v74");
+    Prog.Settings.Mkvmerge_Path_Ini = Prog.Tools.System_MKVMerge_Path;
     EXPECT_EQ(Which_Tool_Identifies(Prog), Identifying_Tool::System_Json);
     Prog.Settings.Extensions.Identify_With_Any_Mkvmerge = false;
     EXPECT_EQ(Which_Tool_Identifies(Prog), Identifying_Tool::None);
