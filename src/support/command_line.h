@@ -54,6 +54,6 @@ class Command_Line
     QStringList refusals_;
 };
 
-/// The arguments in POSIX shell quoting, joined by blanks: what --dry-run prints. Holds no control character but line
-/// feeds: a hostile title can't steer the terminal.
+/// The arguments in POSIX shell quoting, joined by blanks: what --dry-run prints; on Windows as the command prompt
+/// takes them. Holds no control character but line feeds: a hostile title can't steer the terminal.
 QString Shell_Quoted(const QStringList& arguments);

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 static bool Needs_Quotes(QChar letter)
 {
-    return letter.unicode() <= u' ' || letter.isSpace() || u"\"*?"_s.contains(letter);
+    return letter.unicode() <= u' ' || letter.isSpace() || u"\"*?&|<>^"_s.contains(letter);
 }
 
 /// Backslashes count only ahead of a quote, where each takes two, and the quote one more.

@@ -11,5 +11,6 @@ inline constexpr qsizetype Longest_Windows_Command_Line = 32'766;
 
 /// `program` and `arguments` as one command line, from which CommandLineToArgvW and the C run-time both read the same
 /// arguments again: no quote, backslash or line break in one ever starts another. What a run-time might take for a
-/// pattern of file names is quoted, too. An argument ends at its first zero character.
+/// pattern of file names is quoted, too, as is what means something to the command prompt. An argument ends at its
+/// first zero character.
 QString Windows_Command_Line(const QString& program, const QStringList& arguments);

@@ -1,7 +1,6 @@
 #include "common/media.h"
 #include "end_to_end/batch_process.h"
 #include "support/paths.h"
-#include "support/platform_names.h"
 
 #include <QDir>
 #include <QFile>
@@ -61,8 +60,9 @@ TEST(Vantorra_Batch, ADryRunWritesNothingAtAll)
                                           "chk_ConvertTXT --set \"Menu/Delete Source Video Sundry Files=True\""_s);
     EXPECT_EQ(result.Exit, 0) << result.Err.toStdString();
     EXPECT_EQ(result.Out.count(u'\n'), 1);
-    const QString tool = Executable_Name(u"mkvmerge"_s) + u" --ui-language "_s + Tool_Language() + u" --output "_s;
-    EXPECT_TRUE(result.Out.contains(Path_Separator + tool)) << result.Out.toStdString();
+    const QString tool = Path_Separator == u'/' ? u"/mkvmerge --ui-language en_US --output "_s
+                                                : u"\\mkvmerge.exe\" --ui-language en --output C:"_s;
+    EXPECT_TRUE(result.Out.contains(tool)) << result.Out.toStdString();
     EXPECT_TRUE(result.Out.contains(u"film_Chapters.xml"_s)) << "a chapter file still to be made is named";
 
     // A refusal, the settings and a run-time error leave nothing, either.
