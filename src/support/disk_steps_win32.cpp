@@ -176,7 +176,9 @@ int Take_The_Place_Of(const QString& from, const QString& to)
             return true;
         if (::GetLastError() != ERROR_ACCESS_DENIED || !is_there())
             return false;
-        // Somebody has the file open. The system's exchange puts it aside first, which takes more than one step.
+        // Somebody has the file open. Where he lets others remove it, the system's exchange puts it aside first.
+        if (!Open_Path(to, DELETE, OPEN_EXISTING))
+            return false;
         if (::ReplaceFileW(Wide_Path(to), Wide_Path(from), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                            nullptr) != 0)
             return true;

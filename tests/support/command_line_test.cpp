@@ -1,6 +1,6 @@
 #include "support/command_line.h"
 
-#include "common/test_program.h"
+#include "common/stand_in_tool.h"
 
 #include <QProcess>
 
@@ -107,8 +107,9 @@ TEST(CommandLine, AShellReadsTheQuotedWordsBackAsTheArguments)
     const QString words = Shell_Quoted(arguments);
     for (const QChar letter : words)
         EXPECT_TRUE(letter.category() != QChar::Other_Control || letter == u'\n') << int{letter.unicode()};
+    const Test_Program test;
     QProcess shell;
-    shell.start(u"/bin/sh"_s, {u"-c"_s, u"printf '%s\\0' "_s + words});
+    shell.start(Write_Stand_In(test, u"shell"_s, "printf '%s\\0' " + words.toUtf8() + '\n'), QStringList());
     ASSERT_TRUE(shell.waitForFinished());
     QStringList read = QString::fromUtf8(shell.readAllStandardOutput()).split(QChar(u'\0'));
     read.removeLast();
