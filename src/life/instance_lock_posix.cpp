@@ -16,6 +16,7 @@ struct Instance_Lock::Platform
 };
 
 Instance_Lock::Instance_Lock() : platform_(std::make_unique<Platform>()) {}
+
 Instance_Lock::~Instance_Lock() = default;
 
 bool Instance_Lock::Take(const QString& app_folder)

@@ -5,7 +5,6 @@
 #include "support/text.h"
 
 #include <QRegularExpression>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
