@@ -10,9 +10,9 @@ QString Source_Text(const QString& path)
     return QString::fromUtf8(file.readAll());
 }
 
-QStringList Source_Files()
+QStringList Source_Files(const QString& top_folder)
 {
-    const QString top = QStringLiteral(VANTORRA_SOURCE_FOLDER "/src/");
+    const QString top = QStringLiteral(VANTORRA_SOURCE_FOLDER "/") + top_folder + u'/';
     QStringList files;
     QDirIterator walk(top, {u"*.cpp"_s, u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (walk.hasNext())

@@ -9,8 +9,8 @@
 /// The text of a file of the sources, named relative to their top folder; fails the test if it isn't there.
 QString Source_Text(const QString& path);
 
-/// Paths of the sources, relative to src, as "room/file.cpp".
-QStringList Source_Files();
+/// Paths of the sources below a top folder, relative to it, as "room/file.cpp".
+QStringList Source_Files(const QString& top_folder = u"src"_s);
 
 /// What stands under a second-level heading, up to the next one; empty if there is no such heading.
 QString Chapter(const QString& page, const QString& heading);
