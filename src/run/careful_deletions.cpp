@@ -20,11 +20,11 @@ static QStringList Files_Read(const Program& program)
         if (File_Exists(path))
             files += path;
     };
-    const QStringList& arguments = program.Run.Mkvmerge_Arguments.Arguments();
+    const Command_Line& command = program.Run.Mkvmerge_Arguments;
     for (const ExternalTrackList* list : {&program.Companions.External_Audio, &program.Companions.External_Subtitles})
         for (const ExternalTrack& track : *list) {
             const QString path = track.Folder + track.FileName;
-            if (!track.InUse || !arguments.contains(path))
+            if (!track.InUse || !command.Holds_Path(path))
                 continue;
             add(path);
             if (track.OptionFileUsed)
@@ -33,7 +33,7 @@ static QStringList Files_Read(const Program& program)
                 add(track.Folder + Get_Base_Name(track.FileName) + u".sub"_s);
         }
     for (const Attachment& attachment : program.Companions.Attachment_List)
-        if (arguments.contains(attachment.FullPath))
+        if (command.Holds_Path(attachment.FullPath))
             add(attachment.FullPath);
     return files;
 }

@@ -55,9 +55,8 @@ QStringList Habit_Warnings(const Program& program, const QStringList& video_base
 QStringList Companions_Left_Out(const Program& program)
 {
     QStringList left_out;
-    const QStringList& arguments = program.Run.Mkvmerge_Arguments.Arguments();
     for (const ExternalTrack& track : program.Companions.External_Subtitles)
-        if (track.InUse && !arguments.contains(track.Folder + track.FileName))
+        if (track.InUse && !program.Run.Mkvmerge_Arguments.Holds_Path(track.Folder + track.FileName))
             left_out += u"\"%1\" was not added, because its name is a part of others'"_s.arg(track.FileName) + Key_Note;
     for (const ExternalTrack& track : program.Companions.External_Subtitles_Unpaired)
         if (track.InUse)

@@ -2,6 +2,7 @@
 
 #include "inspect/asked_output.h"
 #include "support/disk_steps.h"
+#include "support/long_path.h"
 #include "support/paths.h"
 
 #include <algorithm>
@@ -47,7 +48,8 @@ static double Added_Part(const Command_Line& command, const QString& source)
     const QStringList& arguments = command.Arguments();
     double bytes = 0;
     for (qsizetype at = 1; at < arguments.size(); ++at)
-        if (arguments[at] != source && (arguments[at - 1] == "("_L1 || arguments[at - 1] == "--attach-file"_L1))
+        if (arguments[at] != Path_For_Tool(source) &&
+            (arguments[at - 1] == "("_L1 || arguments[at - 1] == "--attach-file"_L1))
             if (const auto identity = Identity_Of(arguments[at]))
                 bytes += static_cast<double>(identity->Size);
     return bytes;

@@ -4,6 +4,7 @@
 #include "run/careful_walk.h"
 #include "state/program.h"
 #include "support/death_words.h"
+#include "support/long_path.h"
 #include "support/paths.h"
 #include "support/system_identification.h"
 #include "support/text.h"
@@ -22,10 +23,10 @@ static QStringList Working_Arguments(const Video_Work& work)
 {
     const Program& program = work.Prog;
     QStringList arguments = program.Run.Mkvmerge_Arguments.Arguments();
-    arguments[arguments.indexOf(u"--output"_s) + 1] = Working_Output(work);
+    arguments[arguments.indexOf(u"--output"_s) + 1] = Path_For_Tool(Working_Output(work));
     if (!program.Run.Video.Chapter_Xml.isEmpty()) {
         Write_Whole_File(Working_Chapters(work), program.Run.Video.Chapter_Xml);
-        arguments[arguments.lastIndexOf(u"--chapters"_s) + 1] = Working_Chapters(work);
+        arguments[arguments.lastIndexOf(u"--chapters"_s) + 1] = Path_For_Tool(Working_Chapters(work));
     }
     return arguments;
 }

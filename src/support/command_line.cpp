@@ -1,5 +1,6 @@
 #include "support/command_line.h"
 
+#include "support/long_path.h"
 #include "support/paths.h"
 #include "support/shown_text.h"
 #include "support/text.h"
@@ -68,7 +69,12 @@ void Command_Line::Add_Literal(const QString& option, const QString& text, const
 void Command_Line::Add_Path(const QString& option, const QString& path)
 {
     Add_Options(option);
-    Add(Quote_Path(path), path);
+    Add(Quote_Path(path), Path_For_Tool(path));
+}
+
+bool Command_Line::Holds_Path(const QString& path) const
+{
+    return arguments_.contains(Path_For_Tool(path));
 }
 
 void Command_Line::Add_Input(const QString& path)

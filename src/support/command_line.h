@@ -29,8 +29,11 @@ class Command_Line
     /// The same for a value that comes from a file as it is: `argument` is what the child receives, to the letter,
     /// `text` how the command words it.
     void Add_Literal(const QString& option, const QString& text, const QString& argument);
-    /// `option` followed by the quoted path, whose argument is the path itself. `option` as for Add_Option.
+    /// `option` followed by the quoted path, whose argument is the path as a tool is given it. `option` as for
+    /// Add_Option.
     void Add_Path(const QString& option, const QString& path);
+    /// True if that path is one of the arguments.
+    bool Holds_Path(const QString& path) const;
     /// " ( " + quoted path + " )": the source or a companion. The argument is the path itself.
     void Add_Input(const QString& path);
 

@@ -42,7 +42,8 @@ QString As_On_Disk(const QString& path)
 {
     const bool is_folder = path.endsWith(Path_Separator);
     const QString plain = is_folder ? path.chopped(1) : path;
-    if (Identity_Of(plain))
+    // Where capitals make no other name, what is there may be called otherwise, and what isn't is by no other name.
+    if (Identity_Of(plain).has_value() == (Case_Of_Names == Qt::CaseSensitive))
         return path;
     const QString folder = plain.left(plain.lastIndexOf(Path_Separator) + 1);
     const QString wanted = Raised(File_Name_Of(plain));

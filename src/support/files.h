@@ -12,7 +12,7 @@
 /// can't be opened gives an empty list.
 QStringList List_Files(const QString& folder);
 
-/// `path` if something is there; else the path of what stands in the same folder under that name but for the case of
+/// `path` if something is there by just that name; else the path of what stands in the same folder under that name but for the case of
 /// its letters, the first by name, as the system's home platform would find it; else `path` again.
 QString As_On_Disk(const QString& path);
 

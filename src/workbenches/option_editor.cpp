@@ -161,10 +161,9 @@ static void List_Option_Folder(Program& program)
         QSet<QString> paired;
         for (const QString& name : Names_By_Masks(program, editor.Folder, editor.Kind.Media_Masks)) {
             OptionFileRow row{name, {}};
-            if (const QString own = name + u".opt"_s; File_Exists(editor.Folder + own))
-                row.OptionFileName = own;
-            else
-                row.OptionFileName = in_other_case.value(own.toLower());
+            const QString own = name + u".opt"_s;
+            const bool is_other_name = Case_Of_Names == Qt::CaseSensitive && File_Exists(editor.Folder + own);
+            row.OptionFileName = is_other_name ? own : in_other_case.value(own.toLower());
             if (!row.OptionFileName.isEmpty())
                 paired += row.OptionFileName;
             rows.push_back(row);

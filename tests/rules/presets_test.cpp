@@ -154,7 +154,7 @@ TEST_F(Preset_Rules, SavingAsksBeforeItReplacesAndKeepsWhatItDoesNotKnow)
 
     Person.Answer = Message_Answer::Ok;
     Save(u"ANIME"_s);
-    const QByteArray now = Read(u"app/presets/Anime.ini"_s);
+    const QByteArray now = Read(u"app/presets/Anime.ini"_s).replace("\r\n", "\n");
     EXPECT_TRUE(now.startsWith("; mine\n[Audio]\nAdd Audio Files=Off\nFuture=1\n")) << now.toStdString();
     EXPECT_TRUE(now.contains("[New]\nKey=x\n"));
     Prog.Options.chk_AddAudio.Value = 2; // neither on nor off

@@ -27,17 +27,6 @@ struct RecentFolders : testing::Test, Test_Program
     }
 };
 
-TEST_F(RecentFolders, GoneFoldersComeInEmptyAndTwoColonsKeepOneOut)
-{
-    QDir().mkpath(Path(u"a:b:c"_s));
-    QDir().mkpath(Path(u"a:b"_s));
-    Read_Recent_Sources(
-        Prog, QStringList{Path(u"gone/"_s), Path(u"a:b:c/"_s), Path(u"a:b/"_s), Path(u"lost/"_s), u""_s}.join(u';'));
-    EXPECT_EQ(Prog.Options.Path_Videos, u""_s);
-    EXPECT_EQ(Prog.Form.lbl_VideoPathFault.Caption, u""_s);
-    EXPECT_EQ(Prog.Settings.Source_MRU, (QStringList{Path(u"a:b/"_s), u""_s, u""_s}));
-}
-
 TEST_F(RecentFolders, TheWriterDropsEmptyItemsAndThoseWithinAnEarlierText)
 {
     const std::tuple<QString, QStringList, QString> claims[] = {

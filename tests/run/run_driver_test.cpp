@@ -5,6 +5,7 @@
 #include "run/list_runs.h"
 #include "run/run_driver.h"
 #include "run/video_list_watch.h"
+#include "support/platform_names.h"
 
 #include <QFile>
 
@@ -21,17 +22,18 @@ struct Empty_Path
     ~Empty_Path() { qputenv("PATH", Before); }
 };
 
+static const QByteArray Probe = "case \"$*\" in\n"
+                                "*show_format*) echo 'format|filename=v.avi|duration=60.5|size=1';;\n"
+                                "*show_streams*) echo 'stream|index=0|codec_type=video|width=320|height=180';;\n"
+                                "*) echo 'ffprobe version 5.1 Copyright (c) 2007-2022 the FFmpeg developers';;\n"
+                                "esac";
+
 /// A program with stand-ins for both tools and one video.
 struct Driver_Test : Test_Program
 {
     Driver_Test()
     {
-        Write_Stand_In(*this, u"app/ffprobe"_s,
-                       "case \"$*\" in\n"
-                       "*show_format*) echo 'format|filename=v.avi|duration=60.5|size=1';;\n"
-                       "*show_streams*) echo 'stream|index=0|codec_type=video|width=320|height=180';;\n"
-                       "*) echo 'ffprobe version 5.1 Copyright (c) 2007-2022 the FFmpeg developers';;\n"
-                       "esac");
+        Write_Stand_In(*this, u"app/ffprobe"_s, Probe);
         Mkvmerge("printf 'Progress: 10%%\\n'; sleep 0.1; echo 'Multiplexing took 1 second.'");
         Write(u"videos/v.avi"_s, "x");
     }
@@ -40,7 +42,7 @@ struct Driver_Test : Test_Program
     void Mkvmerge(const QByteArray& body)
     {
         Prog.Tools.System_MKVMerge_Path = Write_Stand_In(
-            *this, u"tools/mkvmerge"_s, "echo \"$@\" > '" + Path(u"arguments"_s).toUtf8() + "'\n" + body);
+            *this, u"tools/mkvmerge"_s, "echo \"$@\" > '" + Path_In_Script(Path(u"arguments"_s)) + "'\n" + body);
     }
 
     Press_Result Press() { return btn_RunVantorra_MouseUp(Prog, {.X = 5, .Y = 5, .Width = 10, .Height = 10}); }
@@ -102,7 +104,7 @@ TEST(Run_Driver, OnlyAPlainLeftReleaseOnTheButtonStartsARun)
 TEST(Run_Driver, APressWhileThePressBeforeIsAtWorkHasNoEffect)
 {
     Driver_Test test;
-    test.Mkvmerge("echo run >> '" + test.Path(u"runs"_s).toUtf8() + "'");
+    test.Mkvmerge("echo run >> '" + Path_In_Script(test.Path(u"runs"_s)) + "'");
     int nested = 0;
     test.Person.On_Pump = [&] {
         ++nested;
@@ -175,9 +177,9 @@ TEST(Run_Driver, WithoutFfprobeOrAnyMkvmergeAPressEndsWithItsReportAndNoLogEntry
         Driver_Test test;
         const QString mkvmerge = test.Prog.Tools.System_MKVMerge_Path;
         if (there == u"mkvmerge"_s)
-            QFile::remove(test.Path(u"app/ffprobe"_s));
+            QFile::remove(test.Path(Executable_Name(u"app/ffprobe"_s)));
         else
-            test.Prog.Tools.System_MKVMerge_Path = test.Path(u"gone/mkvmerge"_s);
+            test.Prog.Tools.System_MKVMerge_Path = test.Path(Executable_Name(u"gone/mkvmerge"_s));
         const bool has_local = there == u"local mkvmerge"_s;
         test.Prog.Tools.Local_MKVMerge_Path = has_local ? mkvmerge : QString();
         EXPECT_EQ(test.Press(), has_local ? Press_Result::Finished : Press_Result::Refused);
@@ -236,9 +238,9 @@ TEST(Run_Driver, AHaltWorksFromThePressOnWhateverHangs)
 {
     for (const QByteArray& hangs : {QByteArray("-version"), QByteArray("show_format"), QByteArray("show_streams")}) {
         Driver_Test test;
-        const QByteArray probe = test.Read(u"app/ffprobe"_s);
         Write_Stand_In(test, u"app/ffprobe"_s,
-                       "case \"$*\" in *" + hangs + "*) : > \"$0.now\"; sleep 1000 & wait;; esac\n" + probe);
+                       "case \"$*\" in *" + hangs + "*) : > '" + Path_In_Script(test.Path(u"app/ffprobe.now"_s)) +
+                           "'; sleep 1000 & wait;; esac\n" + Probe);
         test.Person.On_Pump = [&] {
             // Escape, as the form passes it on; the button does the same.
             if (test.Prog.Form.btn_Halt.Visible && QFile::exists(test.Path(u"app/ffprobe.now"_s)))

@@ -104,8 +104,8 @@ TEST_F(Tracks_Test, TheRealToolsFillTheTableAndABrokenVideoSaysWhy)
 TEST_F(Tracks_Test, AVideoIsAskedAboutOnceAndNotAtAllBehindTheText)
 {
     Prog.Tools.FFProbe_Path = Write_Stand_In(*this, u"app/ffprobe"_s,
-                                             "echo x >> \"" + Path(u"asked"_s).toUtf8() +
-                                                 "\"\n[ -e \"$0.slow\" ] && exec sleep 30\n"
+                                             "echo x >> \"" + Path_In_Script(Path(u"asked"_s)) +
+                                                 "\"\n[ -e \"${0%.exe.sh}.slow\" ] && exec sleep 30\n"
                                                  "echo '{\"streams\":[{\"index\":0,\"codec_type\":\"video\"}]}'\n");
     for (const char* name : {"videos/a.mkv", "videos/b.mkv", "videos/c.mkv"})
         Write(QLatin1StringView(name));

@@ -90,7 +90,7 @@ TEST_F(Info_Test, TheTextIsSavedBesideTheFileUnderItsNameUpToTheLastPoint)
                                                   {u"/v.x/film"_s, u"/v.x/film Video Info.txt"_s},
                                                   {u"/v/.mkv"_s, u"/v/ Video Info.txt"_s}};
     for (const auto& [path, saved] : cases)
-        EXPECT_EQ(Video_Info_File(path), saved);
+        EXPECT_EQ(Video_Info_File(Native(path)), Native(saved));
 
     ViewVFI_lst_VideoFiles_Click(Prog, Form, 0);
     Write(u"videos/film.part1 Video Info.txt"_s, QByteArray(9999, 'x'));
@@ -101,7 +101,7 @@ TEST_F(Info_Test, TheTextIsSavedBesideTheFileUnderItsNameUpToTheLastPoint)
     Form.Shown_File = Path(u"gone/film.mkv"_s);
     ViewVFI_btn_SaveToFile(Prog, Form);
     ASSERT_EQ(Person.Messages.size(), 1U);
-    EXPECT_TRUE(Person.Messages[0].Text.contains(u"gone/film Video Info.txt"_s));
+    EXPECT_TRUE(Person.Messages[0].Text.contains(Native(u"gone/film Video Info.txt"_s)));
 }
 
 TEST_F(Info_Test, AChangedFolderShowsAtTheNextOpening)
