@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QStringDecoder>
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -69,8 +70,12 @@ QByteArray Read_File(const QString& path)
     QFile file;
     Open_Plain_File(file, path, u"Opening a file to read it"_s);
     Forget_Last_Error();
-    // One byte more than is taken: a file may grow while it is read.
-    QByteArray content = file.size() > Longest_Side_File ? QByteArray() : file.read(Longest_Side_File + 1);
+    // One byte more than there is: a file may grow while it is read. Asked for by the most that is taken, all of that
+    // memory would be touched on Windows.
+    const qint64 size = std::min(file.size(), Longest_Side_File);
+    QByteArray content = file.size() > Longest_Side_File ? QByteArray() : file.read(size + 1);
+    if (content.size() > size)
+        content += file.read(Longest_Side_File - size);
     if (file.error() != QFileDevice::NoError)
         Raise_File_Error(u"Reading a file"_s, path, Last_Error());
     if (file.size() > Longest_Side_File || content.size() > Longest_Side_File)

@@ -97,17 +97,6 @@ TEST_F(Crash_Test, AKillBetweenTwoStepsOfTheRotationLosesNothing)
     }
 }
 
-TEST_F(Crash_Test, AnEntryThatIsInTheLogAlreadyIsNotTakenInFromTheWorkFileOnceMore)
-{
-    // A run died between giving the new log its name and removing the work file.
-    Lay_Down(Entry + "\r\nold\r\n");
-    Write(u"app/Vantorra_ProcessNEW.log"_s, Entry);
-    Prog.Options.mnu_AppendLogs = true;
-    Write_Process_Log(Prog);
-    EXPECT_EQ(Log(), Entry + "\r\n" + Entry + "\r\nold\r\n");
-    EXPECT_FALSE(QFile::exists(Path(u"app/Vantorra_ProcessALL.log"_s)));
-}
-
 TEST_F(Crash_Test, AFullDiskIsTheRunTimeErrorAndTheOldLogStaysWhole)
 {
     constexpr int disk_full = 61;

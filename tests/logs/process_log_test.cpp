@@ -1,6 +1,7 @@
 #include "logs/process_log.h"
 
 #include "common/test_program.h"
+#include "common/test_trash.h"
 #include "support/disk_steps.h"
 #include "support/folder_lock.h"
 #include "workbenches/form_lock.h"
@@ -35,7 +36,13 @@ struct Log_Test : testing::Test, Test_Program
         return Read(u"app/Vantorra_Process"_s + QLatin1StringView(letter) + u".log"_s);
     }
 
-    QStringList Files() const { return QDir(Path(u"app"_s)).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    /// All but the lock, which is a file on Windows.
+    QStringList Files() const
+    {
+        QStringList files = QDir(Path(u"app"_s)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+        files.removeAll(u".vantorra-lock"_s);
+        return files;
+    }
 };
 
 TEST_F(Log_Test, OnlyResultsThatSaySomethingReachTheFileAndAllBuffersAreEmptyAfterwards)
@@ -56,11 +63,11 @@ TEST_F(Log_Test, AppendingCarriesTheOldTextBelowTheNewEntryAndTrashesNothing)
     Write(u"app/Vantorra_ProcessA.log"_s, "a");
     Write(u"app/Vantorra_Process.log"_s, "old one\nold two\r\nno line end");
     const qsizetype trashed = Names_In_Trash().filter(u"Vantorra_Process"_s).size();
-    const auto only_mine = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-    QFile::setPermissions(Path(u"app/Vantorra_Process.log"_s), only_mine);
+    const QString log = Path(u"app/Vantorra_Process.log"_s);
+    QFile::setPermissions(log, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    const QFileDevice::Permissions permissions = QFile::permissions(log);
     Write_Process_Log(Prog);
-    EXPECT_EQ(QFile::permissions(Path(u"app/Vantorra_Process.log"_s)) & (QFileDevice::ReadGroup | only_mine),
-              only_mine);
+    EXPECT_EQ(QFile::permissions(log), permissions);
     EXPECT_EQ(Log(), Header(0) + "\r\n\r\n\r\nold one\nold two\r\nno line end\r\n");
     EXPECT_EQ(Generation("A"), "a");
     EXPECT_EQ(Names_In_Trash().filter(u"Vantorra_Process"_s).size(), trashed);
@@ -113,12 +120,24 @@ TEST_F(Log_Test, ALogThatARunLeftUnderTwoNamesIsRotatedOnce)
     EXPECT_EQ(Generation("C"), "");
 }
 
+TEST_F(Log_Test, AnEntryThatIsInTheLogAlreadyIsNotTakenInFromTheWorkFileOnceMore)
+{
+    // A run died between giving the new log its name and removing the work file.
+    const QByteArray entry = Header(0) + "result\r\n\r\n\r\n";
+    Write(u"app/Vantorra_Process.log"_s, entry + "\r\nold\r\n");
+    Write(u"app/Vantorra_ProcessNEW.log"_s, entry);
+    Prog.Logs.Log_Results.AppendLine(u"result");
+    Prog.Options.mnu_AppendLogs = true;
+    Write_Process_Log(Prog);
+    EXPECT_EQ(Log(), entry + "\r\n" + entry + "\r\nold\r\n");
+    EXPECT_EQ(Files(), QStringList{u"Vantorra_Process.log"_s});
+}
+
 TEST_F(Log_Test, ATrashThatRefusesTheOldestLogStopsTheRotationAndTheOldTextIsCarriedAlong)
 {
     for (const auto* letter : {"", "A", "B", "C", "D", "E"})
         Write(u"app/Vantorra_Process"_s + QLatin1StringView(letter) + u".log"_s, letter);
-    const QByteArray data_home = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", Write(u"no_folder"_s).toUtf8());
+    const Refused_By_Trash refused(Path(u"app/Vantorra_ProcessE.log"_s));
     EXPECT_TRUE(Rotate_Process_Logs(Prog));
     ASSERT_EQ(Person.Messages.size(), 1U);
     const QString refusal =
@@ -127,7 +146,6 @@ TEST_F(Log_Test, ATrashThatRefusesTheOldestLogStopsTheRotationAndTheOldTextIsCar
     Write_Process_Log(Prog);
     Prog.Options.mnu_AppendLogs = true;
     Write_Process_Log(Prog);
-    qputenv("XDG_DATA_HOME", data_home);
     const QByteArray entry = Header(0) + "\r\n\r\n";
     EXPECT_EQ(Log(), entry + "\r\n" + entry + refusal.toUtf8() + "\r\n\r\n");
     for (const auto* letter : {"A", "B", "C", "D", "E"})

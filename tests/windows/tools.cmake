@@ -11,7 +11,7 @@ target_include_directories(tool_forwarder PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tool_forwarder PRIVATE vantorra_flags)
 target_link_options(tool_forwarder PRIVATE -municode -s)
 
-# A child that takes its arguments apart by the C run-time, crashes or closes its outputs.
+# A child that takes its arguments apart by the C run-time, or crashes.
 add_executable(test_child windows/test_child.cpp)
 target_link_libraries(test_child PRIVATE vantorra_flags)
 target_link_options(test_child PRIVATE -municode -s)
