@@ -54,9 +54,10 @@ struct Batch_Process : Test_Program
     QByteArray out_;
 };
 
-/// What has to stand ready before the program is started; on Windows a console, and mkvmerge in the registry.
+/// What has to stand ready before the program is started; on Windows a console of its own, and mkvmerge in the
+/// registry.
 void Prepare_For_Start(QProcess& process);
-/// What a person does who wants the program to stop: SIGINT; on Windows Ctrl-Break.
+/// What a person does who wants the program to stop: SIGINT; on Windows Ctrl-C.
 void Ask_To_Halt(QProcess& process);
 
 /// What a stand-in's script, in the test's folder, does to have the program killed or asked to halt.

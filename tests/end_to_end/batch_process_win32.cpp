@@ -18,13 +18,9 @@ static void Register_Mkvtoolnix()
 void Prepare_For_Start(QProcess& process)
 {
     Register_Mkvtoolnix();
-    // Ctrl-Break goes to a group of processes that share a console.
-    if (GetConsoleCP() == 0)
-        AllocConsole();
-    process.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments* arguments) {
-        arguments->flags |= CREATE_NEW_PROCESS_GROUP;
-        arguments->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
-    });
+    // A console of its own, in which Ctrl-C reaches it alone.
+    process.setCreateProcessArgumentsModifier(
+        [](QProcess::CreateProcessArguments* arguments) { arguments->flags |= CREATE_NO_WINDOW; });
 }
 
 const char* const Kill_It = ": > kill_it; sleep 5";
@@ -42,7 +38,14 @@ void Do_As_The_Script_Asks(Batch_Process& batch)
 
 void Ask_To_Halt(QProcess& process)
 {
-    GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, static_cast<DWORD>(process.processId()));
+    FreeConsole();
+    ASSERT_TRUE(AttachConsole(static_cast<DWORD>(process.processId())));
+    SetConsoleCtrlHandler(nullptr, TRUE);
+    GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
+    // It is on its way, and would be for us, too.
+    process.waitForFinished(300);
+    FreeConsole();
+    SetConsoleCtrlHandler(nullptr, FALSE);
 }
 
 QList<long> Children_Of(qint64 process)
@@ -52,7 +55,7 @@ QList<long> Children_Of(qint64 process)
     PROCESSENTRY32W entry{};
     entry.dwSize = sizeof(entry);
     for (BOOL more = Process32FirstW(processes, &entry); more; more = Process32NextW(processes, &entry))
-        if (entry.th32ParentProcessID == static_cast<DWORD>(process))
+        if (entry.th32ParentProcessID == static_cast<DWORD>(process) && wcscmp(entry.szExeFile, L"conhost.exe") != 0)
             children += static_cast<long>(entry.th32ProcessID);
     CloseHandle(processes);
     return children;
