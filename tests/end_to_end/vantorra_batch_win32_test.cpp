@@ -70,6 +70,20 @@ TEST(Vantorra_Batch_Windows, CtrlCHaltsAndAKillTakesTheChildAlong)
     }
 }
 
+TEST(Vantorra_Batch_Windows, AReaderThatGoesAwayHaltsTheRun)
+{
+    Batch_Process batch;
+    for (int i = 0; i < 20; ++i)
+        Place(batch, Short_Video(), u"videos/%1.mkv"_s.arg(i));
+    QProcess reader;
+    batch.Process.setStandardOutputProcess(&reader);
+    batch.Start({u"--json"_s});
+    reader.start(Write_Stand_In(batch, u"tools/reader"_s, "sleep 1"), QStringList());
+    EXPECT_EQ(batch.Finish().Exit, 130);
+    EXPECT_LT(batch.Names_In(u"target"_s).size(), 20);
+    EXPECT_TRUE(reader.waitForFinished());
+}
+
 namespace {
 
 /// A file that another program has open and shares with nobody.
