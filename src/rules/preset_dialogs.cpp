@@ -138,7 +138,7 @@ void btn_Presets_Rename_Click(Program& program)
                                                  ? u"There is a file of that name already. Both stay as they are."_s
                                                  : u"It keeps its name: "_s + System_Words(result.Error) + u'.'});
         wanted = name;
-    } else if (program.Settings.Preset.Name == name) {
+    } else if (program.Settings.Preset.Name.compare(name, Case_Of_Names) == 0) {
         program.Settings.Preset.Name = wanted;
     }
     List_Anew(program, wanted);

@@ -65,7 +65,8 @@ int Children_Left()
     entry.dwSize = sizeof(entry);
     int children = 0;
     for (BOOL more = Process32FirstW(processes, &entry); more; more = Process32NextW(processes, &entry))
-        if (entry.th32ParentProcessID == GetCurrentProcessId())
+        // One that was ended may still be listed.
+        if (entry.th32ParentProcessID == GetCurrentProcessId() && Is_Running(static_cast<long>(entry.th32ProcessID)))
             ++children;
     CloseHandle(processes);
     return children;

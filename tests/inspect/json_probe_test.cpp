@@ -76,7 +76,7 @@ TEST(Json_Probe, AToolsWordCountsOnlyIfItEndedWell)
     EXPECT_EQ(Probe_With(test, answer + "echo >&2; echo '[mov @ 0x55d0] broken' >&2; exit 1"),
               u"ffprobe ended with status 1: [mov] broken"_s);
     EXPECT_EQ(test.Prog.Media.FileInfoList.size(), 1U);
-    EXPECT_TRUE(Probe_With(test, answer + "kill -9 $$").startsWith(u"ffprobe was ended by the signal "_s));
+    EXPECT_TRUE(Probe_With(test, answer + "kill -9 $$").startsWith(u"ffprobe was ended by "_s));
     EXPECT_EQ(Probe_With(test, "exec cat /dev/zero"), u"ffprobe printed without end"_s);
     test.Prog.Tools.FFProbe_Path = test.Path(u"missing"_s);
     EXPECT_TRUE(Probe_Video(test.Prog, u"/v/a.mkv"_s).startsWith(u"ffprobe could not be started: "));

@@ -148,7 +148,7 @@ TEST(VideoList, CellsSayWhatIsKnown)
     row.State = Video_State::Done;
     row.Problems.clear();
     row.Forecast.clear();
-    row.Output = u"/target/Film.mkv"_s;
+    row.Output = Native(u"/target/Film.mkv"_s);
     row.Length = 3661.9;
     row.Bytes = 12'400'000;
     row.Seconds_Taken = 72;

@@ -166,13 +166,14 @@ std::wstring Own_Path()
     return path;
 }
 
-/// The script's exit status, as a shell gives it: 128 and the signal where one has ended it.
+/// The script's exit status; that of a crash where a signal has ended it.
 int Status_Of(long long shell)
 {
+    constexpr int crash = static_cast<int>(0xC0000005);
     int status = 0;
     System(Call::Wait, shell, Address(&status));
     const int signal = status & 0x7f;
-    return signal != 0 ? 128 + signal : (status >> 8) & 0xff;
+    return signal != 0 ? crash : (status >> 8) & 0xff;
 }
 
 int Run_Script(const std::vector<std::string>& arguments, const std::vector<Path_Pair>& pairs)

@@ -32,6 +32,8 @@ TEST_F(Viewer_Test, TheFullLoadCountsInSixteenBits)
     EXPECT_TRUE(error.Message.contains(u"Vantorra_Process.log"_s));
     EXPECT_EQ(Count(499), u"500 Lines"_s);
 
+    if (Path_Separator != u'/')
+        return; // no device can be linked to
     QFile::remove(Path(u"app/Vantorra_Process.log"_s));
     QFile::link(u"/dev/null"_s, Path(u"app/Vantorra_Process.log"_s));
     EXPECT_EQ(Count(499), u"0 Lines"_s);
