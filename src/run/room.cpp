@@ -62,7 +62,7 @@ Room_Check Check_Room(const Program& program, double taken)
     QString folder = program.Options.Path_Target;
     // One below the target folder may not have been made yet.
     while (!Folder_Exists(folder) && folder.contains(Path_Separator))
-        folder.truncate(folder.lastIndexOf(Path_Separator));
+        folder.truncate(folder.lastIndexOf(Path_Separator, -2) + 1);
     const std::optional<std::uint64_t> free = Free_Bytes(folder);
     Room_Check check;
     check.Needed = Source_Part(program) + Added_Part(program.Run.Mkvmerge_Arguments, program.Run.Current_Video_Path);

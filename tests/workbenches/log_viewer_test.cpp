@@ -1,6 +1,7 @@
 #include "workbenches/log_viewer.h"
 
 #include "common/test_program.h"
+#include "support/paths.h"
 
 #include <QFile>
 
