@@ -42,7 +42,7 @@ TEST(Long_Path, DrivesAndSharesGetTheirPrefixAndNothingElseIsTouched)
         EXPECT_EQ(Long_Path(path), result);
 }
 
-TEST(Windows_Names, WhatWouldBecomeAnotherNameIsRefusedInWords)
+TEST(Long_Path, ANameThatWouldBecomeAnotherIsRefusedInWords)
 {
     const QStringList refused = {u"a."_s,       u"a "_s,        u"a:b"_s,        u"a<b"_s,      u"a\"b"_s,
                                  u"a|b"_s,      u"a?b"_s,       u"a*b"_s,        u"a\tb"_s,     u"a/b"_s,

@@ -30,9 +30,9 @@ int wmain(int count, wchar_t** texts)
     const wchar_t act = count > 1 ? texts[1][0] : L' ';
     if (act == L'e')
         return Echo(count, texts);
-    // Ends as a crash does.
+    // Ends with what a crash leaves; at a real one Wine calls its debugger.
     if (act == L'c')
-        RaiseException(static_cast<DWORD>(EXCEPTION_ACCESS_VIOLATION), 0, 0, nullptr);
+        TerminateProcess(GetCurrentProcess(), static_cast<UINT>(EXCEPTION_ACCESS_VIOLATION));
     if (act == L's')
         Sleep(INFINITE);
     return 300;
