@@ -16,15 +16,17 @@ static constexpr int Patience = 1000; ///< milliseconds that a step waits for ot
 static constexpr int Turn = 50;
 
 /// Does a step, and does it again for a while where somebody holds the file open without letting others at it: as a
-/// rule a virus scanner or an index, which look at each new file. 0 or disk_steps.h's number.
+/// rule a virus scanner or an index, which look at each new file. Taking the place of an open file is denied like what
+/// nobody may do, so there `even_denied` is waited for. 0 or disk_steps.h's number.
 template <typename Step>
-static int Patiently(Step step)
+static int Patiently(Step step, bool even_denied = false)
 {
     for (int waited = 0;; waited += Turn) {
         if (step())
             return 0;
         const DWORD error = ::GetLastError();
-        if (error != ERROR_SHARING_VIOLATION || waited >= Patience)
+        const bool may_pass = error == ERROR_SHARING_VIOLATION || (even_denied && error == ERROR_ACCESS_DENIED);
+        if (!may_pass || waited >= Patience)
             return Number_Of_System_Error(error);
         ::Sleep(Turn);
     }
@@ -171,23 +173,20 @@ int Take_The_Place_Of(const QString& from, const QString& to)
     constexpr DWORD onto = MOVEFILE_WRITE_THROUGH | MOVEFILE_REPLACE_EXISTING;
     if (is_there())
         Take_Rights_Of(to, from);
-    return Patiently([&] {
+    const auto step = [&] {
         if (::MoveFileExW(Wide_Path(from), Wide_Path(to), onto) != 0)
             return true;
         if (::GetLastError() != ERROR_ACCESS_DENIED || !is_there())
             return false;
-        // Somebody has the file open. Where he lets others remove it, the system's exchange puts it aside first.
-        if (!Open_Path(to, DELETE, OPEN_EXISTING))
-            return false;
-        if (::ReplaceFileW(Wide_Path(to), Wide_Path(from), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                           nullptr) != 0)
-            return true;
-        if (::GetLastError() == ERROR_UNABLE_TO_MOVE_REPLACEMENT)
-            return ::MoveFileExW(Wide_Path(from), Wide_Path(to), onto) != 0;
-        if (::GetLastError() == ERROR_UNABLE_TO_REMOVE_REPLACED)
-            ::SetLastError(ERROR_SHARING_VIOLATION);
-        return false;
-    });
+        // Somebody has the file open. Where he lets others remove it, the system's exchange puts it aside first; what
+        // that leaves undone when it fails, the next turn does.
+        const bool exchanged = Open_Path(to, DELETE, OPEN_EXISTING) &&
+                               ::ReplaceFileW(Wide_Path(to), Wide_Path(from), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                                              nullptr, nullptr) != 0;
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return exchanged;
+    };
+    return Patiently(step, true);
 }
 
 int Give_Second_Name(const QString& path, const QString& second)
