@@ -6,7 +6,9 @@
 #include <QAbstractItemView>
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
+#include <QStyleOption>
 #include <QTableView>
 #include <optional>
 #include <windows.h>
@@ -64,7 +66,7 @@ static QPalette Dark_Palette()
 namespace {
 
 /// Windows' own style marks the lines of a list, but not of a table, in a pale shade and leaves the words as they are.
-/// Delegates that write their words themselves learn it from the view's palette.
+/// Delegates that write their words themselves learn it from the view's palette, and the shade is one to read them on.
 class Light_Style : public Readable_Style
 {
   public:
@@ -73,6 +75,17 @@ class Light_Style : public Readable_Style
     using Readable_Style::polish;
     using Readable_Style::unpolish;
 
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        if (element == PE_FrameStatusBarItem)
+            return; // a line beside words that stand alone
+        if (element == PE_PanelItemViewItem && Is_List(widget) && option->state.testFlag(State_Selected))
+            painter->fillRect(option->rect, Mark_On(widget->palette()));
+        else
+            Readable_Style::drawPrimitive(element, option, painter, widget);
+    }
+
     void polish(QWidget* widget) override
     {
         Readable_Style::polish(widget);
@@ -80,7 +93,6 @@ class Light_Style : public Readable_Style
             return;
         QPalette marks;
         marks.setColor(QPalette::HighlightedText, widget->palette().color(QPalette::Text));
-        marks.setColor(QPalette::Highlight, widget->palette().color(QPalette::Base).darker(108));
         widget->setPalette(marks);
     }
 
@@ -92,9 +104,19 @@ class Light_Style : public Readable_Style
     }
 
   private:
-    static bool Is_List(QWidget* widget)
+    /// So pale that the colours of words which mean something still read on it.
+    static QColor Mark_On(const QPalette& palette)
     {
-        return qobject_cast<QAbstractItemView*>(widget) && !qobject_cast<QTableView*>(widget);
+        const QColor ground = palette.color(QPalette::Base);
+        const QColor mark = palette.color(QPalette::Active, QPalette::Highlight);
+        const auto part = [](int one, int other) { return (4 * one + other) / 5; };
+        return QColor(part(ground.red(), mark.red()), part(ground.green(), mark.green()),
+                      part(ground.blue(), mark.blue()));
+    }
+
+    static bool Is_List(const QWidget* widget)
+    {
+        return qobject_cast<const QAbstractItemView*>(widget) && !qobject_cast<const QTableView*>(widget);
     }
 };
 

@@ -146,7 +146,7 @@ void Startform::Measure()
     for (QFrame* box : Path_Boxes())
         box->setFixedHeight(row);
     for (QToolButton* button : Browse_Buttons())
-        button->setFixedSize(row + 4, row);
+        button->setFixedSize(std::max(row + 4, button->minimumSizeHint().width()), row);
 
     QFont bold = font();
     bold.setBold(true);

@@ -79,7 +79,8 @@ TEST(Close_Key, AltF4ThatTheSystemSwallowsLeavesTheProgram)
         keys[VK_SHIFT] = shift ? 0x80 : 0;
         keys[VK_MENU] = 0x80;
         ::SetKeyboardState(keys);
-        ::SendMessageW(form, WM_SYSKEYDOWN, VK_F4, 1 << 29);
+        ::PostMessageW(form, WM_SYSKEYDOWN, VK_F4, 1 << 29);
+        QCoreApplication::processEvents();
         keys[VK_SHIFT] = keys[VK_MENU] = 0;
         ::SetKeyboardState(keys);
         EXPECT_EQ(window.Form().Unloaded(), !shift);

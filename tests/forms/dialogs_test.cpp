@@ -232,7 +232,8 @@ TEST_F(Dialogs, TheLocationsShowBothToolsAndTakeADropOfTheirFolder)
     const QString mkvmerge = Tool_In_Path(u"mkvmerge"_s);
     Open("mnu_ExecutablePaths", "frm_Locations", [&](QWidget& form) {
         EXPECT_EQ(form.windowTitle(), u"Drop the executable files here to register their paths.");
-        EXPECT_EQ(In<QLabel>(form, "lbl_ffprobe_Path").text(), Window.Files.Path(u"app/ffprobe"_s));
+        EXPECT_TRUE(Wait_Until([&] { return !In<QLabel>(form, "lbl_MKVMerge_Version").text().isEmpty(); }));
+        EXPECT_EQ(In<QLabel>(form, "lbl_ffprobe_Path").text(), Window.Prog().Tools.FFProbe_Path);
         EXPECT_TRUE(In<QLabel>(form, "lbl_ffprobe_Version").text().startsWith(u"ffprobe version"));
         EXPECT_TRUE(In<QLabel>(form, "lbl_MKVMerge_Version").text().startsWith(u"- mkvmerge v"));
         Click_On(In(form, "btn_Clear"));

@@ -113,15 +113,23 @@ TEST_F(Window_Process, ARunHoldsTheSessionsEndUpAndIsHaltedByItInOrder)
     Files.Prog.Settings.Target_MRU = {Files.Path(u"target/"_s)};
     Write_Settings(Files.Prog, false);
     Start();
-    const HWND form = Main_Form_Of(Process.processId());
-    ::PostMessageW(form, WM_SYSKEYDOWN, 'R', 1 << 29); // Alt+R
+    ::SetForegroundWindow(Main_Form_Of(Process.processId()));
+    std::vector<INPUT> keys; // Alt+R
+    for (const auto& [key, flags] :
+         {std::pair<WORD, DWORD>(VK_MENU, 0), {'R', 0}, {'R', KEYEVENTF_KEYUP}, {VK_MENU, KEYEVENTF_KEYUP}}) {
+        INPUT& input = keys.emplace_back();
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.dwFlags = flags;
+    }
+    ::SendInput(static_cast<UINT>(keys.size()), keys.data(), sizeof(INPUT));
     ASSERT_TRUE(In_Time([this] { return QFile::exists(Files.Path(u"began"_s)); }));
     EXPECT_FALSE(Ask());
     Tell(false);
     EXPECT_FALSE(Process.waitForFinished(500)) << "the person chose to stay";
     Tell(true);
     // The windows have answered: from here on the system ends the process at any time.
-    EXPECT_TRUE(Files.Read(u"app/Vantorra_Process.log"_s).contains("INTERRUPTED"));
+    EXPECT_TRUE(Files.Read(u"app/Vantorra_Process.log"_s).contains("Process halted before finishing"));
     ASSERT_TRUE(Process.waitForFinished(20'000));
     EXPECT_EQ(Process.exitCode(), 0);
     EXPECT_EQ(Children_Left(), 0);
