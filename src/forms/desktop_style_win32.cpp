@@ -86,6 +86,14 @@ class Light_Style : public Readable_Style
             Readable_Style::drawPrimitive(element, option, painter, widget);
     }
 
+    void polish(QPalette& palette) override
+    {
+        Readable_Style::polish(palette);
+        // A bar that shows how far a run is has the same colour while another window is in front.
+        for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+            palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
+    }
+
     void polish(QWidget* widget) override
     {
         Readable_Style::polish(widget);

@@ -1,4 +1,5 @@
 #include "common/media.h"
+#include "common/test_trash.h"
 #include "forms/form_test.h"
 
 #include <QApplication>
@@ -240,18 +241,18 @@ TEST_F(Editor_Form, AnOptionFileThatTheTrashDoesntTakeStaysAndThatIsTold)
     const QString name = u"videos/a.mp3"_s;
     Window.Files.Write(name);
     Window.Files.Write(name + u".opt"_s, "Title=Own\r\n");
-    const QByteArray data_home = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", Window.Files.Write(u"no_folder"_s).toUtf8());
     Edit([&] {
         Click_Row(0);
         Type("txt_Title", {});
-        Push(*Form, "btn_Apply");
+        {
+            const Refused_By_Trash refused(Window.Files.Path(name + u".opt"_s));
+            Push(*Form, "btn_Apply");
+        }
         ASSERT_EQ(Window.Person.Boxes.size(), 1u);
         EXPECT_TRUE(Window.Person.Boxes[0].Text.contains(Window.Files.Path(name + u".opt"_s)));
         EXPECT_EQ(Boxes(), u"[Own]/(not set)/(not set)/(not set)/(not set)") << "what the file still says";
         EXPECT_TRUE(Form->isVisible());
     });
-    qputenv("XDG_DATA_HOME", data_home);
     EXPECT_EQ(Window.Files.Read(name + u".opt"_s), "Title=Own\r\n");
     EXPECT_FALSE(Window.Desk->Guard.Ended());
 }

@@ -1,4 +1,5 @@
 #include "forms/form_test.h"
+#include "support/disk_names.h"
 
 #include <QCheckBox>
 #include <QListWidget>
@@ -13,7 +14,11 @@ struct Presets_By_Hand : Form_Test
 
 TEST_F(Presets_By_Hand, AreSavedByKeysStandInTheMenuAndAreLoadedByAClick)
 {
-    Open("mnu_SavePreset", "frm_PresetName", [](QWidget& form) {
+    // A mark that Qt would put a star in its place of, where a file may have such a name.
+    const QString marked = u"Tom & [*] <b>"_s;
+    const QString name = Why_Not_A_Name(marked).isEmpty() ? marked : u"Tom & b"_s;
+    const QString title = QString(name).replace(u"[*]"_s, u"[*][*]"_s); // as Qt is told of one that is meant
+    Open("mnu_SavePreset", "frm_PresetName", [&](QWidget& form) {
         const QAbstractButton& done = In(form, "btn_Done");
         EXPECT_FALSE(done.isEnabled());
         auto& line = In<QLineEdit>(form, "txt_PresetName");
@@ -22,24 +27,24 @@ TEST_F(Presets_By_Hand, AreSavedByKeysStandInTheMenuAndAreLoadedByAClick)
         Press(form, Qt::Key_Return);
         EXPECT_TRUE(form.isVisible());
         line.selectAll();
-        QTest::keyClicks(&line, u"Tom & [*] <b>"_s);
+        QTest::keyClicks(&line, name);
         EXPECT_TRUE(done.isEnabled());
         Press(form, Qt::Key_Return);
     });
-    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"app/presets/Tom & [*] <b>.ini"_s)));
-    EXPECT_EQ(Title(), u"Tom & [*][*] <b>"_s); // as Qt is told of one that is meant
+    EXPECT_TRUE(QFile::exists(Window.Files.Path(u"app/presets/"_s + name + u".ini"_s)));
+    EXPECT_EQ(Title(), title);
     auto& box = Window.Get<QCheckBox>("chk_AddSubs");
     Click_On(box);
-    EXPECT_EQ(Title(), u"Tom & [*][*] <b> *"_s);
+    EXPECT_EQ(Title(), title + u" *"_s);
     auto& menu = Window.Get<QMenu>("mnu_Presets");
     menu.popup({});
     ASSERT_EQ(menu.actions().size(), 5);
-    EXPECT_EQ(menu.actions()[2]->text(), u"Tom && [*] <b>"_s);
+    EXPECT_EQ(menu.actions()[2]->text(), QString(name).replace(u"&"_s, u"&&"_s));
     EXPECT_TRUE(menu.actions()[2]->isChecked());
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(menu.actions()[2]).center());
     QCoreApplication::processEvents();
     EXPECT_FALSE(box.isChecked());
-    EXPECT_EQ(Title(), u"Tom & [*][*] <b>"_s);
+    EXPECT_EQ(Title(), title);
     EXPECT_TRUE(Window.Get<QLabel>("lbl_Notice").text().contains(u"is loaded"));
 }
 

@@ -61,10 +61,10 @@ struct Window_Run : testing::Test
             Place(Window.Files, Short_Video(), u"videos/"_s + name);
         Window.Prog().Run.Kill_By_Name = false;
         QString& tool = Window.Prog().Tools.System_MKVMerge_Path;
-        tool = Write_Stand_In(Window.Files, u"waiting/mkvmerge"_s,
-                              "case \"$*\" in *--output*) echo 'Progress: 10%'; until rm '" +
-                                  Window.Files.Path(u"go"_s).toUtf8() + "' 2>&-; do sleep 0.02; done;; esac\nexec '" +
-                                  tool.toUtf8() + "' \"$@\"\n");
+        tool = Write_Stand_In(
+            Window.Files, u"waiting/mkvmerge"_s,
+            "case \"$*\" in *--output*) echo 'Progress: 10%'; until rm '" + Path_In_Script(Window.Files.Path(u"go"_s)) +
+                "' 2>&-; do sleep 0.02; done;; esac\nexec '" + Tool_In_Script(u"mkvmerge"_s) + "' \"$@\"\n");
     }
 
     /// Runs, lets the run become an hour old, and presses Escape. Returns the states of the videos.
@@ -245,7 +245,7 @@ TEST_F(Window_Run, FoldersThatAreDroppedMeanwhileAreRunNext)
     const QStringList& notes = Window.Prog().Videos.Notes;
     ASSERT_EQ(notes.size(), 2) << notes.join(u' ').toStdString();
     EXPECT_TRUE(notes[0].contains(u"3 done"_s)) << notes[0].toStdString();
-    EXPECT_TRUE(notes[1].contains(u"/empty/"_s)) << "passed over";
+    EXPECT_TRUE(notes[1].contains(Window.Files.Path(u"empty/"_s))) << "passed over";
 }
 
 TEST_F(Window_Run, AHaltGivesUpWhatWasToBeRunNext)

@@ -162,7 +162,7 @@ TEST_F(Window_List, ItsCommandsShowAndCopyWhatIsKnownOfARow)
     EXPECT_TRUE(QApplication::clipboard()->text().startsWith(u"two.mp4: ffprobe"_s));
     Mark(0);
     Command("mnu_VideoCommand");
-    EXPECT_TRUE(QApplication::clipboard()->text().contains(u"/videos/one.mkv"_s));
+    EXPECT_TRUE(QApplication::clipboard()->text().contains(Window.Files.Path(u"videos/one.mkv"_s)));
 
     Window.Person.On_Form[u"frm_ViewVFI"_s] = [](QWidget& form) {
         EXPECT_TRUE(Wait_Until([&] { return !In<QPlainTextEdit>(form, "txt_VideoInfo").toPlainText().isEmpty(); }));
