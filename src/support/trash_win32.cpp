@@ -49,6 +49,13 @@ static bool Trash_By_Older_Operation(const QString& path)
     if (path.size() >= MAX_PATH || ::GetVolumePathNameW(Wide(path), drive.data(), MAX_PATH) == 0 ||
         ::GetDriveTypeW(drive.data()) != DRIVE_FIXED || FAILED(::SHQueryRecycleBinW(drive.data(), &bin)))
         return false;
+    // What somebody holds can't be moved: the shell would offer, in a box of its own, to delete it instead.
+    const HANDLE movable =
+        ::CreateFileW(Wide(path), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (movable == INVALID_HANDLE_VALUE)
+        return false;
+    ::CloseHandle(movable);
     const QString list = path + QChar(u'\0'); // ends in two zeros, the text's own included
     SHFILEOPSTRUCTW operation = {};
     operation.wFunc = FO_DELETE;
