@@ -136,7 +136,9 @@ TEST_F(Log_Form, ATextAFaultAndAnEntryAreReachedByKeys)
         const auto place = [&form] { return In<QLabel>(form, "lbl_Place").text(); };
         auto& field = In<QLineEdit>(form, "txt_Find");
         EXPECT_FALSE(field.isVisible());
-        ASSERT_TRUE(Wait_Until([&form] { return form.isActiveWindow(); })) << "keys of a window work in the active one";
+        ASSERT_TRUE(Wait_Until([&form] {
+            return form.isActiveWindow() && QGuiApplication::focusWindow() == form.windowHandle();
+        })) << "keys of a window work in the active one";
         Press(form, Qt::Key_F8);
         EXPECT_EQ(row(), 61);
         EXPECT_EQ(place(), u"Fault 1 of 2");
