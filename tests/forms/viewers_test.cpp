@@ -372,8 +372,7 @@ TEST_F(Info_Form, SeveralArePickedAndTheirTracksComparedWhileTheFormStaysAlive)
         EXPECT_EQ(told(), QString());
 
         // A tool that hangs holds nothing up.
-        Write_Stand_In(Window.Files, u"slow/ffprobe"_s, "exec sleep 30\n");
-        Window.Prog().Tools.FFProbe_Path = Window.Files.Path(u"slow/ffprobe"_s);
+        Window.Prog().Tools.FFProbe_Path = Write_Stand_In(Window.Files, u"slow/ffprobe"_s, "exec sleep 30\n");
         QTimer::singleShot(200, &form, [&] { Pick(form, 1); });
         QTimer::singleShot(600, &form, [&] { Press(form, Qt::Key_Escape); });
         Pick(form, 2);
