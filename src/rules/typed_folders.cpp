@@ -53,7 +53,7 @@ static QString From_Root(const QString& text, const QString& base)
         return home + text.sliced(1);
     const QString from = With_Separator(base.isEmpty() ? home : base);
     // One that begins with a separator goes out from the drive.
-    const QString whole = text.startsWith(Path_Separator) ? Absolute_Path(text, from) : from + text;
+    const QString whole = (text.startsWith(Path_Separator) ? from.first(from.indexOf(Path_Separator)) : from) + text;
     const QString path = QDir::toNativeSeparators(QDir::cleanPath(whole));
     return text.endsWith(Path_Separator) ? With_Separator(path) : path;
 }

@@ -58,6 +58,20 @@ int Open_Descriptors()
     return static_cast<int>(handles);
 }
 
+/// One that was ended may still be listed; and an older one had a parent that is gone, whose number is ours now.
+static bool Is_Younger_And_Runs(DWORD process)
+{
+    const HANDLE handle = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+    if (!handle)
+        return false;
+    FILETIME its_start{}, our_start{}, unused{};
+    GetProcessTimes(handle, &its_start, &unused, &unused, &unused);
+    GetProcessTimes(GetCurrentProcess(), &our_start, &unused, &unused, &unused);
+    const bool runs = WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+    CloseHandle(handle);
+    return runs && CompareFileTime(&its_start, &our_start) > 0;
+}
+
 int Children_Left()
 {
     const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
@@ -65,8 +79,7 @@ int Children_Left()
     entry.dwSize = sizeof(entry);
     int children = 0;
     for (BOOL more = Process32FirstW(processes, &entry); more; more = Process32NextW(processes, &entry))
-        // One that was ended may still be listed.
-        if (entry.th32ParentProcessID == GetCurrentProcessId() && Is_Running(static_cast<long>(entry.th32ProcessID)))
+        if (entry.th32ParentProcessID == GetCurrentProcessId() && Is_Younger_And_Runs(entry.th32ProcessID))
             ++children;
     CloseHandle(processes);
     return children;

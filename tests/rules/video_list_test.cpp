@@ -159,7 +159,7 @@ TEST(VideoList, CellsSayWhatIsKnown)
     EXPECT_EQ(Cell_Text(row, Video_Column::Size, true), u"12.4 MB");
     row.Reason = u"it failed"_s;
     row.Warnings = {u"careful"_s};
-    EXPECT_EQ(Cell_Hint(row, Video_Column::Result), u"it failed\ncareful\n/target/Film.mkv");
+    EXPECT_EQ(Cell_Hint(row, Video_Column::Result), u"it failed\ncareful\n"_s + row.Output);
 }
 
 TEST(VideoList, FollowsTheFolderAndLeavesOutWhatNoRunTakes)

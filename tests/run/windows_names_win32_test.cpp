@@ -3,6 +3,8 @@
 #include "run/video_batch_fixture.h"
 #include "support/long_path.h"
 
+#include <windows.h>
+
 /// A run of either kind over videos whose names Windows has its own opinion of, with the real tools.
 struct Windows_Names : testing::Test, Test_Program
 {
@@ -47,8 +49,8 @@ TEST_F(Windows_Names, NamesThatDifferInCapitalsOnlyAreOneOutput)
 TEST_F(Windows_Names, AVideoWhoseOutputWouldBeADeviceOrHaveAnotherNameFailsAheadOfMkvmerge)
 {
     for (const QString& name : {u"con.avi"_s, u"Fine.mkv"_s}) {
-        const QString path = Long_Path(Path(u"videos/"_s) + name);
-        ASSERT_TRUE(QFile::copy(Short_Video(name.right(3)), path)) << name.toStdString();
+        const std::wstring path = Long_Path(Path(u"videos/"_s) + name).toStdWString();
+        ASSERT_TRUE(CopyFileW(Short_Video(name.right(3)).toStdWString().c_str(), path.c_str(), TRUE));
     }
     for (const bool careful : {true, false}) {
         Heard.Outcomes.clear();
