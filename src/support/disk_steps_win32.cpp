@@ -1,11 +1,13 @@
 #include "support/disk_steps.h"
 
 #include "support/file_information_win32.h"
+#include "support/long_path.h"
 #include "support/paths.h"
 #include "support/system_calls_win32.h"
 
 #include <QFileDevice>
 #include <cerrno>
+#include <cstddef>
 #include <cstring>
 #include <io.h>
 #include <windows.h>
@@ -167,24 +169,53 @@ static void Take_Rights_Of(const QString& from, const QString& to)
         ::SetFileSecurityW(Wide_Path(to), DACL_SECURITY_INFORMATION, rights.data());
 }
 
+/// The rename that takes the place even of an open file, where its readers let others remove it. Systems and disks that
+/// don't know it say so.
+static bool Rename_Onto_Open_File(const QString& from, const QString& to)
+{
+    // The compiler's headers lack these.
+    struct Rename
+    {
+        DWORD Flags;
+        HANDLE Root;
+        DWORD Name_Bytes;
+        wchar_t Name[1];
+    };
+
+    constexpr auto rename_by_flags = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
+    constexpr DWORD replace_even_open = 1U | 2U;
+    const System_Handle file =
+        Open_Path(from, DELETE | SYNCHRONIZE, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_WRITE_THROUGH);
+    if (!file)
+        return false;
+    const QString name = Long_Path(to);
+    const std::size_t bytes = static_cast<std::size_t>(name.size()) * sizeof(wchar_t);
+    std::vector<std::max_align_t> memory((sizeof(Rename) + bytes) / sizeof(std::max_align_t) + 1);
+    auto* const rename = reinterpret_cast<Rename*>(memory.data());
+    rename->Flags = replace_even_open;
+    rename->Name_Bytes = static_cast<DWORD>(bytes);
+    std::memcpy(rename->Name, name.utf16(), bytes);
+    return ::SetFileInformationByHandle(file.get(), rename_by_flags, rename,
+                                        static_cast<DWORD>(sizeof(Rename) + bytes)) != 0;
+}
+
+/// By renames alone: the system's own call for the exchange of two files takes several steps, and a kill between them
+/// leaves no file of that name.
 int Take_The_Place_Of(const QString& from, const QString& to)
 {
-    const auto is_there = [&to] { return ::GetFileAttributesW(Wide_Path(to)) != INVALID_FILE_ATTRIBUTES; };
-    constexpr DWORD onto = MOVEFILE_WRITE_THROUGH | MOVEFILE_REPLACE_EXISTING;
-    if (is_there())
+    const auto is_there = [](const QString& path) {
+        return ::GetFileAttributesW(Wide_Path(path)) != INVALID_FILE_ATTRIBUTES;
+    };
+    if (is_there(to))
         Take_Rights_Of(to, from);
     const auto step = [&] {
-        if (::MoveFileExW(Wide_Path(from), Wide_Path(to), onto) != 0)
+        constexpr DWORD onto = MOVEFILE_WRITE_THROUGH | MOVEFILE_REPLACE_EXISTING;
+        if (Rename_Onto_Open_File(from, to) || ::MoveFileExW(Wide_Path(from), Wide_Path(to), onto) != 0)
             return true;
-        if (::GetLastError() != ERROR_ACCESS_DENIED || !is_there())
-            return false;
-        // Somebody has the file open. Where he lets others remove it, the system's exchange puts it aside first; what
-        // that leaves undone when it fails, the next turn does.
-        const bool exchanged = Open_Path(to, DELETE, OPEN_EXISTING) &&
-                               ::ReplaceFileW(Wide_Path(to), Wide_Path(from), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                                              nullptr, nullptr) != 0;
-        ::SetLastError(ERROR_ACCESS_DENIED);
-        return exchanged;
+        // Where another one takes that place at the same time the old file may be gone in between.
+        if (::GetLastError() == ERROR_FILE_NOT_FOUND && is_there(from))
+            ::SetLastError(ERROR_ACCESS_DENIED);
+        return false;
     };
     return Patiently(step, true);
 }

@@ -1,8 +1,6 @@
 #include "support/command_line.h"
 
-#include "common/stand_in_tool.h"
-
-#include <QProcess>
+#include "common/test_program.h"
 
 TEST(CommandLine, TextAndArgumentsGrowTogether)
 {
@@ -98,20 +96,4 @@ TEST(CommandLine, AValueThatCannotBeGivenAsOneIsLeftOutWithItsOption)
             EXPECT_LT(command.Refusals()[0].size(), 300);
         }
     }
-}
-
-TEST(CommandLine, AShellReadsTheQuotedWordsBackAsTheArguments)
-{
-    const QStringList arguments =
-        u"plain||a b|it's|$(x) `y` \"z\" \\|two\nlines|(|-*|~|#x|é|a=b,c:d%s|\x1b[31m'\t\r\x7f\u009b5%\\"_s.split(u'|');
-    const QString words = Shell_Quoted(arguments);
-    for (const QChar letter : words)
-        EXPECT_TRUE(letter.category() != QChar::Other_Control || letter == u'\n') << int{letter.unicode()};
-    const Test_Program test;
-    QProcess shell;
-    shell.start(Write_Stand_In(test, u"shell"_s, "printf '%s\\0' " + words.toUtf8() + '\n'), QStringList());
-    ASSERT_TRUE(shell.waitForFinished());
-    QStringList read = QString::fromUtf8(shell.readAllStandardOutput()).split(QChar(u'\0'));
-    read.removeLast();
-    EXPECT_EQ(read, arguments);
 }

@@ -18,6 +18,7 @@
 #include <QFile>
 #include <cerrno>
 #include <memory>
+#include <thread>
 #include <windows.h>
 
 /// Makes a file by its literal name, whatever the system makes of it otherwise.
@@ -129,8 +130,13 @@ TEST(Whole_File, KeepsAttributesAndWaitsForOneWhoReadsButNotForEver)
     const QString path = test.Write(u"app/a.ini"_s, "old");
     ::SetFileAttributesW(Wide_Path(path), FILE_ATTRIBUTE_HIDDEN);
     {
-        const System_Handle reader = Open_Path(path, GENERIC_READ, OPEN_EXISTING);
+        auto reader = std::make_unique<System_Handle>(Open_Path(path, GENERIC_READ, OPEN_EXISTING));
+        std::thread other([&] {
+            ::Sleep(200);
+            reader.reset();
+        });
         Write_Whole_File(path, "new");
+        other.join();
     }
     EXPECT_EQ(test.Read(u"app/a.ini"_s), "new");
     EXPECT_NE(::GetFileAttributesW(Wide_Path(path)) & FILE_ATTRIBUTE_HIDDEN, 0U);
