@@ -31,7 +31,8 @@ TEST(Platforms, EachClaimThatIsNotMadeOfWindowsCarriesItsReason)
     for (const QString& line : Source_Text(u"tests/windows_not.txt"_s).split(u'\n')) {
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
-        const QString name = line.section(u" - "_s, 0, 0);
+        // A test of a table has the instance's name ahead of its own.
+        const QString name = line.section(u" - "_s, 0, 0).section(u'/', -1);
         const QString reason = line.section(u" - "_s, 1);
         EXPECT_TRUE(all.contains(name)) << name.toStdString() << " is no test";
         EXPECT_FALSE(reason.isEmpty()) << name.toStdString();
