@@ -38,8 +38,9 @@ class Session_End::Watch : public QAbstractNativeEventFilter
         const MSG& msg = *static_cast<const MSG*>(message);
         if (msg.message == WM_QUERYENDSESSION) {
             owner_.Save_Settings();
-            // The system shows the person why, and leaves it to them to go on all the same.
-            *result = !owner_.program_.Run.Run_In_Progress || (msg.lParam & ENDSESSION_CRITICAL) != 0;
+            // The system shows the person why (System_Status), and leaves it to them to go on all the same.
+            const Run_State& run = owner_.program_.Run;
+            *result = !run.Run_In_Progress || run.Checking || (msg.lParam & ENDSESSION_CRITICAL) != 0;
             return true;
         }
         if (msg.message == WM_ENDSESSION && msg.wParam != 0)

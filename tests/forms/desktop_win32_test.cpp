@@ -1,10 +1,13 @@
+#include "forms/desktop_notice.h"
 #include "forms/desktop_style.h"
+#include "forms/drawn_icon.h"
 #include "forms/looks.h"
 #include "forms/readable_style.h"
 #include "forms/test_window.h"
 
 #include <QApplication>
 #include <QProxyStyle>
+#include <QSystemTrayIcon>
 #include <windows.h>
 
 static const wchar_t* const Personalize = L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize";
@@ -85,4 +88,19 @@ TEST(Close_Key, AltF4ThatTheSystemSwallowsLeavesTheProgram)
         ::SetKeyboardState(keys);
         EXPECT_EQ(window.Form().Unloaded(), !shift);
     }
+}
+
+TEST(Desktop_Notice, ItsIconGoesWhenThePersonIsBack)
+{
+    QApplication::setWindowIcon(Drawn_Icon(u"vantorra"_s));
+    EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 9) << "drawn by the build";
+    QWidget window;
+    window.show();
+    const auto icons = [&window] { return window.findChildren<QSystemTrayIcon*>(); };
+    Show_Desktop_Notice(window, u"FINISHED"_s, u"1 done\nC:\\v\\Tom & Jerry\\"_s);
+    ASSERT_EQ(icons().size(), 1);
+    EXPECT_TRUE(icons()[0]->isVisible());
+    emit qApp->applicationStateChanged(Qt::ApplicationActive);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(icons().isEmpty());
 }
