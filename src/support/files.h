@@ -12,8 +12,8 @@
 /// can't be opened gives an empty list.
 QStringList List_Files(const QString& folder);
 
-/// `path` if something is there by just that name; else the path of what stands in the same folder under that name but for the case of
-/// its letters, the first by name, as the system's home platform would find it; else `path` again.
+/// `path` if something is there by just that name; else the path of what stands in the same folder under that name but
+/// for the case of its letters, the first by name, as the system's home platform would find it; else `path` again.
 QString As_On_Disk(const QString& path);
 
 /// Why a folder's content can't be listed, in the system's words; empty if it can.
