@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <ostream>
 
 Message_Answer Test_Operator::Show_Message(const Message_Box& box)
@@ -93,6 +94,12 @@ QString Native(const QString& path)
 {
     const bool is_foreign = Path_Separator != u'/' && path.startsWith(u'/');
     return is_foreign ? u"C:"_s + QDir::toNativeSeparators(path) : QDir::toNativeSeparators(path);
+}
+
+QString Possible_Name(const QString& name)
+{
+    static const QRegularExpression refused(u"[\"*?<>|:\\x01-\\x1f]"_s);
+    return Path_Separator == u'/' ? name : QString(name).remove(refused);
 }
 
 static QStringList Lines_Of(const clsStringBuilder& buffer)

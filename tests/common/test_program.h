@@ -86,6 +86,10 @@ Caught_Error Error_Of(const std::function<void()>& act);
 /// "videos/x.mkv" "videos\x.mkv".
 QString Native(const QString& path);
 
+/// A file's name without the letters that the platform takes in none: quotes, "*", "?" and control characters on
+/// Windows.
+QString Possible_Name(const QString& name);
+
 /// The trash that this process's tests move things to: a folder of its own, so that nobody's trash fills up.
 QStringList Names_In_Trash();
 

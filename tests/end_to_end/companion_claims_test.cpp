@@ -103,7 +103,8 @@ TEST(Companions, WithHostileNamesAreOneArgumentEachAndForgeNoLineOfTheLog)
                              u"ünïcode 日本"_s,          QString(200, u'l')};
     // The two kinds of run log what mkvmerge says by ways of their own.
     for (const bool careful : {false, true})
-        for (const QString& name : names) {
+        for (const QString& hostile : names) {
+            const QString name = Possible_Name(hostile);
             Library_Run run;
             run.Prog.Run.Careful_Asked = careful;
             run.Prog.Options.Log_Verbosity = 6;
