@@ -60,6 +60,11 @@ static bool Has_Drive(const std::wstring& text)
            (plain[2] == L'\\' || plain[2] == L'/');
 }
 
+static bool Is_Null_Device(const std::wstring& path)
+{
+    return path == LR"(\\.\NUL)" || path == L"NUL";
+}
+
 /// As a text of JSON has it, without the quotes.
 static std::string In_Json(const std::string& text)
 {
@@ -103,7 +108,10 @@ std::vector<std::string> Unix_Arguments(const std::vector<std::wstring>& argumen
         const bool title = before == L"--title" || before == L"--track-name";
         const std::wstring prefix = Prefix_Of(argument);
         const std::wstring path = argument.substr(prefix.size());
-        const std::string translated = !title && Has_Drive(path) ? Unix_Path(path) : "";
+        const std::string translated = title                  ? ""
+                                       : Is_Null_Device(path) ? "/dev/null"
+                                       : Has_Drive(path)      ? Unix_Path(path)
+                                                              : "";
         if (!translated.empty())
             Add_Pair(pairs, translated, Utf8(path));
         result.push_back(translated.empty() ? Utf8(argument) : Utf8(prefix) + translated);
