@@ -159,7 +159,9 @@ TEST(Batch_Report, AMessageNamesTheFileInWork)
     run.Report->Show_Message(
         {.Code = 12, .Title = u"T."_s, .Text = u"Failed.\r\n\r\nClick OK to continue processing next video file."_s});
     run.Report->Show_Message({.Title = u"T."_s, .Text = u"About "_s + run.Folder + u"a.avi"_s});
-    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: T. About "_s + run.Folder + u"a.avi\n"_s) << "the other waits for the video's own words";
+    EXPECT_EQ(run.Err.Text(), u"vantorra-batch: T. About "_s + run.Folder + u"a.avi\n"_s)
+        << "the other waits for the video's own words";
     run.Report->File_Finished({.Source = run.Folder + u"a.avi"_s, .Status = File_Outcome::Kind::Failed});
-    EXPECT_TRUE(run.Err.Text().endsWith(u"\nvantorra-batch: #12 T. Failed. ["_s + run.Folder + u"a.avi]\n"_s)) << "it has none";
+    EXPECT_TRUE(run.Err.Text().endsWith(u"\nvantorra-batch: #12 T. Failed. ["_s + run.Folder + u"a.avi]\n"_s))
+        << "it has none";
 }

@@ -5,7 +5,7 @@
 #include <QOperatingSystemVersion>
 #include <windows.h>
 
-TEST(System_Identification, TheVersionLineHasTheSystemsOwnNumbersAndAServicePackWhereThereIsOne)
+TEST(System_Identification, TheVersionLineHasThreeFieldsAndTwoBlanksWithoutAServicePack)
 {
     const Os_Version_Info info{.Major = 6, .Minor = 1, .Build = 7601, .Service_Pack_Major = 1, .Service_Pack_Minor = 2};
     EXPECT_EQ(OS_Version_Line(Get_OS_Name(info), Service_Pack(info), Version_Numbers(info)),

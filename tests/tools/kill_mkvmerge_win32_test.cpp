@@ -6,7 +6,7 @@
 
 #include <QCoreApplication>
 
-TEST(KillMkvmerge, EveryProcessOfTheSessionWithTheNameGoesInWhateverLettersAndNoOther)
+TEST(KillMkvmerge, EveryProcessWhoseExecutableHasTheNameGoesAndNoOther)
 {
     const Test_Program test;
     // Names that nothing else on the machine has, and one that only begins like it.
