@@ -34,7 +34,7 @@ struct Log_Run : Library_Run
         QString log = Log();
         EXPECT_EQ(log.count(u'\n'), log.count(u"\r\n"_s)) << "every line ends in CR LF";
         log.replace(u"\r\n"_s, u"\n"_s).replace(Prog.Tools.FFProbe_Path, u"F"_s).replace(Path(), u"R/"_s);
-        log.replace(Executable_Name(u"tools/mkvmerge"_s), u"tools/mkvmerge"_s).replace(u'\\', u'/');
+        log.replace(u'\\', u'/').replace(Executable_Name(u"tools/mkvmerge"_s), u"tools/mkvmerge"_s);
         static const QRegularExpression seconds(u"took \\d+ seconds?"_s);
         return log.replace(seconds, u"took 0 seconds"_s).toUtf8();
     }
