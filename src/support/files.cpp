@@ -1,5 +1,6 @@
 #include "support/files.h"
 
+#include "support/disk_names.h"
 #include "support/disk_steps.h"
 #include "support/last_error.h"
 #include "support/paths.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QStringDecoder>
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -34,9 +36,10 @@ QStringList List_Files(const QString& folder)
 
 QString Why_Unreadable(const QString& folder)
 {
-    int error = 0;
-    Read_Entries(folder, error);
-    return error == 0 ? QString() : System_Words(error);
+    // Only what stands first is read: a folder may hold very much.
+    std::error_code error;
+    const std::filesystem::directory_iterator first(Native_Path(folder), error);
+    return error ? System_Words(error.value()) : QString();
 }
 
 QString As_On_Disk(const QString& path)
