@@ -40,6 +40,23 @@ QString Bar_Text(const Bar_Facts& facts, int columns)
     return Fitting(bar + Facts_Text(facts), columns);
 }
 
+void Progress_Bar::Show(const Bar_Facts& facts)
+{
+    if (!on_)
+        return;
+    if (!draws_over_) {
+        Show_Line(facts);
+        return;
+    }
+    // The last column stays free: a terminal may go on to the next line behind it.
+    const int columns = Columns();
+    const QString text = Bar_Text(facts, columns > 1 ? columns - 1 : 79);
+    if (text == shown_)
+        return;
+    Print_Text(stream_, Wiped_Line + text);
+    shown_ = text;
+}
+
 void Progress_Bar::Show_Line(const Bar_Facts& facts)
 {
     if (line_of_ == facts.Index)

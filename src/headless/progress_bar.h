@@ -33,6 +33,8 @@ class Progress_Bar
     void Wipe();
 
   private:
+    /// How wide the terminal is; 0: it doesn't tell.
+    int Columns() const;
     void Show_Line(const Bar_Facts& facts);
 
     std::FILE* stream_;

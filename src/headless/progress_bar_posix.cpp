@@ -1,7 +1,5 @@
 #include "headless/progress_bar.h"
 
-#include "headless/print.h"
-
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -15,19 +13,8 @@ Progress_Bar::Progress_Bar(std::FILE* stream, bool wanted)
     : stream_(stream), on_(wanted && isatty(fileno(stream)) == 1), draws_over_(Terminal_Draws_Over())
 {}
 
-void Progress_Bar::Show(const Bar_Facts& facts)
+int Progress_Bar::Columns() const
 {
-    if (!on_)
-        return;
-    if (!draws_over_) {
-        Show_Line(facts);
-        return;
-    }
     winsize size = {};
-    const bool known = ioctl(fileno(stream_), TIOCGWINSZ, &size) == 0 && size.ws_col > 1;
-    const QString text = Bar_Text(facts, known ? size.ws_col - 1 : 79);
-    if (text == shown_)
-        return;
-    Print_Text(stream_, Wiped_Line + text);
-    shown_ = text;
+    return ioctl(fileno(stream_), TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }

@@ -1,4 +1,3 @@
-#include "headless/print.h"
 #include "headless/progress_bar.h"
 
 #include <io.h>
@@ -26,20 +25,9 @@ Progress_Bar::Progress_Bar(std::FILE* stream, bool wanted)
     : stream_(stream), on_(wanted && Console_Mode(stream) != 0), draws_over_(Draws_Over(stream))
 {}
 
-void Progress_Bar::Show(const Bar_Facts& facts)
+int Progress_Bar::Columns() const
 {
-    if (!on_)
-        return;
-    if (!draws_over_) {
-        Show_Line(facts);
-        return;
-    }
     CONSOLE_SCREEN_BUFFER_INFO info = {};
     const bool known = GetConsoleScreenBufferInfo(Handle_Of(stream_), &info) != FALSE;
-    const int columns = known ? info.srWindow.Right - info.srWindow.Left + 1 : 0;
-    const QString text = Bar_Text(facts, columns > 1 ? columns - 1 : 79);
-    if (text == shown_)
-        return;
-    Print_Text(stream_, Wiped_Line + text);
-    shown_ = text;
+    return known ? info.srWindow.Right - info.srWindow.Left + 1 : 0;
 }

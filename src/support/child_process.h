@@ -76,6 +76,8 @@ class Child_Process
 
   private:
     struct Platform; ///< our ends of the pipes, and what else the platform holds of a child
+    /// What two pipes together have delivered.
+    static Read Both(Read one, Read other);
     bool Reap(int milliseconds);
     void Close_Pipes();
 

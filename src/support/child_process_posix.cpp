@@ -249,15 +249,6 @@ Child_Process::Read Child_Process::Read_Chunk(QByteArray& chunk, std::size_t mos
     return ::poll(&waited, 1, Longest_Silence) > 0 ? Read_Now(platform_->Output, chunk, most) : read;
 }
 
-/// What two pipes together have delivered.
-static Child_Process::Read Both(Child_Process::Read one, Child_Process::Read other)
-{
-    using Read = Child_Process::Read;
-    if (one == Read::Data || other == Read::Data)
-        return Read::Data;
-    return one == Read::Ended && other == Read::Ended ? Read::Ended : Read::Nothing_Yet;
-}
-
 Child_Process::Read Child_Process::Read_Chunks(QByteArray& output, QByteArray& messages, std::size_t most)
 {
     const auto read_both = [&] {

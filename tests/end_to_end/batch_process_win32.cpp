@@ -1,4 +1,3 @@
-#include "common/media.h"
 #include "end_to_end/batch_process.h"
 
 #include <QFile>
@@ -6,18 +5,8 @@
 // It takes what windows.h defines.
 #include <tlhelp32.h>
 
-/// Where MKVToolNix puts its path; the tools of PATH stand in for an installed one.
-static void Register_Mkvtoolnix()
-{
-    constexpr wchar_t key[] = LR"(SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\mkvtoolnix-gui.exe)";
-    const QString tool = Tool_In_Path(u"mkvtoolnix-gui"_s);
-    RegSetKeyValueW(HKEY_CURRENT_USER, key, nullptr, REG_SZ, tool.utf16(),
-                    static_cast<DWORD>((tool.size() + 1) * qsizetype(sizeof(wchar_t))));
-}
-
 void Prepare_For_Start(QProcess& process)
 {
-    Register_Mkvtoolnix();
     // A console of its own, in which Ctrl-C reaches it alone.
     process.setCreateProcessArgumentsModifier(
         [](QProcess::CreateProcessArguments* arguments) { arguments->flags |= CREATE_NO_WINDOW; });

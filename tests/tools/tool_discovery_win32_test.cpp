@@ -1,46 +1,12 @@
+#include "common/registered_program_win32.h"
+#include "common/test_installation.h"
 #include "tools/tools_fixture.h"
-
-#include <windows.h>
-
-static const QString App_Paths = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\mkvtoolnix-gui.exe"_s;
 
 namespace {
 
-/// A registry of the test's own in place of the machine's and the person's.
 struct Registered_Tools : Tools_Test
 {
-    Registered_Tools()
-    {
-        for (const auto& [root, name] :
-             {std::pair(HKEY_LOCAL_MACHINE, u"\\machine"_s), std::pair(HKEY_CURRENT_USER, u"\\person"_s)}) {
-            HKEY key = nullptr;
-            RegCreateKeyExW(HKEY_CURRENT_USER, (place_ + name).toStdWString().c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                            nullptr, &key, nullptr);
-            overrides_.emplace_back(root, key);
-        }
-        for (const auto& [root, key] : overrides_)
-            RegOverridePredefKey(root, key);
-    }
-
-    ~Registered_Tools() override
-    {
-        for (const auto& [root, key] : overrides_) {
-            RegOverridePredefKey(root, nullptr);
-            RegCloseKey(key);
-        }
-        RegDeleteTreeW(HKEY_CURRENT_USER, place_.toStdWString().c_str());
-    }
-
-    static void Register(HKEY root, const QString& path, DWORD type = REG_SZ)
-    {
-        const std::wstring text = path.toStdWString();
-        RegSetKeyValueW(root, App_Paths.toStdWString().c_str(), nullptr, type, text.c_str(),
-                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-    }
-
-  private:
-    QString place_ = u"Software\\Vantorra_Test_%1"_s.arg(GetCurrentProcessId());
-    std::vector<std::pair<HKEY, HKEY>> overrides_;
+    Test_Installation Installation;
 };
 
 } // namespace
@@ -62,11 +28,11 @@ TEST_F(Registered_Tools, TheInstalledMkvmergeIsTheOneBesideTheRegisteredProgram)
     };
     qputenv("Test_Root", Path().chopped(1).toUtf8());
     for (const auto& [root, registered, type, mkvmerge] : claims) {
-        Register(root, registered, type);
+        Register_MKVToolNix(root, registered, type);
         EXPECT_TRUE(Find_MKVMerge_In_Registry(Prog, path)) << registered.toStdString();
         EXPECT_EQ(path, mkvmerge) << registered.toStdString();
     }
-    Register(HKEY_LOCAL_MACHINE, u"C:\\gone\\mkvtoolnix-gui.exe"_s);
+    Register_MKVToolNix(HKEY_LOCAL_MACHINE, u"C:\\gone\\mkvtoolnix-gui.exe"_s);
     EXPECT_FALSE(Find_MKVMerge_In_Registry(Prog, path));
     EXPECT_EQ(Codes(), QList<int>{52});
 }
@@ -75,7 +41,7 @@ TEST_F(Registered_Tools, TheSystemCopyIsTheSettingsPathElseTheRegisteredOneElseT
 {
     const QString kept = Says(u"my tools/mkvmerge"_s, "mkvmerge v1");
     const QString installed = Says(u"suite/mkvmerge"_s, "mkvmerge v1");
-    Register(HKEY_LOCAL_MACHINE, Says(u"suite/mkvtoolnix-gui"_s, "x"));
+    Installation.Install(Says(u"suite/mkvtoolnix-gui"_s, "x"));
     Prog.Tools.Local_MKVMerge_Path = u"C:\\local\\mkvmerge.exe"_s;
     const std::tuple<QString, QString, QString, QList<int>> claims[] = {
         {kept, kept, u"Set by Operator"_s, {}},

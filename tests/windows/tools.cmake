@@ -5,6 +5,10 @@ set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_SOURCE_DIR}/windows/run_under_
 # Where the programs see the host's files.
 set(drive "Z:")
 
+# A prefix of the build's own, in which MKVToolNix counts as installed.
+add_test(NAME prepare_wine COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/windows/prepare_wine ${CMAKE_BINARY_DIR})
+set_tests_properties(prepare_wine PROPERTIES FIXTURES_SETUP emulator TIMEOUT 300)
+
 # Has Wine's host run the shell script that lies beside it.
 add_executable(tool_forwarder windows/tool_forwarder.cpp windows/unix_paths.cpp)
 target_include_directories(tool_forwarder PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
