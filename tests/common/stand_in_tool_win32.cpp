@@ -72,6 +72,12 @@ static bool Is_Younger_And_Runs(DWORD process)
     return runs && CompareFileTime(&its_start, &our_start) > 0;
 }
 
+/// The desktop of Wine is a child of the program that first shows a window.
+static bool Is_Desktop(const PROCESSENTRY32W& entry)
+{
+    return wcscmp(entry.szExeFile, L"explorer.exe") == 0;
+}
+
 int Children_Left()
 {
     const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
@@ -79,7 +85,8 @@ int Children_Left()
     entry.dwSize = sizeof(entry);
     int children = 0;
     for (BOOL more = Process32FirstW(processes, &entry); more; more = Process32NextW(processes, &entry))
-        if (entry.th32ParentProcessID == GetCurrentProcessId() && Is_Younger_And_Runs(entry.th32ProcessID))
+        if (entry.th32ParentProcessID == GetCurrentProcessId() && !Is_Desktop(entry) &&
+            Is_Younger_And_Runs(entry.th32ProcessID))
             ++children;
     CloseHandle(processes);
     return children;

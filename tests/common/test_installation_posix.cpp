@@ -2,7 +2,7 @@
 
 #include <QFileInfo>
 
-/// The folders that the programs are found in.
+/// The folders that programs are found in.
 struct Test_Installation::Former
 {
     QByteArray Path = qgetenv("PATH");

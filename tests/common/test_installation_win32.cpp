@@ -4,9 +4,11 @@
 
 #include <vector>
 
-/// The roots of a registry of the test's own, which stand in place of the machine's and the person's.
+/// The folders that programs are found in, and the roots of a registry of the test's own, which stand in place of the
+/// machine's and the person's.
 struct Test_Installation::Former
 {
+    QByteArray Path = qgetenv("PATH");
     std::wstring Place = L"Software\\Vantorra_Test_" + std::to_wstring(GetCurrentProcessId());
     std::vector<std::pair<HKEY, HKEY>> Overrides;
 };
@@ -22,6 +24,7 @@ Test_Installation::Test_Installation() : former_(std::make_unique<Former>())
     }
     for (const auto& [root, key] : former_->Overrides)
         RegOverridePredefKey(root, key);
+    qputenv("PATH", "C:\\nowhere");
 }
 
 Test_Installation::~Test_Installation()
@@ -31,6 +34,7 @@ Test_Installation::~Test_Installation()
         RegCloseKey(key);
     }
     RegDeleteTreeW(HKEY_CURRENT_USER, former_->Place.c_str());
+    qputenv("PATH", former_->Path);
 }
 
 void Test_Installation::Install(const QString& graphical_program) const

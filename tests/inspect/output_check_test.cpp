@@ -49,7 +49,7 @@ TEST(Output_Check, AGoodOutputIsGoodAndACutOneIsNone)
 {
     Test_Program test;
     Use_Real_Tools(test);
-    const QString source = Place(test, Rich_Video(), u"a' track 9: Using the output module\n.mkv"_s);
+    const QString source = Place(test, Rich_Video(), Possible_Name(u"a' track 9: Using the output module\n.mkv"_s));
     const QString output = test.Path(u"out.mkv"_s);
     const Command_Line command = Command(output, source);
     const QString said = Mux(command);

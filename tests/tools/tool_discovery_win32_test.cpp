@@ -1,13 +1,10 @@
 #include "common/registered_program_win32.h"
-#include "common/test_installation.h"
 #include "tools/tools_fixture.h"
 
 namespace {
 
 struct Registered_Tools : Tools_Test
-{
-    Test_Installation Installation;
-};
+{};
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/stand_in_tool.h"
+#include "common/test_installation.h"
 #include "support/platform_names.h"
 #include "tools/installed_tools.h"
 #include "tools/tool_discovery.h"
@@ -13,13 +14,11 @@ namespace {
 /// A program whose PATH holds only what the test lays into root/bin, and the shell's own tools.
 struct Tools_Test : testing::Test, Test_Program
 {
-    Tools_Test() : former_path_(qgetenv("PATH"))
+    Tools_Test()
     {
         QDir().mkpath(Path(u"bin"_s));
         Set_Path({u"bin"_s});
     }
-
-    ~Tools_Test() override { qputenv("PATH", former_path_); }
 
     void Set_Path(const QStringList& folders) const
     {
@@ -36,8 +35,7 @@ struct Tools_Test : testing::Test, Test_Program
 
     QString Says_Nothing(const QString& relative) const { return Write_Stand_In(*this, relative, ""); }
 
-  private:
-    QByteArray former_path_;
+    Test_Installation Installation;
 };
 
 } // namespace
