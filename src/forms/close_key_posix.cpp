@@ -1,3 +1,3 @@
 #include "forms/close_key.h"
 
-void Watch_Close_Key(QWidget&, std::function<void()>) {}
+void Watch_Close_Key(QWidget&, const std::function<void()>&) {}

@@ -35,7 +35,7 @@ class Close_Key_Filter : public QObject, public QAbstractNativeEventFilter
 
 } // namespace
 
-void Watch_Close_Key(QWidget& form, std::function<void()> pressed)
+void Watch_Close_Key(QWidget& form, const std::function<void()>& pressed)
 {
-    new Close_Key_Filter(form, std::move(pressed));
+    new Close_Key_Filter(form, pressed);
 }
