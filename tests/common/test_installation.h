@@ -4,6 +4,7 @@
 #include <memory>
 
 /// Where this process finds an installed MKVToolNix for as long as this stands: nowhere but where the test has put one.
+/// PATH leads nowhere meanwhile, and on Windows the registry's roots are empty ones of the test's own.
 class Test_Installation
 {
   public:
